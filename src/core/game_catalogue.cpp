@@ -1,0 +1,94 @@
+#include "core/game_catalogue.h"
+
+#include <string>
+
+#include "base/quietly.h"
+#include "base/text.h"
+#include "core/emulator_contract.h"
+#include "core/module1.h"
+#include "i18n/message_catalogue.h"
+#include "launch/process_capture.h"
+#include "platform/files.h"
+
+namespace core {
+namespace {
+
+using i18n::Msg;
+using launch::FileExists;
+using namespace Module1;
+
+constexpr std::size_t kSearchedFolders = 4;
+
+void TakeVersion(std::string_view banner, MainForm& form) {
+  auto version = banner.substr(base::OffsetOfChar(banner, kBanner.size()));
+  if (!version.empty()) {
+    auto last = version.size() - 1;
+    while (last > 0 && (static_cast<unsigned char>(version[last]) & 0xC0U) == 0x80U) --last;
+    version = version.substr(0, last);
+  }
+  EmulatorVersion = version;
+  form.SetTitle(MainTitle());
+}
+
+void AddGame(std::string_view line) {
+  if (GameCatalog.size() >= kMaxGames + 2) return;
+  auto& game = GameCatalog[GameCatalog.size() - 2];
+  game.RomName = base::Trim(line.substr(0, base::OffsetOfChar(line, kNameColumns)));
+  game.Title = base::Trim(line.substr(base::OffsetOfChar(line, kNameColumns - 1)));
+  GameCatalog.emplace_back();
+}
+
+void FindArchive(GameEntry& game) {
+  for (std::size_t folder = 0; folder < kSearchedFolders; ++folder) {
+    if (RomPaths[folder].empty()) return;
+    auto archive = RomPaths[folder] + "\\" + game.RomName + ".zip";
+    game.Available = FileExists(archive);
+    if (game.Available) {
+      game.RomFolder = static_cast<unsigned char>(folder);
+      return;
+    }
+  }
+}
+
+void DeleteStrayErrorLog() {
+  auto log = AppFolder + "\\" + std::string(kErrorLog);
+  if (FileExists(log)) platform::DeleteFile(log);
+}
+
+}  // namespace
+
+std::string MainTitle() {
+  return "Kestrivane UI®  (Kestrivane " + EmulatorVersion + Msg(4);
+}
+
+void LoadGameCatalog(MainForm& form) {
+  auto emulator = AppFolder + std::string(kEmulatorFile);
+  if (!FileExists(emulator)) return form.AbortWith(Msg(3), Msg(2));
+  const auto output =
+      launch::ShellExecuteCapture(AppFolder + std::string(kListingCommand), false);
+  const auto lines = base::Split(output, base::kLineEnd);
+  if (lines.size() < 2) return form.AbortWith(Msg(18), Msg(2));
+  base::Quietly([&] {
+    for (const auto line : lines) ParseGameListLine(base::Trim(line), form);
+    DeleteStrayErrorLog();
+    FindGameArchives();
+    form.RefreshGameList();
+  });
+  form.BecomeVisible();
+}
+
+void ParseGameListLine(std::string_view line, MainForm& form) {
+  if (line.empty()) return;
+  if (base::ContainsIgnoringCase(line, kBanner))
+    TakeVersion(line, form);
+  else if (base::ContainsIgnoringCase(line, kSeparator))
+    GameListHeaderSeen = true;
+  else if (GameListHeaderSeen)
+    AddGame(line);
+}
+
+void FindGameArchives() {
+  for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row) FindArchive(GameCatalog[row]);
+}
+
+}  // namespace core

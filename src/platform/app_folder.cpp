@@ -1,0 +1,43 @@
+#include "platform/app_folder.h"
+
+#include <filesystem>
+#include <string_view>
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include <array>
+#endif
+
+namespace platform {
+namespace {
+
+std::filesystem::path ExecutablePath() {
+#ifdef _WIN32
+  std::array<wchar_t, 32768> name{};
+  GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()));
+  return name.data();
+#else
+  return std::filesystem::read_symlink("/proc/self/exe");
+#endif
+}
+
+std::string& Folder() {
+  static std::string folder = [] {
+    const auto text = ExecutablePath().parent_path().u8string();
+    return std::string(text.begin(), text.end());
+  }();
+  return folder;
+}
+
+}  // namespace
+
+std::string ProgramFolder() { return Folder(); }
+
+void SetProgramFolder(std::string folder) { Folder() = std::move(folder); }
+
+void SetWorkingFolder(const std::string& folder) {
+  std::filesystem::current_path(std::u8string(folder.begin(), folder.end()));
+}
+
+}  // namespace platform

@@ -1,0 +1,70 @@
+#include <utility>
+
+#include "base/text.h"
+#include "platform/app_folder.h"
+#include "platform/files.h"
+#include "platform/process.h"
+
+namespace platform {
+namespace {
+
+// The file that a program's name stands for, in the system's spelling.
+std::optional<std::string> FindProgram(std::string name) {
+  if (name.empty()) return {};
+  const auto slash = name.find_last_of("\\/");
+  const auto lastName = slash == std::string::npos ? std::string_view(name)
+                                                   : std::string_view(name).substr(slash + 1);
+  if (lastName.find('.') == std::string_view::npos) name += ".exe";
+  if (slash != std::string::npos) {
+    if (!IsFile(name)) return {};
+    return SystemPath(name);
+  }
+  for (const auto& folder : {ProgramFolder(), std::string(".")})
+    if (const auto path = folder + "/" + name; IsFile(path)) return SystemPath(path);
+  return {};
+}
+
+std::vector<std::string> SplitArguments(std::string_view text) {
+  std::vector<std::string> arguments;
+  bool quoted = false;
+  bool started = false;
+  for (const char c : text) {
+    if (c == '"') {
+      quoted = !quoted;
+    } else if (c == ' ' && !quoted) {
+      started = false;
+      continue;
+    }
+    if (!started) arguments.emplace_back();
+    started = true;
+    if (c != '"') arguments.back() += c;
+  }
+  return arguments;
+}
+
+Command MakeCommand(std::string program, std::string_view rest) {
+  Command command{std::move(program), SplitArguments(rest)};
+  for (auto& argument : command.arguments)
+    if (!argument.starts_with('-') && argument.find_first_of("\\/") != std::string::npos)
+      argument = SystemPath(argument);
+  return command;
+}
+
+}  // namespace
+
+std::optional<Command> FindCommand(std::string_view commandLine) {
+  const auto line = base::Trim(commandLine);
+  if (line.starts_with('"')) {
+    const auto end = line.find('"', 1);
+    auto program = FindProgram(std::string(line.substr(1, end == line.npos ? end : end - 1)));
+    if (!program) return {};
+    return MakeCommand(std::move(*program), end == line.npos ? "" : line.substr(end + 1));
+  }
+  for (auto end = line.find(' ');; end = line.find(' ', end + 1)) {
+    if (auto program = FindProgram(std::string(line.substr(0, end))))
+      return MakeCommand(std::move(*program), end == line.npos ? "" : line.substr(end));
+    if (end == line.npos) return {};
+  }
+}
+
+}  // namespace platform

@@ -1,0 +1,42 @@
+// Files and folders. Paths are UTF-8, with "\" or the system's separator, in any letter case: every
+// existing component is found ignoring case, the exact spelling first. Functions without a truth
+// value as result throw std::exception when the system refuses.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+// The path in the system's spelling; components that don't exist stay as given.
+std::string SystemPath(std::string_view path);
+
+// True for a regular file, or a link to one.
+bool IsFile(std::string_view path);
+bool IsFolder(std::string_view path);
+
+void MakeFolder(std::string_view path);
+void DeleteFile(std::string_view path);
+
+// Deletes the folder's files whose name ends in `ending`, in any letter case. Throws if there is
+// none, and at the first that can't be deleted.
+void DeleteFilesEndingIn(std::string_view folder, std::string_view ending);
+
+// Copies the bytes; an existing target is replaced.
+void CopyFileBytes(std::string_view from, std::string_view to);
+
+// The bytes of a regular file.
+std::string ReadBytes(std::string_view path);
+
+// Writes the whole content in place. The old content stands when the file can't be opened or the
+// disk has no room for the new one.
+void WriteBytes(std::string_view path, std::string_view bytes);
+
+// A file of single-byte text as UTF-8. A line ends at CR or CR LF, and each ends in CR LF here.
+std::string ReadText(std::string_view path);
+
+// UTF-8 text into a single-byte file.
+void WriteText(std::string_view path, std::string_view text);
+
+}  // namespace platform

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace forms {
+
+// The toolkit, once per program, before the first form.
+class Application {
+ public:
+  Application();
+  ~Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  // Handles events until LeaveEventLoop.
+  void run();
+
+ private:
+  struct Native;
+  std::unique_ptr<Native> native_;
+};
+
+void LeaveEventLoop();
+
+// Handles the events that are waiting.
+void DoEvents();
+
+// Ends the program at once: no unload step, nothing written. A test puts its own in place.
+std::function<void(int status)>& EndProgram();
+
+}  // namespace forms

@@ -1,0 +1,25 @@
+#include "platform/forms/command_button.h"
+
+#include <QPushButton>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+
+CommandButton::CommandButton(Container& parent, const char* name, const Box& box,
+                             const std::string& caption, const FontStyle& font)
+    : Control(new QPushButton(parent.clientArea()), name, box, font) {
+  auto* button = static_cast<QPushButton*>(widget());
+  QObject::connect(button, &QPushButton::clicked, button, [this] { Raise(onClick); });
+  setCaption(caption);
+}
+
+std::string CommandButton::caption() const {
+  return static_cast<QPushButton*>(widget())->text().toStdString();
+}
+
+void CommandButton::setCaption(const std::string& caption) {
+  static_cast<QPushButton*>(widget())->setText(ToQString(caption));
+}
+
+}  // namespace forms

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+// A push button. "&" marks the access key of its caption.
+class CommandButton : public Control {
+ public:
+  CommandButton(Container& parent, const char* name, const Box& box, const std::string& caption,
+                const FontStyle& font = {});
+
+  std::string caption() const;
+  void setCaption(const std::string& caption);
+
+  std::function<void()> onClick;
+
+ private:
+  friend class Form;
+};
+
+}  // namespace forms

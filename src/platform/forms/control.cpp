@@ -1,0 +1,106 @@
+#include "platform/forms/control.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QPalette>
+#include <QTextDocument>
+#include <QWidget>
+#include <cmath>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+
+QColor ToColour(Colour colour) { return {colour.red, colour.green, colour.blue}; }
+
+const QString& FontFamily() {
+  static const QString family = QFontDatabase::hasFamily(QStringLiteral("Verdana"))
+                                    ? QStringLiteral("Verdana")
+                                    : QStringLiteral("DejaVu Sans");
+  return family;
+}
+
+}  // namespace
+
+int ToPixels(int twips) {
+  return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
+}
+
+int ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
+
+// Edges are rounded, not sizes, so that neighbours keep touching.
+QRect ToPixels(const Box& box) {
+  return {QPoint(ToPixels(box.left), ToPixels(box.top)),
+          QPoint(ToPixels(box.left + box.width) - 1, ToPixels(box.top + box.height) - 1)};
+}
+
+QFont ToFont(const FontStyle& style) {
+  QFont font(FontFamily());
+  font.setPixelSize(static_cast<int>(std::lround(style.points * 96 / 72)));
+  font.setBold(style.bold);
+  font.setItalic(style.italic);
+  font.setUnderline(style.underline);
+  return font;
+}
+
+QString ToQString(const std::string& text) { return QString::fromStdString(text); }
+
+Control::Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font)
+    : widget_(widget) {
+  widget_->setObjectName(QString::fromUtf8(name));
+  setFont(font);
+  move(box);
+  widget_->show();
+}
+
+Control::~Control() { delete widget_; }
+
+void Control::move(const Box& box) {
+  box_ = box;
+  widget_->setGeometry(ToPixels(box));
+}
+
+void Control::setLeft(int left) { move({left, box_.top, box_.width, box_.height}); }
+
+bool Control::visible() const { return !widget_->isHidden(); }
+
+void Control::setVisible(bool visible) { widget_->setVisible(visible); }
+
+bool Control::enabled() const { return widget_->isEnabledTo(widget_->parentWidget()); }
+
+void Control::setEnabled(bool enabled) { widget_->setEnabled(enabled); }
+
+void Control::setFocus() { widget_->setFocus(Qt::OtherFocusReason); }
+
+std::string Control::toolTip() const { return widget_->property("plainToolTip").toString().toStdString(); }
+
+void Control::setToolTip(const std::string& text) {
+  const auto plain = ToQString(text);
+  widget_->setProperty("plainToolTip", plain);
+  widget_->setToolTip(Qt::mightBeRichText(plain) ? plain.toHtmlEscaped() : plain);
+}
+
+void Control::setFont(const FontStyle& font) { widget_->setFont(ToFont(font)); }
+
+void Control::setTextColour(Colour colour) {
+  auto palette = widget_->palette();
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(role, ToColour(colour));
+  widget_->setPalette(palette);
+}
+
+void Control::setBackColour(Colour colour) {
+  auto palette = widget_->palette();
+  for (const auto role : {QPalette::Window, QPalette::Base}) palette.setColor(role, ToColour(colour));
+  widget_->setPalette(palette);
+  widget_->setAutoFillBackground(true);
+}
+
+void Control::setAccessibleName(const std::string& name) {
+  widget_->setAccessibleName(ToQString(name));
+}
+
+}  // namespace forms

@@ -1,0 +1,76 @@
+// What all controls have in common. Positions and sizes are in twips, 15 to a pixel at 96 dots per
+// inch, inside the form or frame that holds the control.
+#pragma once
+
+#include <functional>
+#include <string>
+
+class QWidget;
+
+namespace forms {
+
+struct Box {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+
+struct FontStyle {
+  double points = 8.25;
+  bool bold = false, italic = false, underline = false;
+};
+
+struct Colour {
+  int red = 0, green = 0, blue = 0;
+};
+
+// A form or a frame: what controls are built on.
+class Container {
+ public:
+  virtual QWidget* clientArea() const = 0;
+
+ protected:
+  Container() = default;
+  ~Container() = default;
+};
+
+class Control {
+ public:
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  Box box() const { return box_; }
+  void move(const Box& box);
+  void setLeft(int left);
+
+  // The control's own state, whatever that of the form or frame that holds it.
+  bool visible() const;
+  void setVisible(bool visible);
+  bool enabled() const;
+  void setEnabled(bool enabled);
+
+  void setFocus();
+
+  // Plain text.
+  std::string toolTip() const;
+  void setToolTip(const std::string& text);
+
+  void setFont(const FontStyle& font);
+  void setTextColour(Colour colour);
+  void setBackColour(Colour colour);
+
+  // What assistive technology calls the control, where it has no caption of its own.
+  void setAccessibleName(const std::string& name);
+
+ protected:
+  // Takes over `widget`, which was built on the container's client area. `name` is what tests and
+  // tools find the control by.
+  Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font);
+
+  QWidget* widget() const { return widget_; }
+
+ private:
+  QWidget* widget_;
+  Box box_;
+};
+
+}  // namespace forms

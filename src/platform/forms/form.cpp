@@ -1,0 +1,202 @@
+#include "platform/forms/form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QLayout>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QThread>
+#include <QWindow>
+
+#include "platform/forms/native.h"
+#include "platform/forms/picture_data.h"
+
+namespace forms {
+namespace {
+
+Qt::WindowFlags FlagsOf(Border border) {
+  const auto titled = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                      Qt::WindowCloseButtonHint;
+  switch (border) {
+    case Border::FixedSingle:
+      return Qt::Window | titled | Qt::WindowMinimizeButtonHint;
+    case Border::FixedTool:
+      return Qt::Tool | titled;
+    case Border::FixedDialog:
+      return Qt::Dialog | titled;
+    case Border::None:
+      break;
+  }
+  return Qt::Dialog | Qt::FramelessWindowHint;
+}
+
+class FormWindow : public QMainWindow {
+ public:
+  FormWindow(Form& form, Border border) : QMainWindow(nullptr, FlagsOf(border)), form_(form) {
+    qApp->installEventFilter(this);
+  }
+
+  void waitUntilClosed() {
+    QEventLoop loop;
+    loop_ = &loop;
+    if (isVisible()) loop.exec();
+    loop_ = nullptr;
+  }
+  // Until the window stands painted on the screen, or for a second where nothing tells.
+  void waitUntilShown() const {
+    const QDeadlineTimer patience(std::chrono::seconds(1));
+    do {
+      QApplication::processEvents();
+      if (windowHandle()->isExposed()) break;
+      QThread::msleep(1);
+    } while (!patience.hasExpired());
+    QApplication::processEvents();
+  }
+
+  QPushButton* defaultButton = nullptr;
+  bool closeRefused = false;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    auto* target = static_cast<QWidget*>(watched);
+    // An event that a control ignores climbs to its parents; the form has seen it by then.
+    const QWidget* focus = QApplication::focusWidget();
+    if (target->window() != this || target != (focus ? focus : this)) return false;
+    // The menu bar under the keyboard keeps its own Escape and Enter.
+    if (qobject_cast<QMenuBar*>(target)) return false;
+
+    const auto key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Escape) {
+      Raise(form_.onKeyPress, kEscape);
+      return true;
+    }
+    return (key == Qt::Key_Return || key == Qt::Key_Enter) && pressButtonFor(*target);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    event->setAccepted(!closeRefused);
+    if (closeRefused) return;
+    Raise(form_.onUnload);
+    if (loop_) loop_->quit();
+  }
+  void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { Raise(form_.onDblClick); }
+
+ private:
+  // Enter in a control: a push button presses itself, a control of many lines keeps the key.
+  bool pressButtonFor(QWidget& focus) {
+    if (auto* own = qobject_cast<QPushButton*>(&focus)) {
+      own->click();
+      return true;
+    }
+    if (focus.property("takesEnter").toBool() || !defaultButton) return false;
+    defaultButton->click();
+    return true;
+  }
+
+  Form& form_;
+  QEventLoop* loop_ = nullptr;
+};
+
+QPoint Centre(const QRect& outer) { return {outer.x() + outer.width() / 2, outer.y() + outer.height() / 2}; }
+
+}  // namespace
+
+struct Form::Native {
+  Native(Form& form, Border border) : window(form, border), framed(border != Border::None) {}
+
+  // Centres the window, whose frame is not known before it shows: all frames of a desktop being
+  // alike, that of `neighbour` stands in.
+  void centreOn(QPoint centre, const QWidget* neighbour) {
+    window.adjustSize();
+    const auto frame = framed && neighbour ? neighbour->frameGeometry().size() - neighbour->size() : QSize();
+    const auto outer = window.size() + (frame.isValid() ? frame : QSize(0, 0));
+    window.move(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
+  }
+
+  FormWindow window;
+  bool framed;
+  QWidget* client = nullptr;
+  std::string title;
+};
+
+Form::Form(const char* name, Border border, int clientWidth, int clientHeight)
+    : native_(std::make_unique<Native>(*this, border)) {
+  auto& window = native_->window;
+  window.setObjectName(QString::fromUtf8(name));
+  window.setContextMenuPolicy(Qt::NoContextMenu);
+  native_->client = new QWidget(&window);
+  native_->client->setFixedSize(ToPixels(clientWidth), ToPixels(clientHeight));
+  window.setCentralWidget(native_->client);
+  window.layout()->setSizeConstraint(QLayout::SetFixedSize);
+  setIcon(Picture::FromAsset("icon.ico"));
+}
+
+Form::~Form() = default;
+
+std::string Form::title() const { return native_->title; }
+
+void Form::setTitle(const std::string& title) {
+  native_->title = title;
+  // The toolkit takes this mark for one of its own unless it is doubled.
+  native_->window.setWindowTitle(ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+void Form::setIcon(const Picture& icon) { native_->window.setWindowIcon(IconOf(icon)); }
+
+void Form::setColours(Colour back, Colour text) {
+  auto palette = native_->client->palette();
+  palette.setColor(QPalette::Window, QColor(back.red, back.green, back.blue));
+  palette.setColor(QPalette::WindowText, QColor(text.red, text.green, text.blue));
+  native_->client->setPalette(palette);
+  native_->client->setAutoFillBackground(true);
+}
+
+void Form::setDefaultButton(CommandButton& button) {
+  auto* native = static_cast<QPushButton*>(button.widget());
+  native->setDefault(true);
+  native_->window.defaultButton = native;
+}
+
+void Form::setCloseRefused(bool refused) { native_->window.closeRefused = refused; }
+
+void Form::centreOver(const Form& owner) {
+  const auto& window = owner.native_->window;
+  native_->centreOn(Centre(window.frameGeometry()), &window);
+}
+
+void Form::centreOnScreen() {
+  native_->centreOn(Centre(native_->window.screen()->availableGeometry()), nullptr);
+}
+
+void Form::show() { native_->window.show(); }
+
+void Form::showModal(Form& owner) {
+  auto& window = native_->window;
+  Raise(onLoad);
+  const auto place = window.pos();
+  window.setParent(&owner.native_->window, window.windowFlags());
+  window.move(place);
+  window.setWindowModality(Qt::ApplicationModal);
+  window.show();
+  if (onActivate) {
+    window.waitUntilShown();
+    Raise(onActivate);
+  }
+  window.waitUntilClosed();
+  window.setParent(nullptr, window.windowFlags());
+}
+
+void Form::close() { native_->window.close(); }
+
+void Form::repaint() { native_->window.repaint(); }
+
+bool Form::visible() const { return native_->window.isVisible(); }
+
+QWidget* Form::clientArea() const { return native_->client; }
+
+}  // namespace forms

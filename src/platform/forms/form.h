@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/forms/command_button.h"
+#include "platform/forms/control.h"
+#include "platform/forms/picture.h"
+
+namespace forms {
+
+enum class Border { FixedSingle, FixedTool, FixedDialog, None };
+
+inline constexpr int kEscape = 27;
+
+// A window of fixed size. It is created hidden; positions on the screen are in twips and take the
+// window with its frame.
+class Form : public Container {
+ public:
+  Form(const char* name, Border border, int clientWidth, int clientHeight);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  std::string title() const;
+  void setTitle(const std::string& title);
+  void setIcon(const Picture& icon);
+  void setColours(Colour back, Colour text);
+  // Enter presses it, unless the control in focus takes Enter itself.
+  void setDefaultButton(CommandButton& button);
+  // While true, the window can't be closed from outside.
+  void setCloseRefused(bool refused);
+
+  // Left = owner's left + owner's width / 2 - own width / 2; the same for the top.
+  void centreOver(const Form& owner);
+  void centreOnScreen();
+
+  void show();
+  // Runs the load step, shows the window over its owner, runs the activation step and returns when
+  // the window has closed. The owner and all other windows take no input meanwhile.
+  void showModal(Form& owner);
+  void close();
+  void repaint();
+  bool visible() const;
+
+  QWidget* clientArea() const override;
+
+  std::function<void()> onLoad;
+  std::function<void()> onActivate;
+  std::function<void()> onUnload;
+  std::function<void()> onDblClick;
+  // Sees each key press before the controls do.
+  std::function<void(int keyCode)> onKeyPress;
+
+ private:
+  friend class MenuItem;
+  struct Native;
+  std::unique_ptr<Native> native_;
+};
+
+}  // namespace forms

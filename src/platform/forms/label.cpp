@@ -1,0 +1,95 @@
+#include "platform/forms/label.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+class NativeLabel : public QLabel {
+ public:
+  NativeLabel(QWidget* parent, const Label& label) : QLabel(parent), label_(label) {
+    setTextFormat(Qt::PlainText);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    const auto room = contentsRect();
+    const bool fits = wordWrap() || text().contains('\n') ||
+                      fontMetrics().horizontalAdvance(text()) <= room.width();
+    if (fits) {
+      QLabel::paintEvent(event);
+    } else {
+      QPainter painter(this);
+      style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(),
+                            fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
+                            foregroundRole());
+    }
+    if (hasFocus()) {
+      QPainter painter(this);
+      QStyleOptionFocusRect option;
+      option.initFrom(this);
+      style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos())) Raise(label_.onClick);
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (label_.onDblClick)
+      Raise(label_.onDblClick);
+    else
+      QLabel::mouseDoubleClickEvent(event);
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+        event->key() == Qt::Key_Enter)
+      Raise(label_.onClick);
+    else
+      QLabel::keyPressEvent(event);
+  }
+
+ private:
+  const Label& label_;
+};
+
+QLabel* Native(QWidget* widget) { return static_cast<QLabel*>(widget); }
+
+}  // namespace
+
+Label::Label(Container& parent, const char* name, const Box& box, const std::string& caption,
+             const FontStyle& font, Align align)
+    : Control(new NativeLabel(parent.clientArea(), *this), name, box, font) {
+  const auto horizontal = align == Align::Left     ? Qt::AlignLeft
+                          : align == Align::Centre ? Qt::AlignHCenter
+                                                   : Qt::AlignRight;
+  Native(widget())->setAlignment(horizontal | Qt::AlignTop);
+  setCaption(caption);
+}
+
+std::string Label::caption() const { return Native(widget())->text().toStdString(); }
+
+void Label::setCaption(const std::string& caption) {
+  Native(widget())->setText(ToQString(caption));
+}
+
+void Label::setWordWrap(bool wrap) { Native(widget())->setWordWrap(wrap); }
+
+void Label::setBorder(bool border) {
+  Native(widget())->setFrameStyle(border ? static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain)
+                                         : static_cast<int>(QFrame::NoFrame));
+}
+
+void Label::makeLink() {
+  widget()->setForegroundRole(QPalette::Link);
+  widget()->setFocusPolicy(Qt::StrongFocus);
+  widget()->setCursor(QCursor(QPixmap(QStringLiteral(":/link_pointer.png")), 11, 4));
+}
+
+}  // namespace forms

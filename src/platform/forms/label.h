@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+enum class Align { Left, Centre, Right };
+
+// A text that is shown as it stands. A single line too long for its box ends in an ellipsis.
+class Label : public Control {
+ public:
+  Label(Container& parent, const char* name, const Box& box, const std::string& caption = {},
+        const FontStyle& font = {}, Align align = Align::Left);
+
+  std::string caption() const;
+  void setCaption(const std::string& caption);
+
+  void setWordWrap(bool wrap);
+  // A line round the label.
+  void setBorder(bool border);
+  // Makes the label a link: link colour, underlined, reached and pressed by keys too.
+  void makeLink();
+
+  std::function<void()> onClick;
+  std::function<void()> onDblClick;
+};
+
+}  // namespace forms

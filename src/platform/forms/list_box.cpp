@@ -1,0 +1,151 @@
+#include "platform/forms/list_box.h"
+
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <stdexcept>
+#include <vector>
+
+#include "base/text.h"
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+constexpr int kDeleteCode = 46;
+
+class NativeList : public QListWidget {
+ public:
+  NativeList(QWidget* parent, const ListBox& list) : QListWidget(parent), list_(list) {
+    setUniformItemSizes(true);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+  }
+
+ protected:
+  // One row at a time, and no click or key takes the selection away.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* /*event*/) const override {
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+  }
+  void mousePressEvent(QMouseEvent* event) override {
+    const auto* pressed = itemAt(event->pos());
+    const bool again = pressed && pressed->isSelected();
+    QListWidget::mousePressEvent(event);
+    if (again) Raise(list_.onClick);
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton && itemAt(event->pos())) Raise(list_.onDblClick);
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_F2 && list_.selectedRow() >= 0) {
+      Raise(list_.onDblClick);
+      return;
+    }
+    if (event->key() == Qt::Key_Delete) Raise(list_.onKeyDown, kDeleteCode);
+    QListWidget::keyPressEvent(event);
+  }
+
+ private:
+  const ListBox& list_;
+};
+
+NativeList* Native(QWidget* widget) { return static_cast<NativeList*>(widget); }
+
+QListWidgetItem& ItemAt(QWidget* widget, int row) {
+  auto* item = Native(widget)->item(row);
+  if (!item) throw std::out_of_range("no such row");
+  return *item;
+}
+
+}  // namespace
+
+// The sort keys of the rows, in their order.
+struct ListBox::Rows {
+  std::vector<std::string> keys;
+};
+
+ListBox::ListBox(Container& parent, const char* name, const Box& box, Sorting sorting,
+                 const FontStyle& font)
+    : Control(new NativeList(parent.clientArea(), *this), name, box, font),
+      sorting_(sorting),
+      rows_(std::make_unique<Rows>()) {
+  auto* list = Native(widget());
+  QObject::connect(list, &QListWidget::itemSelectionChanged, list, [this] {
+    if (selectedRow() >= 0) Raise(onClick);
+  });
+  QObject::connect(list->verticalScrollBar(), &QScrollBar::valueChanged, list,
+                   [this] { Raise(onScroll); });
+}
+
+ListBox::~ListBox() = default;
+
+void ListBox::clear() {
+  const QSignalBlocker quiet(widget());
+  Native(widget())->clear();
+  rows_->keys.clear();
+}
+
+int ListBox::add(const std::string& text) {
+  auto& keys = rows_->keys;
+  auto at = keys.end();
+  if (sorting_ == Sorting::IgnoringCase) {
+    auto key = base::FoldCase(text);
+    at = std::upper_bound(keys.begin(), keys.end(), key);
+    at = keys.insert(at, std::move(key));
+  } else {
+    at = keys.insert(at, {});
+  }
+  const int row = static_cast<int>(at - keys.begin());
+  const QSignalBlocker quiet(widget());
+  Native(widget())->insertItem(row, ToQString(text));
+  return row;
+}
+
+void ListBox::remove(int row) {
+  const QSignalBlocker quiet(widget());
+  const bool wasSelected = ItemAt(widget(), row).isSelected();
+  delete Native(widget())->takeItem(row);
+  rows_->keys.erase(rows_->keys.begin() + row);
+  if (wasSelected) select(-1);
+}
+
+void ListBox::setText(int row, const std::string& text) {
+  const QSignalBlocker quiet(widget());
+  ItemAt(widget(), row).setText(ToQString(text));
+}
+
+int ListBox::count() const { return Native(widget())->count(); }
+
+std::string ListBox::text(int row) const { return ItemAt(widget(), row).text().toStdString(); }
+
+int ListBox::itemData(int row) const { return ItemAt(widget(), row).data(Qt::UserRole).toInt(); }
+
+void ListBox::setItemData(int row, int data) {
+  const QSignalBlocker quiet(widget());
+  ItemAt(widget(), row).setData(Qt::UserRole, data);
+}
+
+int ListBox::selectedRow() const {
+  const auto selected = Native(widget())->selectionModel()->selectedRows();
+  return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+void ListBox::select(int row) {
+  if (row >= 0) ItemAt(widget(), row);
+  if (row == selectedRow()) return;
+  Native(widget())->setCurrentRow(row, row < 0 ? QItemSelectionModel::Clear
+                                               : QItemSelectionModel::ClearAndSelect);
+}
+
+int ListBox::topRow() const { return Native(widget())->verticalScrollBar()->value(); }
+
+void ListBox::setTopRow(int row) {
+  Native(widget())->doItemsLayout();
+  Native(widget())->verticalScrollBar()->setValue(row);
+}
+
+}  // namespace forms

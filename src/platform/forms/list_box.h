@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+enum class Sorting { No, IgnoringCase };
+
+// Rows of text, each with an integer that travels with it. At most one row is selected; only the
+// program can take the selection away. Rows that are not there throw std::out_of_range.
+class ListBox : public Control {
+ public:
+  ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
+          const FontStyle& font = {});
+  ~ListBox() override;
+
+  // None of these four raises an event, and removing the selected row leaves none selected.
+  void clear();
+  int add(const std::string& text);  // the row at which it was placed
+  void remove(int row);
+  void setText(int row, const std::string& text);
+
+  int count() const;
+  std::string text(int row) const;
+  int itemData(int row) const;
+  void setItemData(int row, int data);
+
+  int selectedRow() const;  // -1 for none
+  void select(int row);     // -1 for none; a change raises the click
+  int topRow() const;
+  void setTopRow(int row);
+
+  std::function<void()> onClick;
+  std::function<void()> onDblClick;             // on a row; also F2 on the selected row
+  std::function<void(int keyCode)> onKeyDown;   // 46 Delete
+  std::function<void()> onScroll;
+
+ private:
+  struct Rows;
+  Sorting sorting_;
+  std::unique_ptr<Rows> rows_;
+};
+
+}  // namespace forms

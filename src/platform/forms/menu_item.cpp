@@ -1,0 +1,61 @@
+#include "platform/forms/menu_item.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+QMenuBar& MenuBarOf(const Form& form) {
+  auto* bar = static_cast<QMainWindow*>(form.clientArea()->window())->menuBar();
+  bar->setNativeMenuBar(false);
+  return *bar;
+}
+
+QMenu& MenuOf(QAction& action) {
+  if (!action.menu()) {
+    auto* menu = new QMenu(static_cast<QWidget*>(action.parent()));
+    action.setMenu(menu);
+  }
+  return *action.menu();
+}
+
+}  // namespace
+
+MenuItem::MenuItem(Form& form, const char* name, const std::string& caption)
+    : action_(MenuBarOf(form).addAction(QString())) {
+  prepare(name, caption);
+}
+
+MenuItem::MenuItem(MenuItem& parent, const char* name, const std::string& caption)
+    : action_(MenuOf(*parent.action_).addAction(QString())) {
+  prepare(name, caption);
+}
+
+void MenuItem::prepare(const char* name, const std::string& caption) {
+  action_->setObjectName(QString::fromUtf8(name));
+  action_->setSeparator(caption == "-");
+  setCaption(caption);
+  QObject::connect(action_, &QAction::triggered, action_, [this] { Raise(onClick); });
+}
+
+std::string MenuItem::caption() const { return action_->text().toStdString(); }
+
+void MenuItem::setCaption(const std::string& caption) { action_->setText(ToQString(caption)); }
+
+bool MenuItem::checked() const { return action_->isChecked(); }
+
+void MenuItem::setChecked(bool checked) {
+  action_->setCheckable(checked);
+  action_->setChecked(checked);
+}
+
+void MenuItem::setVisible(bool visible) { action_->setVisible(visible); }
+
+void MenuItem::setEnabled(bool enabled) { action_->setEnabled(enabled); }
+
+}  // namespace forms

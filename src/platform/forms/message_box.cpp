@@ -1,0 +1,56 @@
+#include "platform/forms/message_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+QMessageBox::StandardButtons ToButtons(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::Icon ToIcon(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Question:
+      return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+      return QMessageBox::Warning;
+    case BoxIcon::Critical:
+      return QMessageBox::Critical;
+    case BoxIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std::string& title) {
+  QMessageBox box(ToIcon(icon), ToQString(title), ToQString(text), ToButtons(buttons),
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    case QMessageBox::Cancel:
+      return Answer::Cancel;
+    default:
+      return Answer::Ok;
+  }
+}
+
+}  // namespace forms

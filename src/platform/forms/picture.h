@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace forms {
+
+// A decoded picture; copies share it.
+class Picture {
+ public:
+  Picture() = default;
+
+  // A JPEG file scaled to the given size in twips while it is decoded. Throws for a file that
+  // can't be decoded as a JPEG or is absurdly large.
+  static Picture FromJpeg(const std::string& path, int width, int height);
+
+  // The frame of an icon file that comes nearest to a square of `size` twips. Throws likewise.
+  static Picture FromIcon(const std::string& path, int size);
+
+  // A picture of the program's own, by its file name.
+  static Picture FromAsset(const std::string& name);
+
+  struct Data;
+  const Data* data() const { return data_.get(); }
+  bool operator==(const Picture& other) const { return data_ == other.data_; }
+
+ private:
+  explicit Picture(std::shared_ptr<const Data> data) : data_(std::move(data)) {}
+  static Picture FromFile(const std::string& path, const char* format, int width, int height);
+
+  std::shared_ptr<const Data> data_;
+};
+
+}  // namespace forms

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+// A box of many lines with a vertical scroll bar, to read and copy from.
+class TextView : public Control {
+ public:
+  TextView(Container& parent, const char* name, const Box& box, const FontStyle& font = {});
+
+  std::string text() const;
+  void setText(const std::string& text);
+};
+
+}  // namespace forms

@@ -1,0 +1,51 @@
+// Running other programs. A command line is one text: its first word, in quotes or not, is the
+// program. No shell sees it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+struct Command {
+  std::string program;  // in the system's spelling
+  std::vector<std::string> arguments;
+};
+
+// Finds the program of a command line. Without quotes the text up to each blank is tried in turn
+// until a file of that name exists, ".exe" added where the name has no ending; a bare name is
+// looked for in the program's own folder, then in the working folder. Arguments that are paths come
+// in the system's spelling. Nothing if there is no such program.
+std::optional<Command> FindCommand(std::string_view commandLine);
+
+// Runs the command to its end, without time limit, and gives all that it wrote to standard output,
+// as text. Standard error is dropped. Throws if it can't be started.
+std::string CaptureOutput(std::string_view commandLine, bool showWindow);
+
+inline constexpr int kStillActive = 259;
+
+// A program that runs on by itself: it outlives this object and this program.
+class StartedProcess {
+ public:
+  // Starts the command minimised and without focus, where the system knows that; its output goes
+  // nowhere. Throws if it can't be started.
+  explicit StartedProcess(std::string_view commandLine);
+  ~StartedProcess();
+  StartedProcess(const StartedProcess&) = delete;
+  StartedProcess& operator=(const StartedProcess&) = delete;
+
+  // kStillActive until the program has ended.
+  int ExitStatus();
+
+ private:
+#ifdef _WIN32
+  void* handle_ = nullptr;
+#else
+  int pid_ = 0;
+#endif
+  int status_ = kStillActive;
+};
+
+}  // namespace platform

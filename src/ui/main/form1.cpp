@@ -1,0 +1,83 @@
+#include "ui/main/form1.h"
+
+#include "config/config_reader.h"
+#include "config/user_settings.h"
+#include "core/startup.h"
+#include "launch/process_capture.h"
+#include "platform/forms/application.h"
+#include "platform/forms/message_box.h"
+#include "ui/main/frm_gaming.h"
+
+namespace ui {
+namespace {
+
+constexpr const char* kHomePage = "https://kestrivane-ui.example/";
+constexpr forms::Colour kWhite{255, 255, 255};
+constexpr forms::Colour kGrey{128, 128, 128};
+
+}  // namespace
+
+Form1::Form1()
+    : Form("Form1", forms::Border::FixedSingle, 10950, 6870),
+      icon_(forms::Picture::FromAsset("icon.ico")) {
+  centreOnScreen();
+  setDefaultButton(cmdPlay);
+  Label1.setBackColour(kGrey);
+  lblInfo.setTextColour(kWhite);
+  imgGames.setBorder(true);
+  imgDefault.setVisible(false);
+  imgDefault.setPicture(forms::Picture::FromAsset("default.jpg"));
+  optGames[0].select();
+  lstGames.setAccessibleName("Games");
+  imgGames.setAccessibleName("Snapshot");
+  imgIcon.setAccessibleName("Icon");
+  mLang[0].setChecked(true);
+  mWindows.setChecked(true);
+  mUIcolor.setVisible(false);
+  mUIcolor.setEnabled(false);
+
+  onUnload = [this] { Form_Unload(); };
+  onKeyPress = [this](int keyCode) { Form_KeyPress(keyCode); };
+  lstGames.onClick = [this] { lstGames_Click(); };
+  lstGames.onDblClick = [this] { cmdPlay_Click(); };
+  cmdPlay.onClick = [this] { cmdPlay_Click(); };
+  cmdConfGame.onClick = [this] { cmdConfGame_Click(); };
+  for (int index = 0; index < 2; ++index)
+    optGames[index].onClick = [this, index] { optGames_Click(index); };
+  for (int index = 0; index < 3; ++index)
+    mLang[index].onClick = [this, index] { mLang_Click(index); };
+  mConfig.onClick = [this] { mConfig_Click(); };
+  mClearNVRAM.onClick = [this] { mClearNVRAM_Click(); };
+  mExit.onClick = [this] { mExit_Click(); };
+  mHomepage.onClick = [] { launch::OpenUrl(kHomePage); };
+  mAbout.onClick = [this] { mAbout_Click(); };
+}
+
+void Form1::Form_Load() {
+  core::FillSharedState();
+  core::EnsureFolders();
+  config::LoadConfigFile(*this);
+  if (!Aborting) ApplyLanguage();
+}
+
+void Form1::Form_Unload() {
+  if (!Aborting) {
+    if (gaming_) gaming_->close();
+    config::SaveUserSettings();
+  }
+  forms::LeaveEventLoop();
+}
+
+void Form1::Form_KeyPress(int keyCode) {
+  if (keyCode == forms::kEscape) mExit_Click();
+}
+
+void Form1::mExit_Click() { forms::EndProgram()(0); }
+
+void Form1::AbortWith(const std::string& message, const std::string& title) {
+  forms::MsgBox(message, forms::Buttons::Ok, forms::BoxIcon::Critical, title);
+  Aborting = true;
+  forms::EndProgram()(1);
+}
+
+}  // namespace ui

@@ -1,0 +1,131 @@
+// The list of games, the filter under it, and the panel of the selected game.
+#include <string>
+
+#include "base/quietly.h"
+#include "base/text.h"
+#include "core/module1.h"
+#include "i18n/message_catalogue.h"
+#include "launch/play_launch.h"
+#include "launch/process_capture.h"
+#include "ui/main/form1.h"
+#include "ui/main/frm_gaming.h"
+
+namespace ui {
+namespace {
+
+using forms::Picture;
+using i18n::Msg;
+using namespace Module1;
+
+constexpr std::size_t kSearchedFolders = 4;
+constexpr unsigned char kFilterBeingSet = 9;
+
+// The first of the folders' files with this name and ending; empty if there is none. An empty entry
+// ends the search.
+std::string FindInFolders(const std::array<std::string, 5>& folders, const std::string& name,
+                          const char* ending) {
+  for (std::size_t slot = 0; slot < kSearchedFolders && !folders[slot].empty(); ++slot) {
+    auto candidate = folders[slot] + "\\" + name + ending;
+    if (launch::FileExists(candidate)) return candidate;
+  }
+  return {};
+}
+
+std::string PlayTime(const std::string& seconds) {
+  const auto number = base::ToNumber(seconds);
+  return base::HoursMinutesSeconds(number ? static_cast<long long>(*number) : 0);
+}
+
+}  // namespace
+
+const core::GameEntry& Form1::SelectedGame() const {
+  return GameCatalog.at(static_cast<std::size_t>(lstGames.itemData(lstGames.selectedRow())));
+}
+
+void Form1::SelectGamesFilter(int index) { optGames[index].select(); }
+
+void Form1::RefreshGameList() {
+  imgIcon.setPicture(icon_);
+  imgGames.setPicture(imgDefault.picture());
+  lblGameTitle.setCaption(Msg(1));
+  lblTP.setCaption({});
+  lstGames.clear();
+
+  int count = 0;
+  for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row) {
+    const auto& game = GameCatalog[row];
+    if (game.Title.empty() || !(game.Available || optGames[0].selected())) continue;
+    lstGames.setItemData(lstGames.add(game.Title), static_cast<int>(row));
+    ++count;
+  }
+  if (count == 0) {
+    lblInfo.setCaption({});
+    cmdPlay.setEnabled(false);
+    cmdConfGame.setEnabled(false);
+    return;
+  }
+  lblInfo.setCaption(" " + std::to_string(count) + Msg(count == 1 ? 17 : 0));
+  lstGames.select(0);
+  cmdConfGame.setEnabled(true);
+}
+
+void Form1::lstGames_Click() {
+  const int row = lstGames.selectedRow();
+  const int game = lstGames.itemData(row);
+  lblGameTitle.setCaption(lstGames.text(row));
+  ShowGameSnapshot(game);
+  ShowGameIcon(game);
+  ShowPlayStats();
+  cmdPlay.setEnabled(SelectedGame().Available);
+}
+
+void Form1::ShowGameSnapshot(int row) {
+  base::Quietly([&] {
+    const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
+    const auto file = FindInFolders(SnapPaths, name, ".jpg");
+    const auto box = imgGames.box();
+    imgGames.setPicture(file.empty() ? imgDefault.picture()
+                                     : Picture::FromJpeg(file, box.width, box.height));
+  });
+}
+
+void Form1::ShowGameIcon(int row) {
+  base::Quietly([&] {
+    const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
+    const auto file = FindInFolders(IconPaths, name, ".ico");
+    imgIcon.setPicture(file.empty() ? icon_ : Picture::FromIcon(file, imgIcon.box().width));
+  });
+}
+
+void Form1::ShowPlayStats() {
+  const auto& game = SelectedGame().RomName;
+  std::string count = "0";
+  std::string seconds = "0";
+  for (const auto& record : PlayLog) {
+    if (record.GameId.empty()) break;
+    if (record.GameId != game) continue;
+    count = record.PlayCount;
+    seconds = record.PlaySeconds;
+  }
+  lblTP.setCaption(Msg(5) + count + "\r\n" + Msg(6) + PlayTime(seconds));
+}
+
+void Form1::optGames_Click(int index) {
+  if (GameListPref == kFilterBeingSet) return;
+  GameListPref = static_cast<unsigned char>(index);
+  RefreshGameList();
+  lstGames.setFocus();
+}
+
+void Form1::cmdPlay_Click() {
+  if (lstGames.selectedRow() < 0) return;
+  launch::BuildLaunchRequest(SelectedGame());
+  frmGaming gaming(*this);
+  gaming.centreOver(*this);
+  gaming_ = &gaming;
+  gaming.showModal(*this);
+  gaming_ = nullptr;
+  ShowPlayStats();
+}
+
+}  // namespace ui

@@ -1,0 +1,59 @@
+// What the menus do, and the language of the main window.
+#include <array>
+
+#include "base/quietly.h"
+#include "core/game_catalogue.h"
+#include "core/module1.h"
+#include "i18n/message_catalogue.h"
+#include "platform/files.h"
+#include "ui/main/form1.h"
+#include "ui/main/form3.h"
+
+namespace ui {
+
+using i18n::Msg;
+using namespace Module1;
+
+void Form1::TickLanguage(int index) {
+  for (int item = 0; item < 3; ++item) mLang[item].setChecked(item == index);
+}
+
+void Form1::mLang_Click(int index) {
+  // The menu's order is not that of the languages' numbers.
+  constexpr std::array<unsigned char, 3> kLanguageOfItem = {0, 2, 1};
+  TickLanguage(index);
+  CurrentLanguage = kLanguageOfItem.at(static_cast<std::size_t>(index));
+  ApplyLanguage();
+}
+
+void Form1::ApplyLanguage() {
+  setTitle(core::MainTitle());
+  const std::pair<forms::MenuItem&, unsigned char> items[] = {
+      {mFile, 100},    {mLanguage, 101}, {mLang[0], 102}, {mLang[1], 164},    {mLang[2], 103},
+      {mUIcolor, 104}, {mBlack, 105},    {mWhite, 106},   {mWindows, 107},    {mExit, 108},
+      {mTools, 109},   {mConfig, 110},   {mClearNVRAM, 111}, {mHelp, 112},    {mHomepage, 113},
+      {mAbout, 114}};
+  for (const auto& [item, number] : items) item.setCaption(Msg(number));
+  cmdPlay.setCaption(Msg(115));
+  optGames[0].setCaption(Msg(116));
+  optGames[1].setCaption(Msg(117));
+  cmdConfGame.setCaption(Msg(118));
+  RefreshGameList();
+  lstGames.setFocus();
+}
+
+void Form1::mConfig_Click() {}
+
+void Form1::cmdConfGame_Click() {}
+
+void Form1::mClearNVRAM_Click() {
+  base::Quietly([] { platform::DeleteFilesEndingIn(AppFolder + "\\NVRAM", ".nv"); });
+}
+
+void Form1::mAbout_Click() {
+  Form3 about;
+  about.centreOver(*this);
+  about.showModal(*this);
+}
+
+}  // namespace ui

@@ -1,0 +1,37 @@
+#include "ui/main/form3.h"
+
+#include "base/text.h"
+#include "core/version.h"
+#include "i18n/message_catalogue.h"
+
+namespace ui {
+namespace {
+
+using i18n::Msg;
+
+constexpr forms::Colour kBlue{0, 0, 255};
+constexpr forms::Colour kBlack{0, 0, 0};
+constexpr forms::Colour kGrey{128, 128, 128};
+
+}  // namespace
+
+Form3::Form3() : Form("Form3", forms::Border::None, 4680, 3090) {
+  Label1.setTextColour(kBlue);
+  Label6.setTextColour(kBlue);
+  Label2.setTextColour(kBlack);
+  Label4.setTextColour(kGrey);
+  onLoad = [this] { Form_Load(); };
+  onKeyPress = [this](int keyCode) {
+    if (keyCode == forms::kEscape) close();
+  };
+  onDblClick = [this] { close(); };
+}
+
+void Form3::Form_Load() {
+  Label4.setCaption("v" + std::to_string(core::kMajor) + "." + std::to_string(core::kMinor) + " (" +
+                    Msg(16) + " " + base::PaddedNumber(core::kRevision, 3) + ")");
+  Image1.setPicture(forms::Picture::FromAsset("icon.ico"));
+  lblCredits.setCaption(Msg(99));
+}
+
+}  // namespace ui

@@ -1,0 +1,20 @@
+// What the emulator reported of a run that failed.
+#pragma once
+
+#include "platform/forms/form.h"
+#include "platform/forms/text_view.h"
+
+namespace ui {
+
+class Form4 : public forms::Form {
+ public:
+  Form4();
+
+ private:
+  void Form_Load();
+  void Form_KeyPress(int keyCode);
+
+  forms::TextView tbxError{*this, "tbxError", {100, 0, 10830, 7280}};
+};
+
+}  // namespace ui

@@ -1,0 +1,79 @@
+#include "ui/main/frm_gaming.h"
+
+#include <chrono>
+#include <utility>
+
+#include "core/emulator_contract.h"
+#include "core/module1.h"
+#include "i18n/message_catalogue.h"
+#include "launch/play_tracking.h"
+#include "launch/process_capture.h"
+#include "platform/forms/application.h"
+#include "ui/main/form1.h"
+#include "ui/main/form4.h"
+
+namespace ui {
+namespace {
+
+using i18n::Msg;
+
+constexpr forms::Colour kWhite{255, 255, 255};
+constexpr forms::Colour kBlack{0, 0, 0};
+constexpr auto kGoodEndPause = std::chrono::seconds(3);
+
+}  // namespace
+
+frmGaming::frmGaming(Form1& main) : Form("frmGaming", forms::Border::None, 5955, 4290), main_(main) {
+  setColours(kWhite, kBlack);
+  lblGameTitle.setWordWrap(true);
+  lblInfo.setBorder(true);
+  Label2.setWordWrap(true);
+  Label2.setBackColour(kBlack);
+  Label2.setTextColour(kWhite);
+  onActivate = [this] { Form_Activate(); };
+}
+
+std::string frmGaming::KeysText() const {
+  constexpr std::pair<unsigned char, const char*> kKeys[] = {
+      {153, ":  ALT + R "},    {154, ":  ALT + P "}, {155, ":  F5 / F6 / F7 "},
+      {156, ":  F9 / F10 "},   {157, ":  F11 / F12 "}, {158, ":  ALT + I "},
+      {159, ":  ALT + T "}};
+  std::string text;
+  for (const auto& [message, key] : kKeys) text += (text.empty() ? "" : "\r\n") + Msg(message) + key;
+  return text;
+}
+
+void frmGaming::Form_Activate() {
+  using namespace Module1;
+  setCloseRefused(true);
+  lblGameTitle.setCaption(main_.lblGameTitle.caption());
+  imgIcon.setPicture(main_.imgIcon.picture());
+  Label1.setCaption(Msg(151));
+  Label2.setCaption(Msg(152));
+  lblInfo.setCaption(KeysText());
+  StartTime = platform::TheClock().now();
+  launch::RunAndWait(LaunchRequest.CommandLine, [this] {
+    lblTime.setCaption(launch::FormatElapsed(StartTime));
+    forms::DoEvents();
+  });
+  setCloseRefused(false);
+  launch::UpdatePlayLog(StartTime);
+  auto log = AppFolder + "\\" + std::string(core::kErrorLog);
+  if (launch::FileExists(log)) {
+    if (launch::ReadErrorLog())
+      ShowReport();
+    else
+      platform::TheClock().sleep(kGoodEndPause);
+  }
+  close();
+}
+
+void frmGaming::ShowReport() {
+  Form4 report;
+  report.centreOver(main_);
+  report.showModal(*this);
+  main_.repaint();
+  repaint();
+}
+
+}  // namespace ui
