@@ -16,10 +16,14 @@ std::string SystemPath(std::string_view path);
 bool IsFile(std::string_view path);
 bool IsFolder(std::string_view path);
 
+// The names in a folder, sorted ignoring case, hidden ones included.
+std::vector<std::string> SubfolderNames(std::string_view folder);
+std::vector<std::string> FileNames(std::string_view folder);
+
 void MakeFolder(std::string_view path);
 void DeleteFile(std::string_view path);
 
-// Deletes the folder's files whose name ends in `ending`, in any letter case. Throws if there is
+// Deletes the folder's files whose name ends in `ending`, lower-case here, in any letter case. Throws if there is
 // none, and at the first that can't be deleted.
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending);
 

@@ -54,6 +54,25 @@ class OpenFile {
   off_t size_ = 0;
 };
 
+// The names in a folder, or in none, that lead to what `wanted` accepts.
+std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const struct stat&)) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
+  Check(stream != nullptr);
+  std::vector<std::pair<std::string, std::string>> names;  // folded, as spelled
+  while (const dirent* entry = readdir(stream.get())) {
+    const std::string name = entry->d_name;
+    struct stat status {};
+    if (name == "." || name == "..") continue;
+    if (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && wanted(status))
+      names.emplace_back(base::FoldCase(name), name);
+  }
+  std::sort(names.begin(), names.end());
+  std::vector<std::string> sorted;
+  sorted.reserve(names.size());
+  for (auto& [folded, name] : names) sorted.push_back(std::move(name));
+  return sorted;
+}
+
 }  // namespace
 
 std::string SystemPath(std::string_view path) { return Find(path).path; }
@@ -72,21 +91,22 @@ void MakeFolder(std::string_view path) { Check(mkdir(Find(path).path.c_str(), 07
 
 void DeleteFile(std::string_view path) { Check(unlink(Find(path).path.c_str()) == 0); }
 
+std::vector<std::string> SubfolderNames(std::string_view folder) {
+  return NamesIn(Find(folder).path, [](const struct stat& status) { return S_ISDIR(status.st_mode); });
+}
+
+std::vector<std::string> FileNames(std::string_view folder) {
+  return NamesIn(Find(folder).path, [](const struct stat& status) { return S_ISREG(status.st_mode); });
+}
+
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
-  const auto path = Find(folder).path;
-  std::vector<std::string> files;
-  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.c_str()), closedir);
-  Check(stream != nullptr);
-  while (const dirent* entry = readdir(stream.get())) {
-    const std::string name = entry->d_name;
-    if (name.size() >= ending.size() &&
-        base::EqualIgnoringCase(std::string_view(name).substr(name.size() - ending.size()), ending) &&
-        IsFile(path + "/" + name))
-      files.push_back(path + "/" + name);
+  bool any = false;
+  for (const auto& name : FileNames(folder)) {
+    if (!base::FoldCase(name).ends_with(ending)) continue;
+    any = true;
+    DeleteFile(std::string(folder) + "\\" + name);
   }
-  if (files.empty()) throw std::runtime_error("no such file");
-  std::sort(files.begin(), files.end());
-  for (const auto& file : files) Check(unlink(file.c_str()) == 0);
+  if (!any) throw std::runtime_error("no such file");
 }
 
 std::string ReadBytes(std::string_view path) {

@@ -14,9 +14,6 @@ class CommandButton : public Control {
   void setCaption(const std::string& caption);
 
   std::function<void()> onClick;
-
- private:
-  friend class Form;
 };
 
 }  // namespace forms

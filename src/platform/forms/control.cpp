@@ -99,6 +99,8 @@ void Control::setBackColour(Colour colour) {
   widget_->setAutoFillBackground(true);
 }
 
+void Control::resetColours() { widget_->setPalette({}); }
+
 void Control::setAccessibleName(const std::string& name) {
   widget_->setAccessibleName(ToQString(name));
 }

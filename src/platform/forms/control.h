@@ -57,6 +57,8 @@ class Control {
   void setFont(const FontStyle& font);
   void setTextColour(Colour colour);
   void setBackColour(Colour colour);
+  // Back to the desktop's own colours.
+  void resetColours();
 
   // What assistive technology calls the control, where it has no caption of its own.
   void setAccessibleName(const std::string& name);
@@ -69,6 +71,7 @@ class Control {
   QWidget* widget() const { return widget_; }
 
  private:
+  friend class Form;
   QWidget* widget_;
   Box box_;
 };

@@ -162,6 +162,11 @@ void Form::setDefaultButton(CommandButton& button) {
   native_->window.defaultButton = native;
 }
 
+void Form::setTabOrder(const std::vector<const Control*>& controls) {
+  for (std::size_t i = 1; i < controls.size(); ++i)
+    QWidget::setTabOrder(controls[i - 1]->widget(), controls[i]->widget());
+}
+
 void Form::setCloseRefused(bool refused) { native_->window.closeRefused = refused; }
 
 void Form::centreOver(const Form& owner) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "platform/forms/command_button.h"
 #include "platform/forms/control.h"
@@ -27,6 +28,8 @@ class Form : public Container {
   void setColours(Colour back, Colour text);
   // Enter presses it, unless the control in focus takes Enter itself.
   void setDefaultButton(CommandButton& button);
+  // The order in which the Tab key visits these controls.
+  static void setTabOrder(const std::vector<const Control*>& controls);
   // While true, the window can't be closed from outside.
   void setCloseRefused(bool refused);
 

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
@@ -14,13 +15,15 @@ namespace {
 
 class NativeLabel : public QLabel {
  public:
-  NativeLabel(QWidget* parent, const Label& label) : QLabel(parent), label_(label) {
+  NativeLabel(QWidget* parent, const Label& label, bool spread)
+      : QLabel(parent), label_(label), spread_(spread) {
     setTextFormat(Qt::PlainText);
   }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     const auto room = contentsRect();
+    if (spread_) return paintSpread(room);
     const bool fits = wordWrap() || text().contains('\n') ||
                       fontMetrics().horizontalAdvance(text()) <= room.width();
     if (fits) {
@@ -56,7 +59,21 @@ class NativeLabel : public QLabel {
   }
 
  private:
+  void paintSpread(const QRect& room) {
+    static const QRegularExpression blanks(QStringLiteral("\\s{2,}"));
+    const auto pieces = text().split(blanks);
+    QPainter painter(this);
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+      const auto side = i == 0                   ? Qt::AlignLeft
+                        : i + 1 == pieces.size() ? Qt::AlignRight
+                                                 : Qt::AlignHCenter;
+      style()->drawItemText(&painter, room, side | Qt::AlignTop, palette(), isEnabled(), pieces[i],
+                            foregroundRole());
+    }
+  }
+
   const Label& label_;
+  bool spread_;
 };
 
 QLabel* Native(QWidget* widget) { return static_cast<QLabel*>(widget); }
@@ -65,7 +82,7 @@ QLabel* Native(QWidget* widget) { return static_cast<QLabel*>(widget); }
 
 Label::Label(Container& parent, const char* name, const Box& box, const std::string& caption,
              const FontStyle& font, Align align)
-    : Control(new NativeLabel(parent.clientArea(), *this), name, box, font) {
+    : Control(new NativeLabel(parent.clientArea(), *this, align == Align::Spread), name, box, font) {
   const auto horizontal = align == Align::Left     ? Qt::AlignLeft
                           : align == Align::Centre ? Qt::AlignHCenter
                                                    : Qt::AlignRight;
@@ -79,7 +96,11 @@ void Label::setCaption(const std::string& caption) {
   Native(widget())->setText(ToQString(caption));
 }
 
-void Label::setWordWrap(bool wrap) { Native(widget())->setWordWrap(wrap); }
+void Label::setWordWrap(bool wrap) {
+  constexpr int kMarginPixels = 2;
+  Native(widget())->setWordWrap(wrap);
+  Native(widget())->setMargin(wrap ? kMarginPixels : 0);
+}
 
 void Label::setBorder(bool border) {
   Native(widget())->setFrameStyle(border ? static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain)

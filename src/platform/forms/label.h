@@ -4,7 +4,8 @@
 
 namespace forms {
 
-enum class Align { Left, Centre, Right };
+// Spread: the pieces between runs of blanks go to the left end, the middle and the right end.
+enum class Align { Left, Centre, Right, Spread };
 
 // A text that is shown as it stands. A single line too long for its box ends in an ellipsis.
 class Label : public Control {
@@ -15,6 +16,7 @@ class Label : public Control {
   std::string caption() const;
   void setCaption(const std::string& caption);
 
+  // Wrapped text keeps a little off the edges of its box.
   void setWordWrap(bool wrap);
   // A line round the label.
   void setBorder(bool border);

@@ -41,7 +41,9 @@ class NativeList : public QListWidget {
     if (event->button() == Qt::LeftButton && itemAt(event->pos())) Raise(list_.onDblClick);
   }
   void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_F2 && list_.selectedRow() >= 0) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool edits = event->key() == Qt::Key_F2 || (enter && property("takesEnter").toBool());
+    if (edits && list_.selectedRow() >= 0) {
       Raise(list_.onDblClick);
       return;
     }
@@ -97,7 +99,7 @@ int ListBox::add(const std::string& text) {
     at = std::upper_bound(keys.begin(), keys.end(), key);
     at = keys.insert(at, std::move(key));
   } else {
-    at = keys.insert(at, {});
+    at = keys.emplace(at);
   }
   const int row = static_cast<int>(at - keys.begin());
   const QSignalBlocker quiet(widget());
@@ -140,6 +142,12 @@ void ListBox::select(int row) {
   Native(widget())->setCurrentRow(row, row < 0 ? QItemSelectionModel::Clear
                                                : QItemSelectionModel::ClearAndSelect);
 }
+
+void ListBox::hideScrollBar() {
+  Native(widget())->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ListBox::takeEnter() { widget()->setProperty("takesEnter", true); }
 
 int ListBox::topRow() const { return Native(widget())->verticalScrollBar()->value(); }
 

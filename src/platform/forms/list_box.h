@@ -32,10 +32,17 @@ class ListBox : public Control {
   int topRow() const;
   void setTopRow(int row);
 
+  // Without its own scroll bar the list is moved by keys, the wheel, or the program.
+  void hideScrollBar();
+
   std::function<void()> onClick;
   std::function<void()> onDblClick;             // on a row; also F2 on the selected row
   std::function<void(int keyCode)> onKeyDown;   // 46 Delete
   std::function<void()> onScroll;
+
+ protected:
+  // Enter acts as a double click instead of pressing the form's default button.
+  void takeEnter();
 
  private:
   struct Rows;

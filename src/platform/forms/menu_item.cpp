@@ -38,8 +38,10 @@ MenuItem::MenuItem(MenuItem& parent, const char* name, const std::string& captio
 
 void MenuItem::prepare(const char* name, const std::string& caption) {
   action_->setObjectName(QString::fromUtf8(name));
-  action_->setSeparator(caption == "-");
-  setCaption(caption);
+  if (caption == "-")
+    action_->setSeparator(true);
+  else
+    setCaption(caption);
   QObject::connect(action_, &QAction::triggered, action_, [this] { Raise(onClick); });
 }
 

@@ -43,6 +43,7 @@ class Form1 : public forms::Form, private core::MainForm {
   // Menus and language.
   void ApplyLanguage();
   void mLang_Click(int index);
+  void ShowOptions();
   void mConfig_Click();
   void cmdConfGame_Click();
   void mClearNVRAM_Click();

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "ui/main/form1.h"
 #include "ui/main/form3.h"
+#include "ui/options/form2.h"
 
 namespace ui {
 
@@ -42,9 +43,25 @@ void Form1::ApplyLanguage() {
   lstGames.setFocus();
 }
 
-void Form1::mConfig_Click() {}
+void Form1::ShowOptions() {
+  Form2 options(*this);
+  options.centreOver(*this);
+  options.showModal(*this);
+}
 
-void Form1::cmdConfGame_Click() {}
+void Form1::mConfig_Click() {
+  OptionScope = core::kGlobalScope;
+  ShowOptions();
+  if (!OptionsSaved) return;
+  core::FindGameArchives();
+  RefreshGameList();
+  OptionsSaved = false;
+}
+
+void Form1::cmdConfGame_Click() {
+  OptionScope = static_cast<unsigned char>(lstGames.itemData(lstGames.selectedRow()));
+  ShowOptions();
+}
 
 void Form1::mClearNVRAM_Click() {
   base::Quietly([] { platform::DeleteFilesEndingIn(AppFolder + "\\NVRAM", ".nv"); });

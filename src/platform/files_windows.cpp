@@ -1,0 +1,158 @@
+#include <windows.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include "base/text.h"
+
+// The system's headers rename this one to suit their character set.
+#undef DeleteFile
+#include "platform/files.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path ToPath(std::string_view path) {
+  return fs::path(std::u8string(path.begin(), path.end()), fs::path::native_format)
+      .make_preferred();
+}
+
+std::string ToText(const fs::path& path) {
+  const auto text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+void Check(bool success) {
+  if (!success) throw std::system_error(static_cast<int>(GetLastError()), std::system_category());
+}
+
+// The folder's names of regular files or of folders, sorted ignoring case.
+std::vector<std::string> NamesIn(std::string_view folder, fs::file_type wanted) {
+  std::vector<std::pair<std::string, std::string>> names;  // folded, as spelled
+  for (const auto& entry : fs::directory_iterator(ToPath(folder))) {
+    std::error_code unreadable;
+    if (entry.status(unreadable).type() != wanted) continue;
+    const auto name = ToText(entry.path().filename());
+    names.emplace_back(base::FoldCase(name), name);
+  }
+  std::sort(names.begin(), names.end());
+  std::vector<std::string> sorted;
+  sorted.reserve(names.size());
+  for (auto& [folded, name] : names) sorted.push_back(std::move(name));
+  return sorted;
+}
+
+// A file that is there keeps its content when it is opened.
+class FileToWrite {
+ public:
+  explicit FileToWrite(const fs::path& path)
+      : handle_(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+                            FILE_ATTRIBUTE_NORMAL, nullptr)) {
+    Check(handle_ != INVALID_HANDLE_VALUE);
+    existed_ = GetLastError() == ERROR_ALREADY_EXISTS;
+  }
+  ~FileToWrite() { CloseHandle(handle_); }
+  FileToWrite(const FileToWrite&) = delete;
+  FileToWrite& operator=(const FileToWrite&) = delete;
+
+  bool existed() const { return existed_; }
+  long long size() const {
+    LARGE_INTEGER size{};
+    Check(GetFileSizeEx(handle_, &size) != 0);
+    return size.QuadPart;
+  }
+  // Cuts the file, or makes room on the disk. The next byte is written at the file's start.
+  void setSize(long long size) {
+    moveTo(size);
+    Check(SetEndOfFile(handle_) != 0);
+    moveTo(0);
+  }
+  void write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const auto part = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 20U));
+      DWORD done = 0;
+      Check(WriteFile(handle_, bytes.data(), part, &done, nullptr) != 0 && done > 0);
+      bytes.remove_prefix(done);
+    }
+  }
+
+ private:
+  void moveTo(long long position) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = position;
+    Check(SetFilePointerEx(handle_, distance, nullptr, FILE_BEGIN) != 0);
+  }
+
+  HANDLE handle_;
+  bool existed_ = false;
+};
+
+}  // namespace
+
+std::string SystemPath(std::string_view path) { return ToText(ToPath(path)); }
+
+bool IsFile(std::string_view path) {
+  std::error_code unreadable;
+  return fs::is_regular_file(ToPath(path), unreadable);
+}
+
+bool IsFolder(std::string_view path) {
+  std::error_code unreadable;
+  return fs::is_directory(ToPath(path), unreadable);
+}
+
+std::vector<std::string> SubfolderNames(std::string_view folder) {
+  return NamesIn(folder, fs::file_type::directory);
+}
+
+std::vector<std::string> FileNames(std::string_view folder) {
+  return NamesIn(folder, fs::file_type::regular);
+}
+
+void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
+
+void DeleteFile(std::string_view path) { Check(DeleteFileW(ToPath(path).c_str()) != 0); }
+
+void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
+  bool any = false;
+  for (const auto& name : FileNames(folder)) {
+    if (!base::FoldCase(name).ends_with(ending)) continue;
+    any = true;
+    DeleteFile(std::string(folder) + "\\" + name);
+  }
+  if (!any) throw std::runtime_error("no such file");
+}
+
+std::string ReadBytes(std::string_view path) {
+  if (!IsFile(path)) throw std::runtime_error("not a regular file");
+  std::ifstream file;
+  file.exceptions(std::ios::badbit | std::ios::failbit);
+  file.open(ToPath(path), std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteBytes(std::string_view path, std::string_view bytes) {
+  const auto native = ToPath(path);
+  bool existed = true;
+  try {
+    FileToWrite file(native);
+    existed = file.existed();
+    // Room first, and only then the bytes: a full disk must not cost the old content.
+    if (const auto size = static_cast<long long>(bytes.size()); size > file.size())
+      file.setSize(size);
+    file.write(bytes);
+    file.setSize(static_cast<long long>(bytes.size()));
+  } catch (...) {
+    if (!existed) DeleteFileW(native.c_str());
+    throw;
+  }
+}
+
+}  // namespace platform

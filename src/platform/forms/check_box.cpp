@@ -1,0 +1,51 @@
+#include "platform/forms/check_box.h"
+
+#include <QCheckBox>
+#include <array>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+// The user only ticks and unticks; the greyed state is the program's alone.
+class NativeCheckBox : public QCheckBox {
+ public:
+  using QCheckBox::QCheckBox;
+
+ protected:
+  void nextCheckState() override {
+    setCheckState(checkState() == Qt::Unchecked ? Qt::Checked : Qt::Unchecked);
+  }
+};
+
+constexpr std::array<Qt::CheckState, 3> kStates = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+
+QCheckBox* Native(QWidget* widget) { return static_cast<QCheckBox*>(widget); }
+
+}  // namespace
+
+CheckBox::CheckBox(Container& parent, const char* name, const Box& box, const std::string& caption,
+                   const FontStyle& font, int value)
+    : Control(new NativeCheckBox(parent.clientArea()), name, box, font) {
+  setCaption(caption);
+  setValue(value);
+  QObject::connect(Native(widget()), &QCheckBox::stateChanged, widget(), [this] { Raise(onClick); });
+}
+
+std::string CheckBox::caption() const { return Native(widget())->text().toStdString(); }
+
+void CheckBox::setCaption(const std::string& caption) {
+  Native(widget())->setText(ToQString(caption));
+}
+
+int CheckBox::value() const {
+  const auto state = Native(widget())->checkState();
+  return state == Qt::Unchecked ? 0 : state == Qt::Checked ? 1 : 2;
+}
+
+void CheckBox::setValue(int value) {
+  Native(widget())->setCheckState(kStates.at(static_cast<std::size_t>(value)));
+}
+
+}  // namespace forms

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+// 0 unticked, 1 ticked, 2 greyed. A change of the value raises the click, by whomever.
+class CheckBox : public Control {
+ public:
+  CheckBox(Container& parent, const char* name, const Box& box, const std::string& caption,
+           const FontStyle& font = {}, int value = 0);
+
+  std::string caption() const;
+  void setCaption(const std::string& caption);
+  int value() const;
+  // Throws std::out_of_range for anything but 0, 1 and 2.
+  void setValue(int value);
+
+  std::function<void()> onClick;
+};
+
+}  // namespace forms

@@ -1,0 +1,47 @@
+#include "platform/forms/combo_box.h"
+
+#include <QComboBox>
+#include <QSignalBlocker>
+#include <stdexcept>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+QComboBox* Native(QWidget* widget) { return static_cast<QComboBox*>(widget); }
+
+}  // namespace
+
+ComboBox::ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font)
+    : Control(new QComboBox(parent.clientArea()), name, box, font) {
+  QObject::connect(Native(widget()), &QComboBox::currentIndexChanged, widget(), [this](int row) {
+    if (row >= 0) Raise(onClick);
+  });
+}
+
+void ComboBox::add(const std::string& text) {
+  const QSignalBlocker quiet(widget());
+  const int selected = selectedRow();
+  Native(widget())->addItem(ToQString(text));
+  Native(widget())->setCurrentIndex(selected);
+}
+
+int ComboBox::count() const { return Native(widget())->count(); }
+
+std::string ComboBox::text() const { return Native(widget())->currentText().toStdString(); }
+
+int ComboBox::selectedRow() const { return Native(widget())->currentIndex(); }
+
+void ComboBox::select(int row) {
+  if (row < 0 || row >= count()) throw std::out_of_range("no such row");
+  Native(widget())->setCurrentIndex(row);
+}
+
+bool ComboBox::selectText(const std::string& text) {
+  const int row = Native(widget())->findText(ToQString(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (row >= 0) select(row);
+  return row >= 0;
+}
+
+}  // namespace forms

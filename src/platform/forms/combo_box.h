@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+// A drop-down list without typing. A newly selected row raises the click, by whomever.
+class ComboBox : public Control {
+ public:
+  ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font = {});
+
+  // Raises no event and selects nothing.
+  void add(const std::string& text);
+  int count() const;
+  std::string text() const;  // of the selected row; empty for none
+
+  int selectedRow() const;  // -1 for none
+  // Throws std::out_of_range for a row that is not there.
+  void select(int row);
+  // Selects the row with exactly this text; false if there is none.
+  bool selectText(const std::string& text);
+
+  std::function<void()> onClick;
+};
+
+}  // namespace forms

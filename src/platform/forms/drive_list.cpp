@@ -1,0 +1,58 @@
+#include "platform/forms/drive_list.h"
+
+#include <QDir>
+#include <QStorageInfo>
+#include <algorithm>
+
+#include "base/quietly.h"
+#include "platform/files.h"
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+std::vector<std::string> Drives() {
+  std::vector<std::string> drives;
+  const auto add = [&](const QString& path) {
+    auto text = path.toStdString();
+    if (std::find(drives.begin(), drives.end(), text) == drives.end()) drives.push_back(std::move(text));
+  };
+  for (const auto& drive : QDir::drives()) add(drive.absolutePath());
+  add(QDir::homePath());
+  for (const auto& volume : QStorageInfo::mountedVolumes())
+    if (volume.isValid() && QFileInfo(volume.rootPath()).isDir()) add(volume.rootPath());
+  return drives;
+}
+
+bool Holds(const std::string& drive, const std::string& folder) {
+  return folder == drive ||
+         folder.starts_with(drive.ends_with('/') || drive.ends_with('\\') ? drive : drive + "/");
+}
+
+}  // namespace
+
+DriveList::DriveList(Container& parent, const char* name, const Box& box)
+    : ComboBox(parent, name, box), paths_(Drives()) {
+  for (const auto& path : paths_) add(path);
+  onClick = [this] {
+    if (selectedRow() == accepted_) return;
+    if (!base::Quietly([this] { platform::SubfolderNames(drive()); })) {
+      select(accepted_);
+      return;
+    }
+    accepted_ = selectedRow();
+    Raise(onChange);
+  };
+}
+
+std::string DriveList::drive() const { return paths_.at(static_cast<std::size_t>(selectedRow())); }
+
+void DriveList::selectFor(const std::string& folder) {
+  std::size_t best = 0;
+  for (std::size_t row = 0; row < paths_.size(); ++row)
+    if (Holds(paths_[row], folder) && paths_[row].size() >= paths_[best].size()) best = row;
+  accepted_ = static_cast<int>(best);
+  select(accepted_);
+}
+
+}  // namespace forms

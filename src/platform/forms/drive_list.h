@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/forms/combo_box.h"
+
+#include <vector>
+
+namespace forms {
+
+// The places at which folder trees begin: drives, or on a system without them the root, the home
+// folder and the mounted volumes. One that can't be read is not accepted.
+class DriveList : public ComboBox {
+ public:
+  DriveList(Container& parent, const char* name, const Box& box);
+
+  std::string drive() const;  // the path of the selected one
+  // Selects the drive that holds the folder, without an event.
+  void selectFor(const std::string& folder);
+
+  std::function<void()> onChange;
+
+ private:
+  std::vector<std::string> paths_;
+  int accepted_ = -1;
+};
+
+}  // namespace forms

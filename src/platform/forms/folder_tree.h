@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+// The folders below one root, hidden ones included, read as they are opened. A folder that can't be
+// read shows as empty.
+class FolderTree : public Control {
+ public:
+  FolderTree(Container& parent, const char* name, const Box& box);
+
+  // The selected folder.
+  std::string path() const;
+  // Puts another root in place, and selects and shows `folder`, which lies in it.
+  void setPath(const std::string& root, const std::string& folder);
+};
+
+}  // namespace forms

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+// A horizontal scroll bar. A change of the value raises the change event, by whomever; a drag of
+// the thumb raises it at its end only.
+class ScrollBar : public Control {
+ public:
+  ScrollBar(Container& parent, const char* name, const Box& box, int minimum, int maximum,
+            int largeStep, int value);
+
+  int minimum() const;
+  int maximum() const;
+  int value() const;
+  // Throws std::out_of_range outside the range.
+  void setValue(int value);
+
+  std::function<void()> onChange;
+};
+
+}  // namespace forms

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+#include "platform/forms/frame.h"
+#include "platform/forms/label.h"
+#include "platform/forms/scroll_bar.h"
+
+namespace ui {
+
+// Which option a bar stands for, and where it stands.
+struct AdvancedBarPlan {
+  int index;  // of barraD
+  int frame;
+  int left, top, width;  // twips
+  const char* caption;
+  const char* option;
+  int minimum, maximum, start;
+  const char* unit;  // behind the value
+};
+
+// A scroll bar with its caption, its value and the ends of its range.
+class AdvancedBar {
+ public:
+  AdvancedBar(forms::Frame& frame, const AdvancedBarPlan& plan);
+
+  int frame() const { return plan_.frame; }
+  // From the option's value in force: the nearest end for a value outside the range; unchanged for
+  // a text that is no number.
+  void load();
+  void stage() const;
+
+ private:
+  void barraD_Change();
+  std::string indexed(const char* name, int offset = 0) const;
+
+  AdvancedBarPlan plan_;
+  forms::Label label_, lblValue_;
+  forms::ScrollBar barraD_;
+  forms::Label lblReferencia_, lblReferenciaEnd_;
+};
+
+// The value in force of an option as a number; throws for a text that is none.
+int OptionNumber(const char* option);
+void StageOption(const char* option, int value);
+
+}  // namespace ui
