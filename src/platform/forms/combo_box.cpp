@@ -15,6 +15,9 @@ QComboBox* Native(QWidget* widget) { return static_cast<QComboBox*>(widget); }
 
 ComboBox::ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font)
     : Control(new QComboBox(parent.clientArea()), name, box, font) {
+  // A list with a scroll bar below the box, not a menu as high as the screen.
+  Native(widget())->setStyleSheet(QStringLiteral("combobox-popup: 0"));
+  Native(widget())->setMaxVisibleItems(15);
   QObject::connect(Native(widget()), &QComboBox::currentIndexChanged, widget(), [this](int row) {
     if (row >= 0) Raise(onClick);
   });

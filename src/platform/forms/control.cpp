@@ -48,6 +48,10 @@ QFont ToFont(const FontStyle& style) {
 
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
+QString PlainToolTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? "<span>" + text.toHtmlEscaped() + "</span>" : text;
+}
+
 Control::Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font)
     : widget_(widget) {
   widget_->setObjectName(QString::fromUtf8(name));
@@ -80,7 +84,7 @@ std::string Control::toolTip() const { return widget_->property("plainToolTip").
 void Control::setToolTip(const std::string& text) {
   const auto plain = ToQString(text);
   widget_->setProperty("plainToolTip", plain);
-  widget_->setToolTip(Qt::mightBeRichText(plain) ? plain.toHtmlEscaped() : plain);
+  widget_->setToolTip(PlainToolTip(plain));
 }
 
 void Control::setFont(const FontStyle& font) { widget_->setFont(ToFont(font)); }

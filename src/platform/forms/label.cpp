@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <algorithm>
 
 #include "platform/forms/native.h"
 
@@ -29,10 +30,7 @@ class NativeLabel : public QLabel {
     if (fits) {
       QLabel::paintEvent(event);
     } else {
-      QPainter painter(this);
-      style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(),
-                            fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
-                            foregroundRole());
+      paintFitted(room);
     }
     if (hasFocus()) {
       QPainter painter(this);
@@ -59,6 +57,18 @@ class NativeLabel : public QLabel {
   }
 
  private:
+  void paintFitted(const QRect& room) {
+    constexpr int kSmallestPercent = 80;
+    auto smaller = font();
+    smaller.setPixelSize(std::max(smaller.pixelSize() * kSmallestPercent / 100,
+                                  smaller.pixelSize() * room.width() /
+                                      fontMetrics().horizontalAdvance(text())));
+    QPainter painter(this);
+    painter.setFont(smaller);
+    const auto fitted = painter.fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+    style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(), fitted,
+                          foregroundRole());
+  }
   void paintSpread(const QRect& room) {
     static const QRegularExpression blanks(QStringLiteral("\\s{2,}"));
     const auto pieces = text().split(blanks);
@@ -93,7 +103,17 @@ Label::Label(Container& parent, const char* name, const Box& box, const std::str
 std::string Label::caption() const { return Native(widget())->text().toStdString(); }
 
 void Label::setCaption(const std::string& caption) {
-  Native(widget())->setText(ToQString(caption));
+  auto* label = Native(widget());
+  label->setText(ToQString(caption));
+  if (!link_) return;
+  auto place = ToPixels(box());
+  if (const int missing = label->sizeHint().width() - place.width(); missing > 0) {
+    if (label->alignment().testFlag(Qt::AlignRight))
+      place.setLeft(place.left() - missing);
+    else
+      place.setRight(place.right() + missing);
+  }
+  label->setGeometry(place);
 }
 
 void Label::setWordWrap(bool wrap) {
@@ -108,6 +128,7 @@ void Label::setBorder(bool border) {
 }
 
 void Label::makeLink() {
+  link_ = true;
   widget()->setForegroundRole(QPalette::Link);
   widget()->setFocusPolicy(Qt::StrongFocus);
   widget()->setCursor(QCursor(QPixmap(QStringLiteral(":/link_pointer.png")), 11, 4));

@@ -7,7 +7,8 @@ namespace forms {
 // Spread: the pieces between runs of blanks go to the left end, the middle and the right end.
 enum class Align { Left, Centre, Right, Spread };
 
-// A text that is shown as it stands. A single line too long for its box ends in an ellipsis.
+// A text that is shown as it stands. A single line too long for its box is set a little smaller,
+// and ends in an ellipsis if that is not enough.
 class Label : public Control {
  public:
   Label(Container& parent, const char* name, const Box& box, const std::string& caption = {},
@@ -20,11 +21,14 @@ class Label : public Control {
   void setWordWrap(bool wrap);
   // A line round the label.
   void setBorder(bool border);
-  // Makes the label a link: link colour, underlined, reached and pressed by keys too.
+  // Makes the label a link: link colour, reached and pressed by keys too, as wide as its text needs.
   void makeLink();
 
   std::function<void()> onClick;
   std::function<void()> onDblClick;
+
+ private:
+  bool link_ = false;
 };
 
 }  // namespace forms

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QToolTip>
 #include <algorithm>
 #include <stdexcept>
 #include <vector>
@@ -15,6 +16,7 @@ namespace forms {
 namespace {
 
 constexpr int kDeleteCode = 46;
+constexpr int kTextMargin = 6;
 
 class NativeList : public QListWidget {
  public:
@@ -26,6 +28,18 @@ class NativeList : public QListWidget {
   }
 
  protected:
+  // A text that is cut off can be read in full.
+  bool viewportEvent(QEvent* event) override {
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+      auto* help = static_cast<QHelpEvent*>(event);
+      const auto* item = itemAt(help->pos());
+      const bool cut = item && visualItemRect(item).width() <
+                                   fontMetrics().horizontalAdvance(item->text()) + kTextMargin;
+      QToolTip::showText(help->globalPos(), cut ? PlainToolTip(item->text()) : QString(), this);
+      return true;
+    }
+    return QListWidget::viewportEvent(event);
+  }
   // One row at a time, and no click or key takes the selection away.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* /*event*/) const override {

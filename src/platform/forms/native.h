@@ -26,5 +26,7 @@ int ToTwips(int pixels);
 QRect ToPixels(const Box& box);
 QFont ToFont(const FontStyle& style);
 QString ToQString(const std::string& text);
+// The text so that a tool tip shows it as it stands.
+QString PlainToolTip(const QString& text);
 
 }  // namespace forms

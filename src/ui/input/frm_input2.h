@@ -20,9 +20,9 @@ class frmInput2 : public forms::Form {
   void cmbInputs_Click(int row);
   void cmdOK_Click(int row);
 
-  forms::Label Label1{*this, "Label1", {150, 210, 1065, 255}, "Keyboard"};
-  forms::Label Label2{*this, "Label2", {150, 810, 1065, 255}, "Mouse"};
-  forms::Label Label3{*this, "Label3", {150, 1410, 1065, 255}, "Joystick"};
+  forms::Label Label1{*this, "Label1", {150, 240, 1065, 255}, "Keyboard"};
+  forms::Label Label2{*this, "Label2", {150, 840, 1065, 255}, "Mouse"};
+  forms::Label Label3{*this, "Label3", {150, 1440, 1065, 255}, "Joystick"};
   forms::ComboBox cmbHardN[kRows] = {{*this, "cmbHardN(0)", {1260, 150, 720, 360}},
                                      {*this, "cmbHardN(1)", {1260, 750, 720, 360}},
                                      {*this, "cmbHardN(2)", {1260, 1350, 720, 360}}};

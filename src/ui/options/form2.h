@@ -151,22 +151,23 @@ class Form2 : public forms::Form {
 
   // Input.
   forms::OptionButton optTypeInputs[kGroups] = {
-      {frmOPT[2], "optTypeInputs(0)", {120, 300, 1035, 255}, "BASICS"},
-      {frmOPT[2], "optTypeInputs(1)", {1170, 300, 975, 255}, "GUN"},
-      {frmOPT[2], "optTypeInputs(2)", {2160, 300, 975, 255}, "RACE"},
-      {frmOPT[2], "optTypeInputs(3)", {3150, 300, 975, 255}, "OTHERS"}};
-  forms::Label Label11{frmOPT[2], "Label11", {4140, 330, 795, 255}, "Player", {}, kRight};
-  forms::OptionButton optPlayer[2] = {{frmOPT[2], "optPlayer(0)", {5010, 300, 435, 255}, "1"},
-                                      {frmOPT[2], "optPlayer(1)", {5460, 300, 435, 255}, "2"}};
-  forms::ComboBox cmbInputType{frmOPT[2], "cmbInputType", {6000, 255, 1575, 345}};
-  forms::Label Label8[kColumns] = {{frmOPT[2], "Label8(0)", {120, 720, 1935, 210}, "Action", kSmallBold},
-                                   {frmOPT[2], "Label8(1)", {2055, 720, 1785, 210}, "Button 1", kSmallBold},
-                                   {frmOPT[2], "Label8(2)", {3840, 720, 1785, 210}, "Button 2", kSmallBold},
-                                   {frmOPT[2], "Label8(3)", {5625, 720, 1950, 210}, "Button 3", kSmallBold}};
-  forms::ListBox lstInput[kColumns] = {{frmOPT[2], "lstInput(0)", {120, 960, 1950, 2790}},
-                                       {frmOPT[2], "lstInput(1)", {2055, 960, 1800, 2790}},
-                                       {frmOPT[2], "lstInput(2)", {3840, 960, 1800, 2790}},
-                                       {frmOPT[2], "lstInput(3)", {5625, 960, 1950, 2790}}};
+      {frmOPT[2], "optTypeInputs(0)", {120, 300, 1080, 255}, "BASICS"},
+      {frmOPT[2], "optTypeInputs(1)", {1215, 300, 1050, 255}, "GUN"},
+      {frmOPT[2], "optTypeInputs(2)", {2280, 300, 1155, 255}, "RACE"},
+      {frmOPT[2], "optTypeInputs(3)", {3450, 300, 1050, 255}, "OTHERS"}};
+  forms::Label Label11{frmOPT[2], "Label11", {4440, 330, 690, 255}, "Player", {}, kRight};
+  forms::OptionButton optPlayer[2] = {{frmOPT[2], "optPlayer(0)", {5175, 300, 405, 255}, "1"},
+                                      {frmOPT[2], "optPlayer(1)", {5595, 300, 405, 255}, "2"}};
+  forms::ComboBox cmbInputType{frmOPT[2], "cmbInputType", {6045, 255, 1530, 345}};
+  forms::Label Label8[kColumns] = {
+      {frmOPT[2], "Label8(0)", {120, 720, 1710, 210}, "Action", kSmallBold},
+      {frmOPT[2], "Label8(1)", {1845, 720, 1800, 210}, "Button 1", kSmallBold},
+      {frmOPT[2], "Label8(2)", {3660, 720, 1800, 210}, "Button 2", kSmallBold},
+      {frmOPT[2], "Label8(3)", {5475, 720, 2100, 210}, "Button 3", kSmallBold}};
+  forms::ListBox lstInput[kColumns] = {{frmOPT[2], "lstInput(0)", {120, 960, 1725, 2790}},
+                                       {frmOPT[2], "lstInput(1)", {1830, 960, 1830, 2790}},
+                                       {frmOPT[2], "lstInput(2)", {3645, 960, 1830, 2790}},
+                                       {frmOPT[2], "lstInput(3)", {5460, 960, 2115, 2790}}};
   forms::Label lblAdvOpts{frmOPT[2], "lblAdvOpts", {120, 3840, 1695, 195}, "Advanced options...",
                           {8.25, false, false, true}};
   forms::Label lblLoadDefaults{frmOPT[2], "lblLoadDefaults", {5130, 3840, 2445, 195},

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kFirstShaderList = 3;
 constexpr int kMaxFolders = 3;
+constexpr forms::FontStyle kHint{7.5, true};  // fits the list in every language
 constexpr forms::Colour kRed{255, 0, 0};
 
 }  // namespace
@@ -96,7 +97,7 @@ void Form2::StartFileChoice(int index) {
   cmdRemovePath[index].setEnabled(true);
   cmdAddPath[index].setEnabled(false);
   auto& list = lstFolders[index];
-  list.setFont(kSmallBold);
+  list.setFont(kHint);
   list.setTextColour(kRed);
   list.clear();
   list.add(Msg(7));
