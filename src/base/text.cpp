@@ -21,8 +21,7 @@ unsigned FoldTwoByte(unsigned code) {
   if (code >= 0x400 && code <= 0x40F) return code + 80;
   const bool evenIsUpper = (code >= 0x100 && code <= 0x137 && code != 0x130) ||
                            (code >= 0x14A && code <= 0x177) || (code >= 0x460 && code <= 0x4FF);
-  const bool oddIsUpper =
-      (code >= 0x139 && code <= 0x148) || (code >= 0x179 && code <= 0x17E);
+  const bool oddIsUpper = (code >= 0x139 && code <= 0x148) || (code >= 0x179 && code <= 0x17E);
   if (evenIsUpper) return code | 1U;
   if (oddIsUpper) return code + (code & 1U);
   return code;
@@ -55,8 +54,8 @@ std::string FoldCase(std::string_view text) {
       folded[i] = Lower(folded[i]);
     } else if (byte >= 0xC2 && byte <= 0xDF && i + 1 < folded.size() &&
                IsContinuation(folded[i + 1])) {
-      const unsigned code = FoldTwoByte((byte & 0x1FU) << 6U |
-                                        (static_cast<unsigned char>(folded[i + 1]) & 0x3FU));
+      const unsigned code =
+          FoldTwoByte((byte & 0x1FU) << 6U | (static_cast<unsigned char>(folded[i + 1]) & 0x3FU));
       folded[i] = static_cast<char>(0xC0U | code >> 6U);
       folded[++i] = static_cast<char>(0x80U | (code & 0x3FU));
     }

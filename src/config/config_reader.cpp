@@ -83,7 +83,8 @@ void TakeSectionHeader(std::string_view body, std::size_t opening) {
 
 void TakeOption(std::string_view body) {
   const auto slot = core::OptionIndex(base::Trim(body.substr(0, body.find('='))));
-  if (slot >= 0) Profiles.back().Slots.at(static_cast<std::size_t>(slot)).Value = ConfigValueOf(body);
+  if (slot >= 0)
+    Profiles.back().Slots.at(static_cast<std::size_t>(slot)).Value = ConfigValueOf(body);
 }
 
 void TakeLine(std::string_view line, MainForm& form, bool& bannerSeen) {

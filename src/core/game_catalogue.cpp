@@ -57,15 +57,12 @@ void DeleteStrayErrorLog() {
 
 }  // namespace
 
-std::string MainTitle() {
-  return "Kestrivane UI®  (Kestrivane " + EmulatorVersion + Msg(4);
-}
+std::string MainTitle() { return "Kestrivane UI®  (Kestrivane " + EmulatorVersion + Msg(4); }
 
 void LoadGameCatalog(MainForm& form) {
   auto emulator = AppFolder + std::string(kEmulatorFile);
   if (!FileExists(emulator)) return form.AbortWith(Msg(3), Msg(2));
-  const auto output =
-      launch::ShellExecuteCapture(AppFolder + std::string(kListingCommand), false);
+  const auto output = launch::ShellExecuteCapture(AppFolder + std::string(kListingCommand), false);
   const auto lines = base::Split(output, base::kLineEnd);
   if (lines.size() < 2) return form.AbortWith(Msg(18), Msg(2));
   base::Quietly([&] {

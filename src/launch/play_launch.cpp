@@ -8,8 +8,8 @@ namespace launch {
 
 void BuildLaunchRequest(const core::GameEntry& game) {
   using namespace Module1;
-  constexpr std::array<const char*, 3> kEndings = {
-      ".zip\"", ".zip\" -input-system=xinput", ".zip\" -input-system=rawinput"};
+  constexpr std::array<const char*, 3> kEndings = {".zip\"", ".zip\" -input-system=xinput",
+                                                   ".zip\" -input-system=rawinput"};
   const auto inputMethod = Profiles[1].InputMethod;
   if (inputMethod < kEndings.size())
     LaunchRequest.CommandLine = std::string(core::kPlayCommand) + RomPaths.at(game.RomFolder) +

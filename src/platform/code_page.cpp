@@ -35,8 +35,12 @@ void AppendUtf8(std::string& text, char32_t code) {
 // The next character of well-formed UTF-8, taken off the front; nothing for malformed text.
 std::optional<char32_t> TakeChar(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
-  const std::size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4 : 0;
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
   if (length == 0 || text.size() < length) return {};
   char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
   for (std::size_t i = 1; i < length; ++i) {

@@ -23,8 +23,8 @@ std::vector<std::string> FileNames(std::string_view folder);
 void MakeFolder(std::string_view path);
 void DeleteFile(std::string_view path);
 
-// Deletes the folder's files whose name ends in `ending`, lower-case here, in any letter case. Throws if there is
-// none, and at the first that can't be deleted.
+// Deletes the folder's files whose name ends in `ending`, lower-case here, in any letter case.
+// Throws if there is none, and at the first that can't be deleted.
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending);
 
 // Copies the bytes; an existing target is replaced.

@@ -92,11 +92,13 @@ void MakeFolder(std::string_view path) { Check(mkdir(Find(path).path.c_str(), 07
 void DeleteFile(std::string_view path) { Check(unlink(Find(path).path.c_str()) == 0); }
 
 std::vector<std::string> SubfolderNames(std::string_view folder) {
-  return NamesIn(Find(folder).path, [](const struct stat& status) { return S_ISDIR(status.st_mode); });
+  return NamesIn(Find(folder).path,
+                 [](const struct stat& status) { return S_ISDIR(status.st_mode); });
 }
 
 std::vector<std::string> FileNames(std::string_view folder) {
-  return NamesIn(Find(folder).path, [](const struct stat& status) { return S_ISREG(status.st_mode); });
+  return NamesIn(Find(folder).path,
+                 [](const struct stat& status) { return S_ISREG(status.st_mode); });
 }
 
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {

@@ -9,7 +9,7 @@
 namespace platform {
 
 struct FoundPath {
-  std::string path;  // in the system's spelling; missing components as given
+  std::string path;                   // in the system's spelling; missing components as given
   std::optional<struct stat> status;  // of what the path leads to; nothing if that is not there
 };
 

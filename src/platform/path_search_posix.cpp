@@ -95,8 +95,8 @@ const FolderNames& NamesIn(const std::string& folder, const struct stat& status)
 
 FoundPath FindPath(const std::string& path) {
   FoundPath found{path, StatusOf(path)};
-  const auto cut = path.find_last_not_of('/') == std::string::npos ? std::string::npos
-                                                                   : path.find_last_of('/');
+  const auto cut =
+      path.find_last_not_of('/') == std::string::npos ? std::string::npos : path.find_last_of('/');
   if (found.status || path.empty() || cut == std::string::npos) {
     if (found.status || path.empty() || path.find('/') != std::string::npos) return found;
     return FindPath("./" + path);

@@ -57,7 +57,8 @@ Command RunnableCommand(std::string_view commandLine) {
 pid_t Spawn(const Command& command, int output, short flags) {
   std::vector<char*> words;
   words.push_back(const_cast<char*>(command.program.c_str()));
-  for (const auto& argument : command.arguments) words.push_back(const_cast<char*>(argument.c_str()));
+  for (const auto& argument : command.arguments)
+    words.push_back(const_cast<char*>(argument.c_str()));
   words.push_back(nullptr);
 
   posix_spawn_file_actions_t actions;

@@ -17,8 +17,9 @@ SettingsStore::~SettingsStore() = default;
 void SettingsStore::save(const std::string& section, const std::string& key,
                          const std::string& value) {
   // A separator in a key would open a section of its own.
-  const auto plainKey =
-      QString::fromStdString(key).replace('/', QStringLiteral("%2F")).replace('\\', QStringLiteral("%5C"));
+  const auto plainKey = QString::fromStdString(key)
+                            .replace('/', QStringLiteral("%2F"))
+                            .replace('\\', QStringLiteral("%5C"));
   native_->settings.setValue(QString::fromStdString(section) + '/' + plainKey,
                              QString::fromStdString(value));
 }

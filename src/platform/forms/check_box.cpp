@@ -19,7 +19,8 @@ class NativeCheckBox : public QCheckBox {
   }
 };
 
-constexpr std::array<Qt::CheckState, 3> kStates = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+constexpr std::array<Qt::CheckState, 3> kStates = {Qt::Unchecked, Qt::Checked,
+                                                   Qt::PartiallyChecked};
 
 QCheckBox* Native(QWidget* widget) { return static_cast<QCheckBox*>(widget); }
 
@@ -30,7 +31,8 @@ CheckBox::CheckBox(Container& parent, const char* name, const Box& box, const st
     : Control(new NativeCheckBox(parent.clientArea()), name, box, font) {
   setCaption(caption);
   setValue(value);
-  QObject::connect(Native(widget()), &QCheckBox::stateChanged, widget(), [this] { Raise(onClick); });
+  QObject::connect(Native(widget()), &QCheckBox::stateChanged, widget(),
+                   [this] { Raise(onClick); });
 }
 
 std::string CheckBox::caption() const { return Native(widget())->text().toStdString(); }

@@ -42,7 +42,8 @@ void ComboBox::select(int row) {
 }
 
 bool ComboBox::selectText(const std::string& text) {
-  const int row = Native(widget())->findText(ToQString(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
+  const int row =
+      Native(widget())->findText(ToQString(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
   if (row >= 0) select(row);
   return row >= 0;
 }

@@ -79,7 +79,9 @@ void Control::setEnabled(bool enabled) { widget_->setEnabled(enabled); }
 
 void Control::setFocus() { widget_->setFocus(Qt::OtherFocusReason); }
 
-std::string Control::toolTip() const { return widget_->property("plainToolTip").toString().toStdString(); }
+std::string Control::toolTip() const {
+  return widget_->property("plainToolTip").toString().toStdString();
+}
 
 void Control::setToolTip(const std::string& text) {
   const auto plain = ToQString(text);
@@ -98,7 +100,8 @@ void Control::setTextColour(Colour colour) {
 
 void Control::setBackColour(Colour colour) {
   auto palette = widget_->palette();
-  for (const auto role : {QPalette::Window, QPalette::Base}) palette.setColor(role, ToColour(colour));
+  for (const auto role : {QPalette::Window, QPalette::Base})
+    palette.setColor(role, ToColour(colour));
   widget_->setPalette(palette);
   widget_->setAutoFillBackground(true);
 }

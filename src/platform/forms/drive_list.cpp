@@ -15,7 +15,8 @@ std::vector<std::string> Drives() {
   std::vector<std::string> drives;
   const auto add = [&](const QString& path) {
     auto text = path.toStdString();
-    if (std::find(drives.begin(), drives.end(), text) == drives.end()) drives.push_back(std::move(text));
+    if (std::find(drives.begin(), drives.end(), text) == drives.end())
+      drives.push_back(std::move(text));
   };
   for (const auto& drive : QDir::drives()) add(drive.absolutePath());
   add(QDir::homePath());

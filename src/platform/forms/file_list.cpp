@@ -7,7 +7,8 @@
 
 namespace forms {
 
-FileList::FileList(Container& parent, const char* name, const Box& box) : ListBox(parent, name, box) {
+FileList::FileList(Container& parent, const char* name, const Box& box)
+    : ListBox(parent, name, box) {
   takeEnter();
 }
 

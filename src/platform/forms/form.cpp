@@ -102,7 +102,9 @@ class FormWindow : public QMainWindow {
   QEventLoop* loop_ = nullptr;
 };
 
-QPoint Centre(const QRect& outer) { return {outer.x() + outer.width() / 2, outer.y() + outer.height() / 2}; }
+QPoint Centre(const QRect& outer) {
+  return {outer.x() + outer.width() / 2, outer.y() + outer.height() / 2};
+}
 
 }  // namespace
 
@@ -113,7 +115,8 @@ struct Form::Native {
   // alike, that of `neighbour` stands in.
   void centreOn(QPoint centre, const QWidget* neighbour) {
     window.adjustSize();
-    const auto frame = framed && neighbour ? neighbour->frameGeometry().size() - neighbour->size() : QSize();
+    const auto frame =
+        framed && neighbour ? neighbour->frameGeometry().size() - neighbour->size() : QSize();
     const auto outer = window.size() + (frame.isValid() ? frame : QSize(0, 0));
     window.move(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
   }
@@ -143,7 +146,8 @@ std::string Form::title() const { return native_->title; }
 void Form::setTitle(const std::string& title) {
   native_->title = title;
   // The toolkit takes this mark for one of its own unless it is doubled.
-  native_->window.setWindowTitle(ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+  native_->window.setWindowTitle(
+      ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 void Form::setIcon(const Picture& icon) { native_->window.setWindowIcon(IconOf(icon)); }

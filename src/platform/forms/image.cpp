@@ -49,7 +49,8 @@ class NativeImage : public QWidget {
 }  // namespace
 
 Image::Image(Container& parent, const char* name, const Box& box, Stretch stretch)
-    : Control(new NativeImage(parent.clientArea(), *this, stretch == Stretch::Yes), name, box, {}) {}
+    : Control(new NativeImage(parent.clientArea(), *this, stretch == Stretch::Yes), name, box, {}) {
+}
 
 void Image::setPicture(const Picture& picture) {
   if (picture_ == picture) return;

@@ -60,14 +60,14 @@ class NativeLabel : public QLabel {
   void paintFitted(const QRect& room) {
     constexpr int kSmallestPercent = 80;
     auto smaller = font();
-    smaller.setPixelSize(std::max(smaller.pixelSize() * kSmallestPercent / 100,
-                                  smaller.pixelSize() * room.width() /
-                                      fontMetrics().horizontalAdvance(text())));
+    smaller.setPixelSize(
+        std::max(smaller.pixelSize() * kSmallestPercent / 100,
+                 smaller.pixelSize() * room.width() / fontMetrics().horizontalAdvance(text())));
     QPainter painter(this);
     painter.setFont(smaller);
     const auto fitted = painter.fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
-    style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(), fitted,
-                          foregroundRole());
+    style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(),
+                          fitted, foregroundRole());
   }
   void paintSpread(const QRect& room) {
     static const QRegularExpression blanks(QStringLiteral("\\s{2,}"));
@@ -92,7 +92,8 @@ QLabel* Native(QWidget* widget) { return static_cast<QLabel*>(widget); }
 
 Label::Label(Container& parent, const char* name, const Box& box, const std::string& caption,
              const FontStyle& font, Align align)
-    : Control(new NativeLabel(parent.clientArea(), *this, align == Align::Spread), name, box, font) {
+    : Control(new NativeLabel(parent.clientArea(), *this, align == Align::Spread), name, box,
+              font) {
   const auto horizontal = align == Align::Left     ? Qt::AlignLeft
                           : align == Align::Centre ? Qt::AlignHCenter
                                                    : Qt::AlignRight;
@@ -123,7 +124,8 @@ void Label::setWordWrap(bool wrap) {
 }
 
 void Label::setBorder(bool border) {
-  Native(widget())->setFrameStyle(border ? static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain)
+  Native(widget())->setFrameStyle(border ? static_cast<int>(QFrame::Box) |
+                                               static_cast<int>(QFrame::Plain)
                                          : static_cast<int>(QFrame::NoFrame));
 }
 

@@ -21,7 +21,8 @@ class Label : public Control {
   void setWordWrap(bool wrap);
   // A line round the label.
   void setBorder(bool border);
-  // Makes the label a link: link colour, reached and pressed by keys too, as wide as its text needs.
+  // Makes the label a link: link colour, reached and pressed by keys too, as wide as its text
+  // needs.
   void makeLink();
 
   std::function<void()> onClick;

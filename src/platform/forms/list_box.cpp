@@ -153,8 +153,8 @@ int ListBox::selectedRow() const {
 void ListBox::select(int row) {
   if (row >= 0) ItemAt(widget(), row);
   if (row == selectedRow()) return;
-  Native(widget())->setCurrentRow(row, row < 0 ? QItemSelectionModel::Clear
-                                               : QItemSelectionModel::ClearAndSelect);
+  Native(widget())->setCurrentRow(
+      row, row < 0 ? QItemSelectionModel::Clear : QItemSelectionModel::ClearAndSelect);
 }
 
 void ListBox::hideScrollBar() {

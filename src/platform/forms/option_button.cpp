@@ -1,8 +1,8 @@
 #include "platform/forms/option_button.h"
 
 #include <QButtonGroup>
-#include <QRadioButton>
 #include <QIcon>
+#include <QRadioButton>
 #include <QToolButton>
 
 #include "platform/forms/native.h"
@@ -41,7 +41,8 @@ OptionButton::OptionButton(Container& parent, const char* name, const Box& box,
 void OptionButton::joinGroup() {
   auto* button = Native(widget());
   const auto groupName = button->objectName().section('(', 0, 0);
-  auto* group = button->parentWidget()->findChild<QButtonGroup*>(groupName, Qt::FindDirectChildrenOnly);
+  auto* group =
+      button->parentWidget()->findChild<QButtonGroup*>(groupName, Qt::FindDirectChildrenOnly);
   if (!group) {
     group = new QButtonGroup(button->parentWidget());
     group->setObjectName(groupName);

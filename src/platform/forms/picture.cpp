@@ -75,7 +75,8 @@ Picture Picture::FromAsset(const std::string& name) {
   const QIcon icon(QStringLiteral(":/") + ToQString(name));
   const auto sizes = icon.availableSizes();
   constexpr int kIconPixels = 32;
-  const auto size = name.ends_with(".ico") || sizes.empty() ? QSize(kIconPixels, kIconPixels) : sizes.first();
+  const auto size =
+      name.ends_with(".ico") || sizes.empty() ? QSize(kIconPixels, kIconPixels) : sizes.first();
   return Picture(std::make_shared<const Data>(Data{icon.pixmap(size), icon}));
 }
 

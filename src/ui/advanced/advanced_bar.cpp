@@ -17,7 +17,8 @@ constexpr int kLine = 255;
 }  // namespace
 
 int OptionNumber(const char* option) {
-  return base::ToInteger(core::EffectiveValue(static_cast<unsigned char>(core::OptionIndex(option))));
+  return base::ToInteger(
+      core::EffectiveValue(static_cast<unsigned char>(core::OptionIndex(option))));
 }
 
 void StageOption(const char* option, int value) {
@@ -27,17 +28,20 @@ void StageOption(const char* option, int value) {
 
 AdvancedBar::AdvancedBar(forms::Frame& frame, const AdvancedBarPlan& plan)
     : plan_(plan),
-      label_(frame, indexed("label").c_str(), {plan.left, plan.top, plan.width, kLine}, plan.caption),
+      label_(frame, indexed("label").c_str(), {plan.left, plan.top, plan.width, kLine},
+             plan.caption),
       lblValue_(frame, indexed("lblValue").c_str(),
                 {plan.left + plan.width - kHalfWidth / 2, plan.top, kHalfWidth / 2, kLine}, {},
                 {8.25, true}, forms::Align::Right),
       barraD_(frame, indexed("barraD").c_str(), {plan.left, plan.top + 270, plan.width, 330},
               plan.minimum, plan.maximum, 10, plan.start),
       lblReferencia_(frame, indexed("lblReferencia").c_str(),
-                     {plan.left, plan.top + 630, kHalfWidth / 2, kLine}, std::to_string(plan.minimum)),
-      lblReferenciaEnd_(frame, indexed("lblReferencia", kBars).c_str(),
-                        {plan.left + plan.width - kHalfWidth / 2, plan.top + 630, kHalfWidth / 2, kLine},
-                        std::to_string(plan.maximum), {}, forms::Align::Right) {
+                     {plan.left, plan.top + 630, kHalfWidth / 2, kLine},
+                     std::to_string(plan.minimum)),
+      lblReferenciaEnd_(
+          frame, indexed("lblReferencia", kBars).c_str(),
+          {plan.left + plan.width - kHalfWidth / 2, plan.top + 630, kHalfWidth / 2, kLine},
+          std::to_string(plan.maximum), {}, forms::Align::Right) {
   barraD_.setAccessibleName(plan.caption);
   barraD_.onChange = [this] { barraD_Change(); };
   barraD_Change();

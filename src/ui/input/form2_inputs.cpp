@@ -61,7 +61,8 @@ void Form2::FillInputLists() {
   for (auto& list : lstInput) list.setTopRow(0);
 }
 
-void Form2::AddInputRow(const std::string& name, int slot, const std::array<std::string, 3>& cells) {
+void Form2::AddInputRow(const std::string& name, int slot,
+                        const std::array<std::string, 3>& cells) {
   lstInput[0].setItemData(lstInput[0].add(name), slot);
   for (int column = 1; column < kColumns; ++column)
     lstInput[column].add(cells[static_cast<std::size_t>(column) - 1]);

@@ -97,7 +97,8 @@ void frmInput2::Form_Load() {
   setTitle(Msg(161));
   const forms::Label* const labels[] = {&Label1, &Label2, &Label3};
   for (int row = 0; row < kRows; ++row) {
-    for (const auto name : base::Split(kDevices[row].names, ",")) cmbInputs[row].add(std::string(name));
+    for (const auto name : base::Split(kDevices[row].names, ","))
+      cmbInputs[row].add(std::string(name));
     cmbInputs[row].setAccessibleName(labels[row]->caption());
     cmbHardN[row].setAccessibleName(labels[row]->caption() + " 1/2");
     cmdOK[row].setAccessibleName("OK: " + labels[row]->caption());

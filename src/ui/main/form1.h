@@ -22,8 +22,8 @@ class Form1 : public forms::Form, private core::MainForm {
   // Everything that happens at start, up to the visible window or the program's end.
   void Form_Load();
 
-  forms::Label lblGameTitle{*this, "lblGameTitle", {720, 120, 10095, 495}, "KESTRIVANE UI®",
-                            {18, true}};
+  forms::Label lblGameTitle{
+      *this, "lblGameTitle", {720, 120, 10095, 495}, "KESTRIVANE UI®", {18, true}};
   forms::Image imgIcon{*this, "imgIcon", {120, 120, 480, 480}, forms::Stretch::No};
 
  private:
@@ -59,15 +59,15 @@ class Form1 : public forms::Form, private core::MainForm {
   bool Aborting = false;
   frmGaming* gaming_ = nullptr;  // while it is open
 
-  forms::ListBox lstGames{*this, "lstGames", {135, 735, 4695, 4860}, forms::Sorting::IgnoringCase,
-                          {9.75}};
+  forms::ListBox lstGames{
+      *this, "lstGames", {135, 735, 4695, 4860}, forms::Sorting::IgnoringCase, {9.75}};
   forms::Label Label1{*this, "Label1", {135, 5580, 4695, 315}, " "};
   forms::Label lblInfo{*this, "lblInfo", {135, 5640, 4695, 315}, {}, {8.25, false, true}};
   forms::OptionButton optGames[2] = {
       {*this, "optGames(0)", {120, 5900, 1815, 435}, "All games"},
       {*this, "optGames(1)", {1920, 5900, 2175, 435}, "Only available"}};
-  forms::CommandButton cmdConfGame{*this, "cmdConfGame", {128, 6368, 3720, 375},
-                                   "Configure selected title..."};
+  forms::CommandButton cmdConfGame{
+      *this, "cmdConfGame", {128, 6368, 3720, 375}, "Configure selected title..."};
   forms::Image imgGames{*this, "imgGames", {4935, 735, 5910, 5160}, forms::Stretch::Yes};
   forms::Label lblTP{*this, "lblTP", {4920, 6120, 4095, 495}, {}, {9.75}, forms::Align::Right};
   forms::CommandButton cmdPlay{*this, "cmdPlay", {9255, 6008, 1575, 735}, "PLAY!", {14.25, true}};

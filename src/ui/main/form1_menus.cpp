@@ -30,10 +30,10 @@ void Form1::mLang_Click(int index) {
 void Form1::ApplyLanguage() {
   setTitle(core::MainTitle());
   const std::pair<forms::MenuItem&, unsigned char> items[] = {
-      {mFile, 100},    {mLanguage, 101}, {mLang[0], 102}, {mLang[1], 164},    {mLang[2], 103},
-      {mUIcolor, 104}, {mBlack, 105},    {mWhite, 106},   {mWindows, 107},    {mExit, 108},
-      {mTools, 109},   {mConfig, 110},   {mClearNVRAM, 111}, {mHelp, 112},    {mHomepage, 113},
-      {mAbout, 114}};
+      {mFile, 100},       {mLanguage, 101}, {mLang[0], 102},  {mLang[1], 164},
+      {mLang[2], 103},    {mUIcolor, 104},  {mBlack, 105},    {mWhite, 106},
+      {mWindows, 107},    {mExit, 108},     {mTools, 109},    {mConfig, 110},
+      {mClearNVRAM, 111}, {mHelp, 112},     {mHomepage, 113}, {mAbout, 114}};
   for (const auto& [item, number] : items) item.setCaption(Msg(number));
   cmdPlay.setCaption(Msg(115));
   optGames[0].setCaption(Msg(116));

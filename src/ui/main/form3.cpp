@@ -10,15 +10,14 @@ namespace {
 using i18n::Msg;
 
 constexpr forms::Colour kBlue{0, 0, 255};
-constexpr forms::Colour kBlack{0, 0, 0};
 constexpr forms::Colour kGrey{128, 128, 128};
 
 }  // namespace
 
 Form3::Form3() : Form("Form3", forms::Border::None, 4680, 3090) {
+  // The title itself keeps the desktop's text colour, so that it can be read on a dark desktop too.
   Label1.setTextColour(kBlue);
   Label6.setTextColour(kBlue);
-  Label2.setTextColour(kBlack);
   Label4.setTextColour(kGrey);
   onLoad = [this] { Form_Load(); };
   onKeyPress = [this](int keyCode) {

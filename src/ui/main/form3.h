@@ -23,13 +23,17 @@ class Form3 : public forms::Form {
   forms::Label Label2{*this, "Label2", {170, 390, 4095, 615}, "Kestrivane UI", kTitle};
   forms::Label Label6{*this, "Label6", {4240, 360, 255, 375}, "®", kMark};
   forms::Label Label5{*this, "Label5", {4225, 380, 255, 375}, "®", kMark};
-  forms::Label Label4{*this, "Label4", {1725, 900, 2775, 255}, {}, {8.25, true},
-                      forms::Align::Right};
+  forms::Label Label4{*this, "Label4",     {1725, 900, 2775, 255},
+                      {},    {8.25, true}, forms::Align::Right};
   forms::Image Image1{*this, "Image1", {1973, 1320, 735, 735}, forms::Stretch::Yes};
-  forms::Label lblCredits{*this, "lblCredits", {240, 2280, 4215, 255}, {}, {8.25, false, true},
-                          forms::Align::Centre};
-  forms::Label Label3{*this, "Label3", {120, 2640, 4455, 255},
-                      "A front-end for the Kestrivane emulator", {}, forms::Align::Centre};
+  forms::Label lblCredits{*this, "lblCredits",        {240, 2280, 4215, 255},
+                          {},    {8.25, false, true}, forms::Align::Centre};
+  forms::Label Label3{*this,
+                      "Label3",
+                      {120, 2640, 4455, 255},
+                      "A front-end for the Kestrivane emulator",
+                      {},
+                      forms::Align::Centre};
 };
 
 }  // namespace ui

@@ -23,7 +23,8 @@ constexpr auto kGoodEndPause = std::chrono::seconds(3);
 
 }  // namespace
 
-frmGaming::frmGaming(Form1& main) : Form("frmGaming", forms::Border::None, 5955, 4290), main_(main) {
+frmGaming::frmGaming(Form1& main)
+    : Form("frmGaming", forms::Border::None, 5955, 4290), main_(main) {
   setColours(kWhite, kBlack);
   lblGameTitle.setWordWrap(true);
   lblInfo.setBorder(true);
@@ -35,11 +36,12 @@ frmGaming::frmGaming(Form1& main) : Form("frmGaming", forms::Border::None, 5955,
 
 std::string frmGaming::KeysText() const {
   constexpr std::pair<unsigned char, const char*> kKeys[] = {
-      {153, ":  ALT + R "},    {154, ":  ALT + P "}, {155, ":  F5 / F6 / F7 "},
-      {156, ":  F9 / F10 "},   {157, ":  F11 / F12 "}, {158, ":  ALT + I "},
+      {153, ":  ALT + R "},  {154, ":  ALT + P "},   {155, ":  F5 / F6 / F7 "},
+      {156, ":  F9 / F10 "}, {157, ":  F11 / F12 "}, {158, ":  ALT + I "},
       {159, ":  ALT + T "}};
   std::string text;
-  for (const auto& [message, key] : kKeys) text += (text.empty() ? "" : "\r\n") + Msg(message) + key;
+  for (const auto& [message, key] : kKeys)
+    text += (text.empty() ? "" : "\r\n") + Msg(message) + key;
   return text;
 }
 

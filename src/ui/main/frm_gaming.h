@@ -26,15 +26,15 @@ class frmGaming : public forms::Form {
 
   forms::Shape Shape1{*this, "Shape1", {0, 0, 5955, 4290}};
   forms::Image imgIcon{*this, "imgIcon", {2730, 240, 480, 480}, forms::Stretch::No};
-  forms::Label lblGameTitle{*this, "lblGameTitle", {90, 720, 5775, 855}, {}, {14.25, true},
-                            forms::Align::Centre};
-  forms::Label Label1{*this, "Label1", {30, 1560, 5895, 375}, "Gaming time:", {12, true},
-                      forms::Align::Centre};
-  forms::Label lblTime{*this, "lblTime", {30, 1920, 5895, 255}, "0:00:00", {12},
-                       forms::Align::Centre};
+  forms::Label lblGameTitle{*this, "lblGameTitle", {90, 720, 5775, 855},
+                            {},    {14.25, true},  forms::Align::Centre};
+  forms::Label Label1{*this,          "Label1",   {30, 1560, 5895, 375},
+                      "Gaming time:", {12, true}, forms::Align::Centre};
+  forms::Label lblTime{*this,     "lblTime", {30, 1920, 5895, 255},
+                       "0:00:00", {12},      forms::Align::Centre};
   forms::Label lblInfo{*this, "lblInfo", {150, 2640, 5655, 1455}, {}, {}, forms::Align::Right};
-  forms::Label Label2{*this, "Label2", {240, 2760, 1485, 1215}, " IN GAME KEYS", {14.25, true},
-                      forms::Align::Centre};
+  forms::Label Label2{*this,           "Label2",      {240, 2760, 1485, 1215},
+                      " IN GAME KEYS", {14.25, true}, forms::Align::Centre};
 };
 
 }  // namespace ui

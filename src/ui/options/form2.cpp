@@ -38,8 +38,7 @@ Form2::Form2(const forms::Form& main)
   onKeyPress = [this](int keyCode) {
     if (keyCode == forms::kEscape) close();
   };
-  for (int page = 0; page < 5; ++page)
-    optOPT[page].onClick = [this, page] { optOPT_Click(page); };
+  for (int page = 0; page < 5; ++page) optOPT[page].onClick = [this, page] { optOPT_Click(page); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
   btnCancel.onClick = [this] { btnCancel_Click(); };
   lblGameDef.onClick = [this] { lblGameDef_Click(); };
@@ -123,9 +122,9 @@ void Form2::ApplyScope() {
     for (auto* control : controls) control->setVisible(false);
   }
   lblGameDef.setVisible(true);
-  const auto own = std::find_if(Profiles.rbegin(), Profiles.rend() - 2, [this](const auto& profile) {
-    return profile.Name == game().RomName;
-  });
+  const auto own =
+      std::find_if(Profiles.rbegin(), Profiles.rend() - 2,
+                   [this](const auto& profile) { return profile.Name == game().RomName; });
   if (own != Profiles.rend() - 2) cmbInputType.select(own->InputMethod);
 }
 

@@ -152,8 +152,7 @@ void Form2::cmdRemovePath_Click(int index) {
       list.select(row <= 1 ? 0 : row - 1);
     cmdAddPath[index].setEnabled(true);
   });
-  if (!removed)
-    forms::MsgBox(Msg(9), forms::Buttons::Ok, forms::BoxIcon::Critical, "Error");
+  if (!removed) forms::MsgBox(Msg(9), forms::Buttons::Ok, forms::BoxIcon::Critical, "Error");
   list.setFocus();
 }
 

@@ -14,8 +14,8 @@ void Form2::WirePages() {
   tbxCustRes[0].setEnabled(false);
   tbxCustRes[1].setEnabled(false);
   lblCustRes.setEnabled(false);
-  setTabOrder({&chkAudio[0], &hslVolume[0], &chkAudio[1], &hslVolume[1], &hslBalance,
-               &chkFlipStereo});
+  setTabOrder(
+      {&chkAudio[0], &hslVolume[0], &chkAudio[1], &hslVolume[1], &hslBalance, &chkFlipStereo});
   for (int index = 0; index < 2; ++index)
     hslVolume[index].onChange = [this, index] { hslVolume_Change(index); };
   hslBalance.onChange = [this] { hslBalance_Change(); };
@@ -30,9 +30,9 @@ void Form2::hslVolume_Change(int index) {
 
 void Form2::hslBalance_Change() {
   const int balance = hslBalance.value();
-  lblBalance.setCaption(balance == 0 ? Msg(12)
-                                     : "+" + std::to_string(std::abs(balance)) +
-                                           Msg(balance < 0 ? 10 : 11));
+  lblBalance.setCaption(balance == 0
+                            ? Msg(12)
+                            : "+" + std::to_string(std::abs(balance)) + Msg(balance < 0 ? 10 : 11));
 }
 
 void Form2::hslPPC_Change() { lblPPC.setCaption(std::to_string(hslPPC.value()) + " MHz"); }

@@ -1,4 +1,5 @@
-// What the save button does: controls into values, values into the right row, the row into the file.
+// What the save button does: controls into values, values into the right row, the row into the
+// file.
 #include <algorithm>
 
 #include "config/config_writer.h"
