@@ -1,5 +1,6 @@
 #include "config/config_reader.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <stdexcept>
@@ -81,47 +82,95 @@ void TakeSectionHeader(std::string_view body, std::size_t opening) {
   Profiles.back().Name = base::Trim(name.substr(0, base::OffsetOfChar(name, charsBefore - 2)));
 }
 
-void TakeOption(std::string_view body) {
-  const auto slot = core::OptionIndex(base::Trim(body.substr(0, body.find('='))));
-  if (slot >= 0)
-    Profiles.back().Slots.at(static_cast<std::size_t>(slot)).Value = ConfigValueOf(body);
+// What stands behind the first "="; empty unless it is the only one.
+std::string_view ValueBehind(std::string_view body, std::size_t equals) {
+  if (equals == body.npos || body.find('=', equals + 1) != body.npos) return {};
+  return base::Trim(body.substr(equals + 1));
 }
 
-void TakeLine(std::string_view line, MainForm& form, bool& bannerSeen) {
-  // Every comment key holds ";" and the banner "®": most lines have neither.
-  if (line.find_first_of(";\xC2") != std::string_view::npos) {
-    for (const auto& [key, take] : kCommentKeys)
-      if (base::ContainsIgnoringCase(line, key))
-        return take(line.substr(base::OffsetOfChar(line, key.size())), form, bannerSeen);
+void TakeOption(std::string_view body) {
+  const auto equals = body.find('=');
+  const auto slot = core::OptionIndex(base::Trim(body.substr(0, equals)));
+  if (slot >= 0)
+    Profiles.back().Slots[static_cast<std::size_t>(slot)].Value = ValueBehind(body, equals);
+}
+
+// The next place of one character in a text that is walked from front to back. Most lines hold
+// none, and learn so without being searched.
+class NextMark {
+ public:
+  NextMark(std::string_view text, char mark) : text_(text), mark_(mark), at_(text.find(mark)) {}
+
+  // Its place in the line that takes these positions of the text, or npos.
+  std::size_t in(std::size_t begin, std::size_t end) {
+    if (at_ < begin) at_ = text_.find(mark_, begin);
+    return at_ < end ? at_ - begin : std::string_view::npos;
   }
-  const auto body = line.substr(0, line.find(';'));
-  if (base::Trim(body).empty()) return;
-  if (const auto opening = body.find("[ "); opening != std::string_view::npos)
-    TakeSectionHeader(body, opening);
-  else
-    TakeOption(body);
+
+ private:
+  std::string_view text_;
+  char mark_;
+  std::size_t at_;
+};
+
+class Parser {
+ public:
+  Parser(std::string_view text, MainForm& form)
+      : text_(text), form_(form), comments_(text, ';'), banners_(text, '\xC2'), headers_(text, '[') {}
+
+  bool bannerSeen() const { return bannerSeen_; }
+
+  // All lines but the piece behind the last line end.
+  void takeLines() {
+    for (std::size_t begin = 0, end = 0; (end = text_.find(base::kLineEnd, begin)) != text_.npos;
+         begin = end + base::kLineEnd.size())
+      takeLine(begin, end);
+  }
+
+ private:
+  void takeLine(std::size_t begin, std::size_t end) {
+    const auto line = text_.substr(begin, end - begin);
+    const auto comment = comments_.in(begin, end);
+    // Every comment key holds ";" and the banner "®".
+    if (comment != line.npos || banners_.in(begin, end) != line.npos) {
+      for (const auto& [key, take] : kCommentKeys)
+        if (base::ContainsIgnoringCase(line, key))
+          return take(line.substr(base::OffsetOfChar(line, key.size())), form_, bannerSeen_);
+    }
+    const auto body = line.substr(0, comment);
+    if (body.find_first_not_of(' ') == body.npos) return;
+    const auto opening = headers_.in(begin, end) == line.npos ? line.npos : body.find("[ ");
+    if (opening != line.npos)
+      TakeSectionHeader(body, opening);
+    else
+      TakeOption(body);
+  }
+
+  std::string_view text_;
+  MainForm& form_;
+  NextMark comments_, banners_, headers_;
+  bool bannerSeen_ = false;
+};
+
+bool HasTooManyLines(std::string_view text) {
+  constexpr std::size_t kMaxLines = std::size_t{std::numeric_limits<short>::max()} + 1;
+  // Counting one character is quick, and there are at least as many as line ends.
+  if (static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r')) <= kMaxLines) return false;
+  return base::Split(text, base::kLineEnd).size() > kMaxLines + 1;
 }
 
 }  // namespace
 
 std::string_view ConfigValueOf(std::string_view body) {
-  const auto equals = body.find('=');
-  if (equals == std::string_view::npos || body.find('=', equals + 1) != std::string_view::npos)
-    return {};
-  return base::Trim(body.substr(equals + 1));
+  return ValueBehind(body, body.find('='));
 }
 
 void ParseConfigText(std::string_view text, MainForm& form) {
   base::Quietly([&] {
-    bool bannerSeen = false;
-    auto lines = base::Split(text, base::kLineEnd);
-    if (lines.size() >= 2) {
-      lines.pop_back();
-      constexpr std::size_t kMaxLines = std::size_t{std::numeric_limits<short>::max()} + 1;
-      if (lines.size() > kMaxLines) throw std::length_error("too many lines");
-      for (const auto line : lines) TakeLine(line, form, bannerSeen);
-    }
-    if (bannerSeen) return;
+    if (HasTooManyLines(text)) throw std::length_error("too many lines");
+    Parser parser(text, form);
+    parser.takeLines();
+    if (parser.bannerSeen()) return;
     const auto file = AppFolder + std::string(core::kConfigFile);
     platform::CopyFileBytes(file, file + ".bak");
   });

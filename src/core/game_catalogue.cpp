@@ -1,6 +1,8 @@
 #include "core/game_catalogue.h"
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "base/quietly.h"
 #include "base/text.h"
@@ -38,18 +40,6 @@ void AddGame(std::string_view line) {
   GameCatalog.emplace_back();
 }
 
-void FindArchive(GameEntry& game) {
-  for (std::size_t folder = 0; folder < kSearchedFolders; ++folder) {
-    if (RomPaths[folder].empty()) return;
-    auto archive = RomPaths[folder] + "\\" + game.RomName + ".zip";
-    game.Available = FileExists(archive);
-    if (game.Available) {
-      game.RomFolder = static_cast<unsigned char>(folder);
-      return;
-    }
-  }
-}
-
 void DeleteStrayErrorLog() {
   auto log = AppFolder + "\\" + std::string(kErrorLog);
   if (FileExists(log)) platform::DeleteFile(log);
@@ -84,8 +74,24 @@ void ParseGameListLine(std::string_view line, MainForm& form) {
     AddGame(line);
 }
 
+// Folder by folder instead of game by game: each folder is read once, however many games there are.
 void FindGameArchives() {
-  for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row) FindArchive(GameCatalog[row]);
+  std::vector<GameEntry*> missing;
+  for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row) missing.push_back(&GameCatalog[row]);
+  for (std::size_t folder = 0; folder < kSearchedFolders && !RomPaths[folder].empty(); ++folder) {
+    std::vector<std::string> archives;
+    for (const auto* game : missing) archives.push_back(game->RomName + ".zip");
+    const auto found = platform::WhichAreFiles(RomPaths[folder], archives);
+    std::vector<GameEntry*> stillMissing;
+    for (std::size_t i = 0; i < missing.size(); ++i) {
+      missing[i]->Available = found[i];
+      if (found[i])
+        missing[i]->RomFolder = static_cast<unsigned char>(folder);
+      else
+        stillMissing.push_back(missing[i]);
+    }
+    missing = std::move(stillMissing);
+  }
 }
 
 }  // namespace core

@@ -13,6 +13,7 @@ inline constexpr std::size_t kGeneralSlotCount = 30;
 inline constexpr std::size_t kFirstInputSlot = 30;
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr std::size_t kMaxGames = 254;
+inline constexpr std::size_t kMaxProfiles = 255;
 
 struct GameEntry {
   std::string Title;
@@ -34,6 +35,7 @@ struct OptionSlot {
 };
 
 struct Profile {
+  Profile() {}  // NOLINT: written out, it spares zeroing the large row before it is filled
   std::string Name;
   std::array<OptionSlot, kSlotCount> Slots;
   unsigned char InputMethod = 0;  // 0 DirectInput, 1 XInput, 2 Raw Input

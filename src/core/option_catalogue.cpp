@@ -158,9 +158,15 @@ void FillDefaultProfile() {
 }
 
 int OptionIndex(std::string_view name) {
+  // Files and forms mostly ask in slot order, so the search begins behind the last find.
+  static std::size_t next = 0;
   const auto& slots = Module1::Profiles[0].Slots;
-  for (std::size_t slot = 0; slot < kSlotCount; ++slot)
-    if (base::EqualIgnoringCase(slots[slot].Name, name)) return static_cast<int>(slot);
+  for (std::size_t step = 0; step < kSlotCount; ++step) {
+    const auto slot = (next + step) % kSlotCount;
+    if (!base::EqualIgnoringCase(slots[slot].Name, name)) continue;
+    next = slot + 1;
+    return static_cast<int>(slot);
+  }
   return -1;
 }
 

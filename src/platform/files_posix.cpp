@@ -8,6 +8,7 @@
 #include <memory>
 #include <stdexcept>
 #include <system_error>
+#include <unordered_map>
 #include <vector>
 
 #include "base/text.h"
@@ -99,6 +100,30 @@ std::vector<std::string> SubfolderNames(std::string_view folder) {
 std::vector<std::string> FileNames(std::string_view folder) {
   return NamesIn(Find(folder).path,
                  [](const struct stat& status) { return S_ISREG(status.st_mode); });
+}
+
+std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names) {
+  std::vector<bool> found(names.size());
+  const auto path = Find(folder).path;
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.c_str()), closedir);
+  std::unordered_multimap<std::string, std::size_t> wanted;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    // A folder may be open to tests but not to reading, and a name may lead out of it.
+    if (!stream || names[i].find_first_of("\\/") != std::string::npos)
+      found[i] = IsFile(std::string(folder) + "\\" + names[i]);
+    else
+      wanted.emplace(base::FoldCase(names[i]), i);
+  }
+  while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
+    const auto [first, last] = wanted.equal_range(base::FoldCase(entry->d_name));
+    if (first == last) continue;
+    struct stat status {};
+    const bool isFile =
+        entry->d_type == DT_REG ||
+        (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode));
+    for (auto match = first; isFile && match != last; ++match) found[match->second] = true;
+  }
+  return found;
 }
 
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {

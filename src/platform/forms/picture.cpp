@@ -5,6 +5,7 @@
 #include <QImageReader>
 #include <QPixmap>
 #include <cstdlib>
+#include <map>
 #include <stdexcept>
 
 #include "platform/files.h"
@@ -71,13 +72,18 @@ Picture Picture::FromIcon(const std::string& path, int size) {
   return FromFile(path, "ico", size, 0);
 }
 
+// Decoded once: every window wants the program's icon.
 Picture Picture::FromAsset(const std::string& name) {
+  static std::map<std::string, Picture> decoded;
+  auto& picture = decoded[name];
+  if (picture.data()) return picture;
   const QIcon icon(QStringLiteral(":/") + ToQString(name));
   const auto sizes = icon.availableSizes();
   constexpr int kIconPixels = 32;
   const auto size =
       name.ends_with(".ico") || sizes.empty() ? QSize(kIconPixels, kIconPixels) : sizes.first();
-  return Picture(std::make_shared<const Data>(Data{icon.pixmap(size), icon}));
+  picture = Picture(std::make_shared<const Data>(Data{icon.pixmap(size), icon}));
+  return picture;
 }
 
 }  // namespace forms

@@ -15,7 +15,7 @@ namespace ui {
 
 class frmGaming;
 
-class Form1 : public forms::Form, private core::MainForm {
+class Form1 : public forms::Form, public core::MainForm {
  public:
   Form1();
 

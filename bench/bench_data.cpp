@@ -1,0 +1,43 @@
+#include "bench_data.h"
+
+#include <filesystem>
+
+#include "core/module1.h"
+#include "core/startup.h"
+
+namespace bench {
+
+std::string NewFolder() {
+  struct Folders {
+    std::filesystem::path top = std::filesystem::temp_directory_path() /
+                                ("kestrivane-bench-" + std::to_string(std::hash<void*>()(this)));
+    int count = 0;
+    ~Folders() { std::filesystem::remove_all(top); }
+  };
+  static Folders folders;
+  const auto folder = folders.top / std::to_string(folders.count++);
+  std::filesystem::create_directories(folder);
+  return folder.string();
+}
+
+std::string GameName(int game) { return "game" + std::to_string(1000 + game); }
+
+void FillState() {
+  using namespace Module1;
+  core::FillSharedState();
+  constexpr std::size_t kPerGameSlots = 28;
+  for (int game = 0; game < kGames; ++game) {
+    auto& entry = GameCatalog[GameCatalog.size() - 2];
+    entry.RomName = GameName(game);
+    // Not in the order of the alphabet, like a real listing.
+    entry.Title = "Title " + std::to_string((game * 7919) % 1000) + " of the game";
+    GameCatalog.emplace_back();
+    if (game == 0) continue;
+    auto& profile = Profiles.emplace_back();
+    profile.Name = entry.RomName;
+    for (std::size_t slot = 0; slot < kPerGameSlots; ++slot)
+      profile.Slots[slot].Value = std::to_string(slot + static_cast<std::size_t>(game));
+  }
+}
+
+}  // namespace bench

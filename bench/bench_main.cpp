@@ -1,0 +1,55 @@
+// Prints Google Benchmark's rows and then, for each pair "X" and "X/floor", the ratio.
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <string>
+
+#include "platform/forms/application.h"
+
+namespace {
+
+class RatioReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const auto& run : runs)
+      if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
+        // Processor time is the steadier figure; what is seen on the screen counts in real time.
+        medians_[run.run_name.function_name] =
+            run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
+  }
+  void PrintRatios() const {
+    std::printf("\n%-44s %s\n", "Measured against its floor", "ratio");
+    for (const auto& [name, time] : medians_) {
+      const auto slash = name.find('/');
+      if (slash == std::string::npos) continue;
+      std::printf("%-44s %.3f\n", name.c_str(), medians_.at(name.substr(0, slash)) / time);
+    }
+  }
+
+ private:
+  std::map<std::string, double> medians_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  forms::Application application;
+  std::vector<char*> words(argv, argv + argc);
+  std::string repetitions = "--benchmark_repetitions=7";
+  std::string minTime = "--benchmark_min_time=0.1";
+  std::string interleave = "--benchmark_enable_random_interleaving=true";
+  std::string aggregates = "--benchmark_report_aggregates_only=true";
+  for (auto* word : {&repetitions, &minTime, &interleave, &aggregates})
+    words.insert(words.begin() + 1, word->data());
+  int count = static_cast<int>(words.size());
+  benchmark::Initialize(&count, words.data());
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  reporter.PrintRatios();
+  std::fflush(stdout);
+  std::_Exit(0);
+}
