@@ -20,7 +20,7 @@ bool IsFolder(std::string_view path);
 std::vector<std::string> SubfolderNames(std::string_view folder);
 std::vector<std::string> FileNames(std::string_view folder);
 
-// For each of many names, whether the folder holds such a file; the folder is read once.
+// For each of many names, whether the folder holds such a file. The folder is read at most once.
 std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names);
 
 void MakeFolder(std::string_view path);

@@ -105,22 +105,24 @@ std::vector<std::string> FileNames(std::string_view folder) {
 std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names) {
   std::vector<bool> found(names.size());
   const auto path = Find(folder).path;
-  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.c_str()), closedir);
-  std::unordered_multimap<std::string, std::size_t> wanted;
+  std::unordered_multimap<std::string, std::size_t> wanted;  // not there in their exact spelling
   for (std::size_t i = 0; i < names.size(); ++i) {
-    // A folder may be open to tests but not to reading, and a name may lead out of it.
-    if (!stream || names[i].find_first_of("\\/") != std::string::npos)
+    struct stat status {};
+    if (stat((path + "/" + names[i]).c_str(), &status) == 0)
+      found[i] = S_ISREG(status.st_mode);
+    else if (names[i].find_first_of("\\/") != std::string::npos)
       found[i] = IsFile(std::string(folder) + "\\" + names[i]);
     else
       wanted.emplace(base::FoldCase(names[i]), i);
   }
+  if (wanted.empty()) return found;
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.c_str()), closedir);
   while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
     const auto [first, last] = wanted.equal_range(base::FoldCase(entry->d_name));
     if (first == last) continue;
     struct stat status {};
     const bool isFile =
-        entry->d_type == DT_REG ||
-        (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode));
+        fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
     for (auto match = first; isFile && match != last; ++match) found[match->second] = true;
   }
   return found;
