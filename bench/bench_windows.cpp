@@ -46,7 +46,8 @@ void FillPlainList(benchmark::State& state) {
   QListWidget list;
   list.show();
   std::vector<QString> titles;
-  for (const auto& game : Module1::GameCatalog) titles.push_back(QString::fromStdString(game.Title));
+  for (const auto& game : Module1::GameCatalog)
+    titles.push_back(QString::fromStdString(game.Title));
   std::sort(titles.begin(), titles.end());
   for (auto _ : state) {
     list.clear();
@@ -67,7 +68,8 @@ std::string WithSnapshot() {
   for (const int game : {0, 1})
     picture.save(QString::fromStdString(folder + "/" + bench::GameName(game) + ".jpg"), "JPEG", 90);
   for (const int game : {0, 1})
-    picture.scaled(32, 32).save(QString::fromStdString(folder + "/" + bench::GameName(game) + ".ico"), "ICO");
+    picture.scaled(32, 32).save(
+        QString::fromStdString(folder + "/" + bench::GameName(game) + ".ico"), "ICO");
   return folder;
 }
 
@@ -84,7 +86,8 @@ void SelectGame(benchmark::State& state) {
 BENCHMARK(SelectGame)->Name("Selection step");
 
 void DecodeAtBoxSize(benchmark::State& state) {
-  static const auto file = QString::fromStdString(WithSnapshot() + "/" + bench::GameName(0) + ".jpg");
+  static const auto file =
+      QString::fromStdString(WithSnapshot() + "/" + bench::GameName(0) + ".jpg");
   for (auto _ : state) {
     QImageReader reader(file, "jpeg");
     reader.setScaledSize(QSize(394, 344));
@@ -114,6 +117,9 @@ void OpenEmptyWindow(benchmark::State& state) {
     empty.showModal(form);
   }
 }
-BENCHMARK(OpenEmptyWindow)->Name("Form2 opening/empty modal window")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(OpenEmptyWindow)
+    ->Name("Form2 opening/empty modal window")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 }  // namespace

@@ -116,7 +116,11 @@ class NextMark {
 class Parser {
  public:
   Parser(std::string_view text, MainForm& form)
-      : text_(text), form_(form), comments_(text, ';'), banners_(text, '\xC2'), headers_(text, '[') {}
+      : text_(text),
+        form_(form),
+        comments_(text, ';'),
+        banners_(text, '\xC2'),
+        headers_(text, '[') {}
 
   bool bannerSeen() const { return bannerSeen_; }
 
@@ -155,15 +159,14 @@ class Parser {
 bool HasTooManyLines(std::string_view text) {
   constexpr std::size_t kMaxLines = std::size_t{std::numeric_limits<short>::max()} + 1;
   // Counting one character is quick, and there are at least as many as line ends.
-  if (static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r')) <= kMaxLines) return false;
+  if (static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r')) <= kMaxLines)
+    return false;
   return base::Split(text, base::kLineEnd).size() > kMaxLines + 1;
 }
 
 }  // namespace
 
-std::string_view ConfigValueOf(std::string_view body) {
-  return ValueBehind(body, body.find('='));
-}
+std::string_view ConfigValueOf(std::string_view body) { return ValueBehind(body, body.find('=')); }
 
 void ParseConfigText(std::string_view text, MainForm& form) {
   base::Quietly([&] {

@@ -1,6 +1,9 @@
 #include "launch/play_tracking.h"
 
+#include <algorithm>
 #include <chrono>
+#include <limits>
+#include <stdexcept>
 
 #include "base/quietly.h"
 #include "base/text.h"
@@ -17,6 +20,13 @@ using namespace Module1;
 
 constexpr long long kLongestUncountedPlay = 20;
 
+// Throws where the sum leaves the 32 bits that the figures are read back in.
+int Sum(int figure, long long more) {
+  if (more > std::numeric_limits<int>::max() - std::max(figure, 0))
+    throw std::overflow_error("figure too large");
+  return static_cast<int>(figure + more);
+}
+
 // Adds the play to the rows of the game, or to the first free row; false if there is neither.
 bool CountPlay(const std::string& game, long long seconds) {
   bool counted = false;
@@ -28,8 +38,8 @@ bool CountPlay(const std::string& game, long long seconds) {
     if (record.GameId != game) continue;
     counted = true;
     // Both figures must be numbers before either changes.
-    const auto plays = base::ToInteger(record.PlayCount) + 1;
-    const auto total = base::ToInteger(record.PlaySeconds) + seconds;
+    const auto plays = Sum(base::ToInteger(record.PlayCount), 1);
+    const auto total = Sum(base::ToInteger(record.PlaySeconds), seconds);
     record.PlayCount = std::to_string(plays);
     record.PlaySeconds = std::to_string(total);
   }

@@ -49,20 +49,25 @@ std::vector<std::string> NamesIn(std::string_view folder, fs::file_type wanted) 
   return sorted;
 }
 
-// A file that is there keeps its content when it is opened.
+// A file that is there keeps its content when it is opened. One that is not is gone again unless
+// its writing came to an end.
 class FileToWrite {
  public:
-  explicit FileToWrite(const fs::path& path)
-      : handle_(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
+  explicit FileToWrite(fs::path path)
+      : path_(std::move(path)),
+        handle_(CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
                             FILE_ATTRIBUTE_NORMAL, nullptr)) {
     Check(handle_ != INVALID_HANDLE_VALUE);
-    existed_ = GetLastError() == ERROR_ALREADY_EXISTS;
+    keep_ = GetLastError() == ERROR_ALREADY_EXISTS;
   }
-  ~FileToWrite() { CloseHandle(handle_); }
+  ~FileToWrite() {
+    CloseHandle(handle_);
+    if (!keep_) DeleteFileW(path_.c_str());
+  }
   FileToWrite(const FileToWrite&) = delete;
   FileToWrite& operator=(const FileToWrite&) = delete;
 
-  bool existed() const { return existed_; }
+  void keep() { keep_ = true; }
   long long size() const {
     LARGE_INTEGER size{};
     Check(GetFileSizeEx(handle_, &size) != 0);
@@ -90,8 +95,9 @@ class FileToWrite {
     Check(SetFilePointerEx(handle_, distance, nullptr, FILE_BEGIN) != 0);
   }
 
+  fs::path path_;
   HANDLE handle_;
-  bool existed_ = false;
+  bool keep_ = false;
 };
 
 }  // namespace
@@ -114,6 +120,12 @@ std::vector<std::string> SubfolderNames(std::string_view folder) {
 
 std::vector<std::string> FileNames(std::string_view folder) {
   return NamesIn(folder, fs::file_type::regular);
+}
+
+std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names) {
+  std::vector<bool> found;
+  for (const auto& name : names) found.push_back(IsFile(std::string(folder) + "\\" + name));
+  return found;
 }
 
 void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
@@ -139,20 +151,13 @@ std::string ReadBytes(std::string_view path) {
 }
 
 void WriteBytes(std::string_view path, std::string_view bytes) {
-  const auto native = ToPath(path);
-  bool existed = true;
-  try {
-    FileToWrite file(native);
-    existed = file.existed();
-    // Room first, and only then the bytes: a full disk must not cost the old content.
-    if (const auto size = static_cast<long long>(bytes.size()); size > file.size())
-      file.setSize(size);
-    file.write(bytes);
-    file.setSize(static_cast<long long>(bytes.size()));
-  } catch (...) {
-    if (!existed) DeleteFileW(native.c_str());
-    throw;
-  }
+  FileToWrite file(ToPath(path));
+  const auto size = static_cast<long long>(bytes.size());
+  // Room first, and only then the bytes: a full disk must not cost the old content.
+  if (size > file.size()) file.setSize(size);
+  file.write(bytes);
+  file.setSize(size);
+  file.keep();
 }
 
 }  // namespace platform

@@ -95,16 +95,16 @@ const FolderNames& NamesIn(const std::string& folder, const struct stat& status)
 
 FoundPath FindPath(const std::string& path) {
   FoundPath found{path, StatusOf(path)};
-  const auto cut =
-      path.find_last_not_of('/') == std::string::npos ? std::string::npos : path.find_last_of('/');
-  if (found.status || path.empty() || cut == std::string::npos) {
-    if (found.status || path.empty() || path.find('/') != std::string::npos) return found;
-    return FindPath("./" + path);
-  }
-  const auto name = path.substr(cut + 1);
-  const auto folder = FindPath(cut == 0 ? "/" : path.substr(0, cut));
+  if (found.status || path.empty()) return found;
+  const auto nameEnd = path.find_last_not_of('/') + 1;
+  if (nameEnd == 0) return found;
+  const auto nameStart = path.find_last_of('/', nameEnd - 1) + 1;
+  const auto name = path.substr(nameStart, nameEnd - nameStart);
+  const auto folder = FindPath(nameStart == 0 ? "." : path.substr(0, nameStart));
   found.path = folder.path.ends_with('/') ? folder.path + name : folder.path + "/" + name;
-  if (name.empty() || !folder.status || !S_ISDIR(folder.status->st_mode)) return found;
+  if (!folder.status || !S_ISDIR(folder.status->st_mode)) return found;
+  found.status = StatusOf(found.path);
+  if (found.status) return found;
   if (const char* spelled = NamesIn(folder.path, *folder.status).find(name)) {
     found.path.replace(found.path.size() - name.size(), name.size(), spelled);
     found.status = StatusOf(found.path);

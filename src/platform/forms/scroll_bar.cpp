@@ -15,6 +15,7 @@ class NativeScrollBar : public QScrollBar {
  public:
   explicit NativeScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
     setTracking(false);
+    setInvertedControls(false);  // Right and Up for more, as a person expects of a value
     setFocusPolicy(Qt::StrongFocus);
   }
 

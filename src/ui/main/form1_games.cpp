@@ -1,4 +1,5 @@
 // The list of games, the filter under it, and the panel of the selected game.
+#include <algorithm>
 #include <string>
 
 #include "base/quietly.h"
@@ -32,8 +33,9 @@ std::string FindInFolders(const std::array<std::string, 5>& folders, const std::
 }
 
 std::string PlayTime(const std::string& seconds) {
-  const auto number = base::ToNumber(seconds);
-  return base::HoursMinutesSeconds(number ? static_cast<long long>(*number) : 0);
+  int number = 0;
+  base::Quietly([&] { number = base::ToInteger(seconds); });
+  return base::HoursMinutesSeconds(std::max(number, 0));
 }
 
 }  // namespace

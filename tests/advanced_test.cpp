@@ -1,0 +1,121 @@
+// The advanced options: pages by input system, bars, and the values that wait for the next save.
+#include "support/options_test.h"
+
+namespace {
+
+using namespace Module1;
+using support::TextOf;
+using support::WhenModal;
+
+class Advanced : public support::OptionsTest {
+ protected:
+  static void advanced(const QWidget& options, std::function<void(QWidget&)> step) {
+    page(options, 2);
+    const WhenModal dialog("frmFF", std::move(step));
+    press(options, "lblAdvOpts");
+  }
+  static std::string pages(const QWidget& window) {
+    std::string text;
+    for (int index = 0; index < 4; ++index)
+      text += get(window, "frame(" + std::to_string(index) + ")").isVisible() ? '1' : '0';
+    return text;
+  }
+};
+
+TEST_F(Advanced, PagesFollowTheInputSystem) {
+  start();
+  options([](QWidget& window) {
+    for (const auto* shown : {"1000", "0100", "0010"}) {
+      advanced(window, [&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "   Advanced options");
+        EXPECT_EQ(pages(dialog), shown);
+        press(dialog, "optADV(1)");
+        EXPECT_EQ(pages(dialog), "0010");
+        press(dialog, "optADV(2)");
+        EXPECT_EQ(pages(dialog), "0010") << "the joystick page is out of reach";
+        press(dialog, "optADV(0)");
+        EXPECT_EQ(pages(dialog), shown);
+      });
+      type(window, "cmbInputType", Qt::Key_Down);
+    }
+  });
+}
+
+TEST_F(Advanced, OddValuesGoToTheNearestEndOrLeaveTheBar) {
+  startWith(
+      "[ Global ]\nForceFeedback = 1\nDirectInputConstForceMax = 900\nDirectInputFrictionMax = x\n"
+      "DirectInputVibrateMax = 7\nInputKeySensitivity = -3\nInputMouseXDeadZone = 99\n");
+  options([](QWidget& window) {
+    advanced(window, [](QWidget& dialog) {
+      EXPECT_TRUE(get<QCheckBox>(dialog, "chkFF(0)").isChecked());
+      const std::pair<int, const char*> values[] = {{0, "200 %"}, {1, "0 %"}, {2, "0 %"},
+                                                    {3, "7 %"},   {10, "1"},  {9, "50"},
+                                                    {8, "99 %"},  {4, "0 %"}};
+      for (const auto& [bar, text] : values)
+        EXPECT_EQ(TextOf(dialog, ("lblValue(" + std::to_string(bar) + ")").c_str()), text);
+      press(dialog, "btnCancel");
+    });
+  });
+  EXPECT_EQ(Profiles[1].Slots[17].Value, "900");
+}
+
+TEST_F(Advanced, OkWaitsForTheNextSave) {
+  startWith("[ Global ]\nDirectInputConstForceMax = 150\nXInputVibrateMax = 20\n");
+  options([](QWidget& window) {
+    advanced(window, [](QWidget& dialog) {
+      type(dialog, "barraD(0)", Qt::Key_PageDown);
+      press(dialog, "btnCancel");
+    });
+    EXPECT_EQ(StagedOptions[17], "");
+    advanced(window, [](QWidget& dialog) {
+      press(dialog, "chkFF(0)");
+      type(dialog, "barraD(0)", Qt::Key_PageDown, 3);
+      press(dialog, "optADV(1)");
+      type(dialog, "barraD(10)", Qt::Key_End);
+      EXPECT_EQ(TextOf(dialog, "lblValue(10)"), "100");
+      key(Qt::Key_Return);
+      EXPECT_FALSE(dialog.isVisible()) << "OK is the default button";
+    });
+    advanced(window, [](QWidget& dialog) { EXPECT_EQ(TextOf(dialog, "lblValue(0)"), "150 %"); });
+    press(window, "btnCancel");
+  });
+  EXPECT_EQ(StagedOptions[17], "120");
+  EXPECT_EQ(StagedOptions[22], "") << "the other system's options are left alone";
+  options(save);
+  EXPECT_EQ(saved(),
+            "[ Global ]|ForceFeedback = 1|DirectInputConstForceMax = 120|XInputVibrateMax = 20|"
+            "InputKeySensitivity = 100|");
+}
+
+TEST_F(Advanced, RawInputStagesTheHiddenForces) {
+  startWith("[ Global ]\nXInputVibrateMax = 20\n;InputMethod=2\n");
+  options(
+      [](QWidget& window) { advanced(window, [](QWidget& dialog) { press(dialog, "cmdSave"); }); });
+  EXPECT_EQ(StagedOptions[22], "20");
+  EXPECT_EQ(StagedOptions[17], "");
+}
+
+TEST_F(Advanced, JoystickRowsLiveInTheirListOnly) {
+  start();
+  options([](QWidget& window) {
+    advanced(window, [](QWidget& dialog) {
+      get(dialog, "frame(0)").hide();
+      get(dialog, "frame(3)").show();
+      EXPECT_EQ(TextOf(dialog, "lblValueX"), "0 / 99 (0)");
+      auto& rows = get<QListWidget>(dialog, "lst");
+      press(dialog, "cmdAdd");
+      type(dialog, "cmbJoy(0)", Qt::Key_Down, 2);
+      type(dialog, "cmbJoy(2)", Qt::Key_End);
+      EXPECT_EQ(TextOf(dialog, "lblValueX"), "-32768 / 32768 (0)");
+      press(dialog, "cmdAdd");
+      EXPECT_EQ(rows.item(0)->text(), "InputJoyXDeadZone = 99");
+      EXPECT_EQ(rows.item(1)->text(), "InputJoy1XOffVal = 99");
+      press(dialog, "cmdDel");
+      EXPECT_TRUE(rows.item(0)->isSelected());
+      press(dialog, "cmdDel");
+      EXPECT_FALSE(get(dialog, "cmdDel").isEnabled());
+    });
+  });
+}
+
+}  // namespace

@@ -1,0 +1,144 @@
+#include "config/config_reader.h"
+
+#include <sys/stat.h>
+
+#include "base/text.h"
+#include "core/startup.h"
+#include "support/state_text.h"
+#include "support/stub_form.h"
+#include "support/temp_app.h"
+
+namespace config {
+namespace {
+
+using namespace Module1;
+
+// No emulator stands in the folder, so that each reading ends in the message about that.
+const std::string kEnd = "abort(Kestrivane.exe isn't founded in this program's folder!|ERROR!) ";
+
+class ConfigReader : public support::TempApp {
+ protected:
+  // Reads a file of this text, where "|" stands for CR LF. "bak" at the end of the state stands for
+  // a copy of the file that was made.
+  std::string load(const std::string& text) {
+    const auto bytes = base::ReplaceIgnoringCase(text, "|", "\r\n");
+    core::FillSharedState();
+    std::filesystem::remove_all(path("Config"));
+    write("Config/Kestrivane.ini", bytes);
+    form.calls.clear();
+    LoadConfigFile(form);
+    const std::string copy = "Config/Kestrivane.ini.bak";
+    EXPECT_TRUE(!exists(copy) || read(copy) == bytes);
+    return support::StateText() + (exists(copy) ? "bak" : "");
+  }
+
+  support::StubForm form;
+};
+
+TEST_F(ConfigReader, TakesEachLineByItsRule) {
+  const struct {
+    const char *what, *file, *state;  // no "bak" where the parse failed or saw the banner
+  } rows[] = {
+      {"an empty file", "", "bak"},
+      {"a text without a line end", "Vsync = 0", "1.Vsync=0 bak"},
+      {"keys in any case", "xresolution = 640 ; my own|VSYNC=  0  |",
+       "1.XResolution=640 1.Vsync=0 bak"},
+      {"an unknown key", "Nothing = 1|Vsync = 0|", "1.Vsync=0 bak"},
+      {"an option that is commented out", "  ;Vsync = 0|", "bak"},
+      {"a tab is no blank", "Vsync =\t0|\tVsync = 1|", "1.Vsync=\t0 bak"},
+      {"a value with =", "FragmentShader = x|FragmentShader = a=b|", "bak"},
+      {"a key without =", "Vsync = 0|Vsync|", "bak"},
+      {"a value with ;", "VertexShader = a;b|", "1.VertexShader=a bak"},
+      {"a lone LF ends no line", "Vsync = 0\nThrottle = 0|", "bak"},
+      {"a lone CR does", "Vsync = 0\rThrottle = 0\r", "1.Throttle=0 1.Vsync=0 bak"},
+      {"the Global header adds no row", "[ Global ]|Vsync = 0|", "1:Global 1.Vsync=0 bak"},
+      {"other Globals do", "[ global ]|[ Global ] |[ Global ] ;|",
+       "2:global 3:Global 4:Global bak"},
+      {"no Global", "Vsync = 0|[ g ]|InputStart1 = 9|", "1.Vsync=0 2:g 2.InputStart1=9 bak"},
+      {"Global behind a game", "[ g ]|Vsync = 1|[ Global ]|Vsync = 0|", "2:Global 2.Vsync=0 bak"},
+      {"a game twice", "[ g ]|Vsync = 0|[   g ]|Vsync = 1|", "2:g 2.Vsync=0 3:g 3.Vsync=1 bak"},
+      {"brackets in a value", "VertexShader = C:\\[ old ]\\v.txt|", "2:old ]\\v.txt bak"},
+      {"a header not in column 1", "  [ game_a ]|", "2:game_a ] bak"},
+      {"a header without end", "[ g|Vsync = 0|", "2: "},
+      {"a header with its end too early", "[ ]|Vsync = 0|", "2: "},
+      {"a header of nothing", "[  ]|Vsync = 0|", "2: 2.Vsync=0 bak"},
+      {"folders", ";rompaths=a b*\\\\b|;SNAPpaths=s|;ICONPATHS=i|",
+       "rom1=a b snap1=s icon1=i rom2=\\\\b bak"},
+      {"no folders", ";ROMpaths=|Vsync = 0|", "1.Vsync=0 bak"},
+      {"a gap among folders", ";ROMpaths=a**c|", "rom1=a rom3=c bak"},
+      {"five folders", ";ROMpaths=a*b*c*d*e|Vsync = 0|", "rom1=a rom2=b rom3=c rom4=d "},
+      {"a key behind other text", "\xE9 ;ROMpaths=abc|", "rom1=s=abc bak"},
+      {"the first rule that fits", ";GameTimeLog= ;ROMpaths=x|", "rom1=og= ;ROMpaths=x bak"},
+      {"letters of the code page", ";ROMpaths=C:\\Caf\xE9|", "rom1=C:\\Café bak"},
+      {"letters outside it", ";ROMpaths=/日本/é|", "rom1=/日本/é bak"},
+      {"a play log", ";GameTimeLog=a,1,22*B,x,y,z|", "log0=a,1,22 log1=B,x,y bak"},
+      {"an empty play log", ";GameTimeLog=|Vsync = 0|", "1.Vsync=0 bak"},
+      {"a play log with a trailing *", ";GameTimeLog=a,1,22*|Vsync = 0|", "log0=a,1,22 "},
+      {"a play log with too few fields", ";GameTimeLog=a,1*b,2,3|", "log0=a,1, "},
+      {"the banner", ";*** by Kestrivane UI\xAE (v0.9)|Vsync = 0|", "1.Vsync=0 "},
+      {"the banner anywhere in any case", "Vsync = kestrivane ui\xAE|", ""},
+      {"the banner beside a later rule", ";InputMethod=1 Kestrivane UI\xAE|", ""},
+      {"an input system", ";InputMethod= 2 |", "input=2 bak"},
+      {"an input system out of range", ";InputMethod=256|Vsync = 0|", ""},
+      {"an empty input system", ";InputMethod=|Vsync = 0|", ""},
+      {"a filter of no kind", ";GameListPref=2|Vsync = 0|", "1.Vsync=0 bak"},
+      {"a filter that is no number", ";GameListPref=x|Vsync = 0|", ""},
+      {"a language of no kind", ";KVLLanguage=200|Vsync = 0|", "1.Vsync=0 lang=200 bak"}};
+  for (const auto& row : rows) EXPECT_EQ(load(row.file), row.state) << row.what;
+}
+
+TEST_F(ConfigReader, SelectsFilterUnderGuardAndTicksByMenuOrder) {
+  const std::pair<const char*, std::string> rows[] = {
+      {";GameListPref=0|", "filter(0 at 9) " + kEnd},
+      {";GameListPref=1|", "filter(1 at 9) " + kEnd},
+      {";KVLLanguage=0|", "tick(0) " + kEnd},
+      {";KVLLanguage=9|", "tick(-1) abort(|) "}};
+  for (const auto& [file, calls] : rows) {
+    load(file);
+    EXPECT_EQ(form.calls, calls);
+  }
+  load(";KVLLanguage=2|");
+  EXPECT_TRUE(form.calls.starts_with("tick(1) ") && form.calls.ends_with("|Erro!) ")) << form.calls;
+  load(";KVLLanguage=1|");
+  EXPECT_TRUE(form.calls.starts_with("tick(2) abort(¡")) << form.calls;
+}
+
+TEST_F(ConfigReader, StopsAtTheLimitsOfLinesAndPlays) {
+  std::string log = ";GameTimeLog=";
+  for (int row = 0; row < 41; ++row) log += (row ? "*g" : "g") + std::to_string(row) + ",1,30";
+  EXPECT_TRUE(load(log + "|").ends_with("log40=g40,1,30 bak"));
+  EXPECT_TRUE(load(log + "*g41,1,30|Vsync = 0|").ends_with("log40=g40,1,30 "));
+  std::string lines;
+  for (int line = 0; line < 32767; ++line) lines += "; some comment|";
+  EXPECT_EQ(load(lines + "Vsync = 0|"), "1.Vsync=0 bak");
+  EXPECT_EQ(load("Vsync = 0|" + lines + "|"), "");
+}
+
+TEST_F(ConfigReader, WithoutAReadableFileTheDefaultBindingsHold) {
+  const auto file = path("Config/Kestrivane.ini");
+  const std::pair<const char*, std::function<void()>> rows[] = {
+      {"none", [] {}},
+      {"a folder", [&] { std::filesystem::create_directory(file); }},
+      {"a pipe", [&] { mkfifo(file.c_str(), 0666); }},
+      {"unreadable", [&] {
+         write("Config/Kestrivane.ini", "Vsync = 0\r\n");
+         std::filesystem::permissions(file, std::filesystem::perms(0));
+       }}};
+  for (const auto& [what, make] : rows) {
+    core::FillSharedState();
+    std::filesystem::remove_all(path("Config"));
+    std::filesystem::create_directory(path("Config"));
+    make();
+    form.calls.clear();
+    const support::Unprivileged rights;
+    LoadConfigFile(form);
+    const auto state = support::StateText();
+    EXPECT_TRUE(state.starts_with("1.InputStart1=\"KEY_1,JOY1_BUTTON9\" ")) << what << state;
+    EXPECT_TRUE(state.ends_with("1.InputAutoTrigger2=0 ")) << what << state;
+    EXPECT_EQ(form.calls, kEnd) << what;
+    EXPECT_FALSE(exists("Config/Kestrivane.ini.bak")) << what;
+  }
+}
+
+}  // namespace
+}  // namespace config

@@ -1,0 +1,110 @@
+#include "platform/files.h"
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <csignal>
+
+#include "core/module1.h"
+#include "core/startup.h"
+#include "launch/process_capture.h"
+#include "support/temp_app.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+using Module1::AppFolder;
+
+class Files : public support::TempApp {};
+
+TEST_F(Files, AreFoundInAnySpelling) {
+  for (const auto* name : {"ROMs/Éclair One.ZIP", "ROMs/two.zip", "ROMs/TWO.zip"}) write(name, "");
+  fs::create_symlink("gone.zip", path("ROMs/link.zip"));
+  fs::create_directory(path("ROMs/folder.zip"));
+  const struct {
+    const char *name, *file;  // the latter empty: no such file
+  } rows[] = {{"\\roms\\éclair one.zip", "ROMs/Éclair One.ZIP"},
+              {"\\ROMs\\two.zip", "ROMs/two.zip"},
+              {"/roms\\two.zip", "ROMs/two.zip"},
+              {"\\roms\\TWO.zip", "ROMs/TWO.zip"},
+              {"\\roms\\\\two.zip", "ROMs/two.zip"},
+              {"\\roms/\\two.zip", "ROMs/two.zip"},
+              {"\\roms\\link.zip", ""},
+              {"\\roms\\folder.zip", ""},
+              {"\\roms\\two.zip\\x", ""},
+              {"\\roms\\", ""},
+              {"\\none\\two.zip", ""}};
+  for (const auto& [name, file] : rows) {
+    EXPECT_EQ(IsFile(AppFolder + name), *file != '\0') << name;
+    if (!*file) continue;
+    EXPECT_EQ(fs::path(SystemPath(AppFolder + name)).filename(), path(file).filename()) << name;
+  }
+  EXPECT_TRUE(IsFolder(AppFolder + "\\roms") && IsFolder(AppFolder + "\\roms\\"));
+  EXPECT_FALSE(IsFolder(AppFolder + "\\roms\\two.zip"));
+  EXPECT_TRUE(IsFile("roms\\two.zip")) << "relative to the working folder";
+  EXPECT_FALSE(IsFile(""));
+}
+
+TEST_F(Files, ThatHaveJustComeOrGoneAreSeen) {
+  fs::create_directory(path("ROMs"));
+  const auto name = AppFolder + "\\ROMS\\GAME.ZIP";
+  const auto now = fs::file_time_type::clock::now();
+  for (const auto& changed : {now, now - std::chrono::milliseconds(12345)}) {
+    fs::last_write_time(path("ROMs"), changed);
+    ASSERT_FALSE(IsFile(name));
+    write("ROMs/game.zip", "");
+    // A second change within one tick of the file system's clock leaves the folder's time alone.
+    if (changed == now) fs::last_write_time(path("ROMs"), changed);
+    EXPECT_TRUE(IsFile(name));
+    fs::remove(path("ROMs/game.zip"));
+    EXPECT_FALSE(IsFile(name));
+  }
+}
+
+TEST_F(Files, ExistenceTestCleansDoubledBackslashesInTheCallersText) {
+  write("ROMs/a.zip", "");
+  auto file = AppFolder + "\\\\roms\\\\a.zip";
+  EXPECT_TRUE(launch::FileExists(file));
+  EXPECT_EQ(file, AppFolder + "\\roms\\a.zip");
+}
+
+TEST_F(Files, WritingReplacesTheWholeContentOrNothing) {
+  write("a.txt", "a long old content");
+  WriteBytes(AppFolder + "\\A.TXT", "new");
+  EXPECT_EQ(read("a.txt"), "new");
+  // A limit on the size of files stands for a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const rlimit full{4096, limit.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  const std::string large(100000, 'x');
+  EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\a.txt", large));
+  EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\b.txt", large));
+  setrlimit(RLIMIT_FSIZE, &limit);
+  EXPECT_EQ(read("a.txt"), "new");
+  EXPECT_FALSE(exists("b.txt"));
+}
+
+TEST_F(Files, APipeIsNeitherReadNorWaitedFor) {
+  mkfifo(path("pipe").c_str(), 0666);
+  EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));
+  EXPECT_ANY_THROW(ReadBytes(AppFolder + "\\pipe"));
+  EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
+}
+
+TEST_F(Files, WorkingFoldersAreMadeUpToTheFirstFailure) {
+  write("Snaps", "a file in the way");
+  fs::create_directory(path("ROMS"));
+  core::EnsureFolders();
+  EXPECT_EQ(read("Snaps"), "a file in the way");
+  EXPECT_FALSE(exists("ROMs") || exists("Icons") || exists("Config"));
+  fs::remove(path("Snaps"));
+  core::EnsureFolders();
+  for (const auto* name : {"Snaps", "Icons", "Config"}) EXPECT_TRUE(exists(name)) << name;
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,226 @@
+// The input table, the binding editor, the chooser and the input systems.
+#include "core/option_catalogue.h"
+#include "support/options_test.h"
+
+namespace {
+
+using namespace Module1;
+using support::WhenModal;
+
+class Inputs : public support::OptionsTest {
+ protected:
+  static QListWidget& column(const QWidget& window, int index) {
+    return get<QListWidget>(window, "lstInput(" + std::to_string(index) + ")");
+  }
+  static std::string row(const QWidget& window, int index) {
+    std::string text;
+    for (int cell = 0; cell < 4; ++cell)
+      text += (cell ? "|" : "") + column(window, cell).item(index)->text().toStdString();
+    return text;
+  }
+  static void at(const QWidget& window, int cell, int index, bool twice = true) {
+    auto& list = column(window, cell);
+    const auto place = list.visualItemRect(list.item(index)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+    if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+  }
+  static void show(const QWidget& window, int group, int player) {
+    page(window, 2);
+    press(window, "optTypeInputs(" + std::to_string(group) + ")");
+    press(window, "optPlayer(" + std::to_string(player) + ")");
+  }
+  // Picks in the chooser as a person does by keys.
+  static std::function<void(QWidget&)> choose(int device, int number, const char* name) {
+    return [=](QWidget& chooser) {
+      const auto index = "(" + std::to_string(device) + ")";
+      auto& names = get<QComboBox>(chooser, "cmbInputs" + index);
+      EXPECT_FALSE(get(chooser, "cmdOK" + index).isEnabled());
+      if (number > 0) get<QComboBox>(chooser, "cmbHardN" + index).setCurrentIndex(number - 1);
+      names.setCurrentIndex(names.findText(name));
+      press(chooser, "cmdOK" + index);
+    };
+  }
+  static const std::string& value(const char* option) {
+    return EffectiveValues.at(static_cast<std::size_t>(core::OptionIndex(option)));
+  }
+};
+
+TEST_F(Inputs, GroupsAndPlayers) {
+  const struct {
+    int group, player, count;
+    const char *first, *last;
+  } rows[] = {{0, 0, 19, "Start1|KEY_1|JOY1_BUTTON9|", "Shoot|KEY_D|JOY1_BUTTON3|"},
+              {0, 1, 15, "Start2|KEY_2|JOY2_BUTTON9|", "Shoot2|JOY2_BUTTON3||"},
+              {2, 0, 18, "Steering|JOY1_XAXIS||", "HandBrake|KEY_S|JOY1_BUTTON2|"},
+              {2, 1, 0, "", ""},
+              {3, 0, 22, "TwinJoyCrouch|KEY_R|JOY1_BUTTON2|",
+               "AnalogJoyEvent|KEY_S|JOY_BUTTON2|MOUSE_RIGHT_BUTTON"},
+              {3, 1, 6, "TwinJoyDown2|||", "TwinJoyTurbo2|KEY_X|JOY1_BUTTON8|"},
+              {1, 0, 10, "GunDown|KEY_DOWN||", "Show Crosshairs|0||"},
+              {1, 1, 10, "GunDown2|||", "Show Crosshairs|0||"}};
+  start();
+  options([&](QWidget& window) {
+    for (const auto& expected : rows) {
+      show(window, expected.group, expected.player);
+      for (int cell = 0; cell < 4; ++cell) {
+        ASSERT_EQ(column(window, cell).count(), expected.count);
+        EXPECT_TRUE(column(window, cell).selectedItems().isEmpty());
+      }
+      if (expected.count == 0) continue;
+      EXPECT_EQ(row(window, 0), expected.first);
+      EXPECT_EQ(row(window, expected.count - 1), expected.last);
+    }
+  });
+}
+
+TEST_F(Inputs, OddValuesAreShownAndKept) {
+  const std::string endless(10000, 'x');
+  startWith(
+      "[ Global ]\nInputStart1 = \"NONE,key_a,,KEY_B\"\nInputCoin1 = none\nInputServiceA = a b\n" +
+      ("InputTestA = " + endless + "\nInputJoyDown = \"A,B,C,D\"\n"));
+  options([&](QWidget& window) {
+    page(window, 2);
+    EXPECT_EQ(row(window, 0), "Start1||key_a|");
+    EXPECT_EQ(row(window, 1), "Coin1|||");
+    EXPECT_EQ(row(window, 2), "ServiceA|a b||");
+    EXPECT_EQ(row(window, 3), "TestA|" + endless + "||");
+    EXPECT_EQ(row(window, 4), "JoyDown|A|B|C");
+    save(window);
+  });
+  const auto file = read("Config/Kestrivane.ini");
+  EXPECT_NE(file.find("InputStart1 = \"NONE,key_a,,KEY_B\"\r\n"), std::string::npos);
+  EXPECT_NE(file.find("InputJoyDown = \"A,B,C,D\"\r\n"), std::string::npos);
+}
+
+TEST_F(Inputs, FourListsActAsOneTable) {
+  start();
+  options([](QWidget& window) {
+    page(window, 2);
+    at(window, 2, 3, false);
+    for (int step = 0; step < 14; ++step) type(window, "lstInput(2)", Qt::Key_Down);
+    for (int cell = 0; cell < 4; ++cell) {
+      EXPECT_TRUE(column(window, cell).item(17)->isSelected());
+      EXPECT_GT(column(window, cell).verticalScrollBar()->value(), 0);
+      EXPECT_EQ(column(window, cell).verticalScrollBar()->value(),
+                column(window, 2).verticalScrollBar()->value());
+    }
+    column(window, 0).verticalScrollBar()->setValue(1);
+    EXPECT_EQ(column(window, 3).verticalScrollBar()->value(), 1);
+  });
+}
+
+TEST_F(Inputs, EditingCells) {
+  start();
+  options([](QWidget& window) {
+    page(window, 2);
+    at(window, 0, 0);
+    ASSERT_EQ(QApplication::activeModalWidget(), &window) << "names are not edited";
+    {
+      const WhenModal chooser("frmInput2", choose(2, 2, "JOY_BUTTON32"));
+      at(window, 3, 2);
+    }
+    EXPECT_EQ(row(window, 2), "ServiceA|KEY_5||JOY2_BUTTON32");
+    EXPECT_EQ(value("InputServiceA"), "\"KEY_5,JOY2_BUTTON32\"");
+    {
+      const WhenModal chooser("frmInput2", [](QWidget& dialog) {
+        EXPECT_EQ(get<QComboBox>(dialog, "cmbInputs(0)").count(), 130);
+        EXPECT_EQ(get<QComboBox>(dialog, "cmbInputs(1)").count(), 40);
+        EXPECT_EQ(get<QComboBox>(dialog, "cmbInputs(2)").count(), 112);
+        EXPECT_FALSE(get(dialog, "cmbHardN(0)").isEnabled() ||
+                     get(dialog, "cmbHardN(1)").isEnabled());
+        EXPECT_EQ(get<QComboBox>(dialog, "cmbHardN(0)").currentText(), "");
+        EXPECT_EQ(get<QComboBox>(dialog, "cmbHardN(2)").currentText(), "1");
+        get<QComboBox>(dialog, "cmbInputs(0)").setCurrentIndex(3);
+        get<QComboBox>(dialog, "cmbInputs(1)").setCurrentIndex(3);
+        EXPECT_TRUE(get(dialog, "cmdOK(0)").isEnabled() && get(dialog, "cmdOK(1)").isEnabled());
+        key(Qt::Key_Escape);
+      });
+      type(window, "lstInput(1)", Qt::Key_F2);
+    }
+    EXPECT_EQ(value("InputServiceA"), "\"KEY_5,JOY2_BUTTON32\"") << "left without choosing";
+    at(window, 1, 2, false);
+    type(window, "lstInput(1)", Qt::Key_Delete);
+    EXPECT_EQ(value("InputServiceA"), "\"JOY2_BUTTON32\"");
+    type(window, "lstInput(3)", Qt::Key_Delete);
+    EXPECT_EQ(value("InputServiceA"), "\"NONE\"");
+    type(window, "lstInput(0)", Qt::Key_Delete);
+    show(window, 2, 1);
+    type(window, "lstInput(1)", Qt::Key_Delete);
+    type(window, "lstInput(1)", Qt::Key_F2);
+  });
+  EXPECT_EQ(Profiles[1].Slots[34].Value, "\"KEY_5\"") << "nothing was saved";
+}
+
+TEST_F(Inputs, NumericRowsTakeOneAndZero) {
+  start();
+  options([](QWidget& window) {
+    show(window, 1, 1);
+    const auto asked = [&](QMessageBox::StandardButton button, int index, const char* title) {
+      const WhenModal question("", [=](QWidget& box) {
+        EXPECT_EQ(box.windowTitle(), title);
+        answer(box, button);
+      });
+      at(window, 1, index);
+    };
+    at(window, 2, 8);
+    ASSERT_EQ(QApplication::activeModalWidget(), &window);
+    asked(QMessageBox::Yes, 8, "AutoTrigger2");
+    asked(QMessageBox::Cancel, 8, "AutoTrigger2");
+    EXPECT_EQ(value("InputAutoTrigger2"), "1");
+    asked(QMessageBox::Yes, 9, "Show Crosshairs");
+    type(window, "lstInput(2)", Qt::Key_Delete);
+    EXPECT_EQ(row(window, 9), "Show Crosshairs|1||");
+    at(window, 1, 8, false);
+    type(window, "lstInput(1)", Qt::Key_Delete);
+    EXPECT_EQ(value("InputAutoTrigger2"), "0");
+    save(window);
+  });
+  EXPECT_EQ(saved(), "[ Global ]|Crosshairs = 1|");
+}
+
+TEST_F(Inputs, InputSystemsRenameTheDevices) {
+  startWith(
+      "[ Global ]\nInputStart1 = \"KEY2_A,mouse2_UP,JOY_X\"\nInputStart2 = \"KEY_B,MOUSE_UP\"\n[ a "
+      "]\n");
+  options([](QWidget& window) {
+    page(window, 2);
+    EXPECT_EQ(row(window, 0), "Start1|KEY_A|MOUSE_UP|JOY_X");
+    type(window, "cmbInputType", Qt::Key_Down, 2);
+    EXPECT_EQ(row(window, 0), "Start1|KEY1_A|MOUSE1_UP|JOY_X");
+    EXPECT_EQ(value("InputStart2"), "\"KEY1_B,MOUSE2_UP\"");
+    const WhenModal chooser("frmInput2", choose(1, 2, "MOUSE_LEFT_BUTTON"));
+    at(window, 1, 1);
+    save(window);
+  });
+  EXPECT_EQ(saved(), "[ Global ]|[ a ]|;InputMethod=2|");
+  const auto file = read("Config/Kestrivane.ini");
+  EXPECT_NE(file.find("InputStart1 = \"KEY1_A,MOUSE1_UP,JOY_X\"\r\n"), std::string::npos);
+  EXPECT_NE(file.find("InputCoin1 = \"MOUSE2_LEFT_BUTTON\"\r\n"), std::string::npos);
+  gameOptions(0, save);
+  EXPECT_EQ(read("Config/Kestrivane.ini"), file) << "a game leaves the bindings alone";
+}
+
+TEST_F(Inputs, RestoringAllInputs) {
+  startWith("[ Global ]\nCrosshairs = 1\nThrottle = 0\nInputStart1 = \"KEY1_9\"\n;InputMethod=2\n");
+  options([](QWidget& window) {
+    page(window, 2);
+    {
+      const WhenModal question("", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+      press(window, "lblLoadDefaults");
+    }
+    EXPECT_EQ(row(window, 0), "Start1|KEY1_9||");
+    {
+      const WhenModal question("", [](QWidget& box) { answer(box, QMessageBox::Yes); });
+      press(window, "lblLoadDefaults");
+    }
+    EXPECT_EQ(row(window, 0), "Start1|KEY1_1|JOY1_BUTTON9|");
+    EXPECT_EQ(Profiles[1].Slots[30].Value, "\"KEY_1,JOY1_BUTTON9\"") << "at once";
+    save(window);
+  });
+  EXPECT_EQ(saved(), "[ Global ]|Throttle = 0|Crosshairs = 1|;InputMethod=2|");
+  EXPECT_NE(read("Config/Kestrivane.ini")
+                .find("InputTrigger = \"KEY1_A,JOY1_BUTTON1,MOUSE1_LEFT_BUTTON\""),
+            std::string::npos);
+}
+
+}  // namespace

@@ -1,0 +1,162 @@
+// The list of games, its filter, and the panel of the selected game.
+#include <QApplication>
+#include <QImage>
+#include <QTest>
+
+#include "core/module1.h"
+#include "platform/code_page.h"
+#include "support/ui_test.h"
+
+namespace {
+
+using namespace Module1;
+
+class MainGames : public support::UiTest {
+ protected:
+  static void makePicture(const char* name, Qt::GlobalColor colour, int width = 32,
+                          int height = 32) {
+    write(name, "");
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(colour);
+    ASSERT_TRUE(image.save(QString::fromStdString(path(name).string())));
+  }
+  std::string titles() const {
+    std::string text;
+    for (int row = 0; row < list().count(); ++row)
+      text += list().item(row)->text().toStdString() + "|";
+    return text;
+  }
+  // The control as it is drawn: one letter of a plain red, green, blue or yellow, else "?".
+  char colourOf(const char* name) const {
+    const auto image = widget(name).grab().toImage();
+    const auto pixel = image.pixelColor(image.rect().center());
+    const auto is = [&](int r, int g, int b) {
+      return std::abs(pixel.red() - r) + std::abs(pixel.green() - g) + std::abs(pixel.blue() - b) <
+             9;
+    };
+    return is(255, 0, 0)     ? 'r'
+           : is(0, 255, 0)   ? 'g'
+           : is(0, 0, 255)   ? 'b'
+           : is(255, 255, 0) ? 'y'
+                             : '?';
+  }
+};
+
+TEST_F(MainGames, AreSortedWithoutRegardToCaseAndKeepTheirRow) {
+  addGames("zebra '<b>&x' beta");
+  write("roms/beta.zip", "");
+  start();
+  EXPECT_EQ(titles(), "<B>&X|BETA|ZEBRA|");
+  EXPECT_EQ(caption("lblGameTitle"), "<B>&X");
+  const auto& label = widget("lblGameTitle");
+  EXPECT_GE(label.sizeHint().width(), label.fontMetrics().horizontalAdvance("<B>&X"))
+      << "shown as it stands";
+  clickRow(1);
+  EXPECT_TRUE(widget("cmdPlay").isEnabled());
+  key(Qt::Key_Down);
+  EXPECT_EQ(caption("lblGameTitle"), "ZEBRA");
+  EXPECT_FALSE(widget("cmdPlay").isEnabled());
+  key(Qt::Key_B);
+  EXPECT_EQ(caption("lblGameTitle"), "BETA");
+}
+
+TEST_F(MainGames, FilterRefillsTheListAndSelectsItsFirstTitle) {
+  addGames("a b c");
+  write("roms/b.zip", "");
+  write("Config/Kestrivane.ini", ";GameListPref=1\r\n");
+  start();
+  EXPECT_EQ(titles() + caption("lblInfo"), "B| 1 game listed");
+  GameListPref = 9;
+  click("optGames(0)");
+  EXPECT_EQ(titles(), "B|") << "nothing happens while the reader sets the button";
+  item("mLang(0)").trigger();
+  EXPECT_EQ(titles(), "A|B|C|") << "the button counts, not the variable";
+  GameListPref = 1;
+  click("optGames(1)");
+  click("optGames(0)");
+  EXPECT_EQ(titles() + caption("lblInfo"), "A|B|C| 3 games listed");
+  EXPECT_EQ(caption("lblGameTitle"), "A");
+  EXPECT_EQ(GameListPref, 0);
+  EXPECT_EQ(QApplication::focusWidget(), &list());
+}
+
+TEST_F(MainGames, EmptyListResetsThePanelAndPlaysNothing) {
+  addGames("a");
+  makePicture("Snaps/a.jpg", Qt::red);
+  makePicture("Icons/a.ico", Qt::yellow);
+  start();
+  EXPECT_EQ(colourOf("imgGames"), 'r');
+  EXPECT_EQ(colourOf("imgIcon"), 'y');
+  click("optGames(1)");
+  EXPECT_EQ(caption("lblGameTitle") + caption("lblInfo") + caption("lblTP"), "NO GAMES AVAILABLE");
+  EXPECT_FALSE(widget("cmdPlay").isEnabled() || widget("cmdConfGame").isEnabled());
+  EXPECT_EQ(colourOf("imgGames"), '?');
+  EXPECT_EQ(colourOf("imgIcon"), '?');
+  QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, QPoint(20, 5));
+  key(Qt::Key_Return);
+  EXPECT_EQ(LaunchRequest.RomName, "");
+}
+
+TEST_F(MainGames, PicturesComeFromTheFirstFolderUpToAGap) {
+  addGames("a b c d");
+  makePicture("Snaps/a.jpg", Qt::red, 8, 900);
+  for (const auto* name : {"two/a.JPG", "two/b.JPG"}) makePicture(name, Qt::blue);
+  makePicture("four/c.jpg", Qt::green);
+  makePicture("icons1/b.ico", Qt::yellow);
+  const auto in = [](const char* folder) { return AppFolder + "/" + folder; };
+  const auto folders = in("one") + "*" + in("TWO") + "*" + in("three") + "*" + in("four");
+  write("Config/Kestrivane.ini",
+        platform::EncodeCodePage(";SNAPpaths=" + folders + "\r\n;ICONpaths=" + in("icons1") +
+                                 "\r\n"));
+  start();
+  std::string colours;
+  for (int row = 0; row < 4; ++row) {
+    clickRow(row);
+    colours += {colourOf("imgGames"), colourOf("imgIcon")};
+  }
+  EXPECT_EQ(colours, "r?by????");
+  SnapPaths = {in("Snaps"), "", in("four"), "", ""};
+  clickRow(2);
+  EXPECT_EQ(colourOf("imgGames"), '?') << "an empty entry ends the list";
+  SnapPaths[1] = in("one");
+  clickRow(2);
+  EXPECT_EQ(colourOf("imgGames"), 'g') << "a click on the selected row counts too";
+}
+
+TEST_F(MainGames, PictureThatCantBeDecodedLeavesTheOldOne) {
+  addGames("a b c d");
+  makePicture("Snaps/a.jpg", Qt::red);
+  makePicture("Icons/a.ico", Qt::yellow);
+  write("Snaps/b.jpg", "a text file");
+  write("Snaps/c.jpg", read("Snaps/a.jpg").substr(0, 200));
+  makePicture("Snaps/d.jpg", Qt::blue, 30000, 1);
+  write("Icons/b.ico", "");
+  write("Icons/c.ico", read("Icons/a.ico").substr(0, 20));
+  write("Icons/d.ico", std::string(5000, '\xFF'));
+  start();
+  for (int row = 0; row < 4; ++row) {
+    clickRow(row);
+    EXPECT_EQ(colourOf("imgGames"), 'r') << row;
+    EXPECT_EQ(colourOf("imgIcon"), 'y') << row;
+  }
+}
+
+TEST_F(MainGames, FiguresAreThoseOfTheLastRowOfTheGame) {
+  addGames("a b");
+  start();
+  EXPECT_EQ(caption("lblTP"), "Play Count: 0\r\nPlay Time: 0:00:00");
+  PlayLog[0] = {"a", "9", "9"};
+  PlayLog[1] = {"A", "9", "9"};
+  PlayLog[4] = {"a", "behind the gap", "9"};
+  const char* const rows[][3] = {{"3", "3725", "1:02:05"},
+                                 {"x<b>", "y", "0:00:00"},
+                                 {"", "", "0:00:00"},
+                                 {"1", "99999999999999999999", "0:00:00"}};
+  for (const auto& [plays, seconds, time] : rows) {
+    PlayLog[2] = {"a", plays, seconds};
+    clickRow(0);
+    EXPECT_EQ(caption("lblTP"), std::string("Play Count: ") + plays + "\r\nPlay Time: " + time);
+  }
+}
+
+}  // namespace

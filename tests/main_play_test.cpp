@@ -1,0 +1,106 @@
+// Playing a game: the in-game window, the count, and the report of a failed run.
+#include <QApplication>
+#include <QTest>
+
+#include "core/module1.h"
+#include "support/fake_clock.h"
+#include "support/ui_test.h"
+
+namespace {
+
+using namespace Module1;
+using support::TextOf;
+using support::WhenModal;
+
+class MainPlay : public support::UiTest {
+ protected:
+  // "7th Undertow" is the first title.
+  void startWithGame(const std::string& archive) {
+    addEmulator();
+    write("roms/7undertow.zip", archive);
+    start();
+  }
+
+  support::FakeClock clock;
+};
+
+TEST_F(MainPlay, InGameWindowShowsTheGameItsClockAndTheKeys) {
+  startWithGame("seconds=0\nend=nolog\n");
+  item("mLang(2)").trigger();
+  clock.onSleep = [&] {
+    auto* gaming = QApplication::activeModalWidget();
+    ASSERT_TRUE(gaming && gaming->objectName() == "frmGaming");
+    EXPECT_EQ(TextOf(*gaming, "lblGameTitle"), "7th Undertow");
+    EXPECT_EQ(TextOf(*gaming, "Label1") + TextOf(*gaming, "Label2"),
+              "Tiempo de juego:TECLAS EN JUEGO");
+    EXPECT_EQ(TextOf(*gaming, "lblTime"), clock.sleeps.size() == 1 ? "0:00:00" : "1:00:05");
+    EXPECT_EQ(
+        TextOf(*gaming, "lblInfo"),
+        "Reset:  ALT + R \r\nPausa:  ALT + P \r\nEstado Grabar/Cambiar/Cargar:  F5 / F6 / F7 \r\n"
+        "Volumen de música Bajar/Subir:  F9 / F10 \r\nVolumen de sonido Bajar/Subir:  F11 / F12 "
+        "\r\n"
+        "Seleccionar Miras:  ALT + I \r\nActivar limitador de cuadros:  ALT + T ");
+    const auto off = gaming->frameGeometry().center() - window().frameGeometry().center();
+    EXPECT_LE(off.manhattanLength(), 2);
+    gaming->close();
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(gaming->isVisible()) << "it stays until the game has ended";
+  };
+  clock.firstSleepTakes = std::chrono::seconds(3605);
+  key(Qt::Key_Return);
+  EXPECT_FALSE(clock.sleeps.empty());
+  EXPECT_FALSE(QApplication::activeModalWidget());
+  EXPECT_EQ(caption("lblTP"), "Partidas jugadas: 1\r\nTiempo jugado: 1:00:05");
+  EXPECT_NE(settings().find("7undertow=\"1,3605\""), std::string::npos);
+  EXPECT_FALSE(exists("Config/Kestrivane.ini"));
+}
+
+TEST_F(MainPlay, PauseAndReportGoByTheLog) {
+  const struct {
+    const char* end;
+    long long lastSleep;
+    bool report;
+  } rows[] = {
+      {"good", 3000, false}, {"error", 1000, true}, {"nolog", 1000, false}, {"crash", 1000, false}};
+  startWithGame("");
+  clock.firstSleepTakes = std::chrono::seconds(20);
+  for (const auto& row : rows) {
+    write("roms/7undertow.zip", std::string("seconds=0\nend=") + row.end);
+    clock.sleeps.clear();
+    std::unique_ptr<WhenModal> answer;
+    if (row.report)
+      answer = std::make_unique<WhenModal>("Form4", [&](QWidget& report) {
+        EXPECT_EQ(report.windowTitle().toStdString(), " Kestrivane has encountered an error:");
+        EXPECT_TRUE(TextOf(report, "tbxError").ends_with("The game can't go on.\n"));
+        EXPECT_FALSE(exists("error.log"));
+        report.findChild<QWidget*>("tbxError")->setFocus();
+        key(Qt::Key_A);
+        EXPECT_TRUE(report.isVisible());
+        key(Qt::Key_Escape);
+        EXPECT_FALSE(report.isVisible());
+      });
+    click("cmdPlay");
+    EXPECT_EQ(clock.sleeps.back(), row.lastSleep) << row.end;
+    EXPECT_FALSE(QApplication::activeModalWidget() || exists("error.log")) << row.end;
+  }
+  EXPECT_EQ(PlayLog[0].GameId, "") << "all too short to count";
+  std::filesystem::remove(path("Kestrivane.exe"));
+  clock.sleeps.clear();
+  click("cmdPlay");
+  EXPECT_TRUE(clock.sleeps.empty()) << "an emulator that is gone closes the window at once";
+}
+
+TEST_F(MainPlay, DoubleClickPlaysAlsoWhatIsNotThereAndCountsAFailedRun) {
+  write("Config/Kestrivane.ini", ";InputMethod=2\r\n");
+  startWithGame("");
+  clock.firstSleepTakes = std::chrono::seconds(21);
+  std::string text;
+  const WhenModal answer("Form4", [&](QWidget& report) { text = TextOf(report, "tbxError"); });
+  clickRow(1, true);
+  EXPECT_EQ(LaunchRequest.CommandLine,
+            "Kestrivane \"" + AppFolder + "\\roms\\abalonec.zip\" -input-system=rawinput");
+  EXPECT_TRUE(text.starts_with("Error: there is no archive ")) << text;
+  EXPECT_EQ(caption("lblTP"), "Play Count: 1\r\nPlay Time: 0:00:21");
+}
+
+}  // namespace

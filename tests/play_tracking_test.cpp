@@ -1,0 +1,118 @@
+#include "launch/play_tracking.h"
+
+#include "core/module1.h"
+#include "launch/play_launch.h"
+#include "support/fake_clock.h"
+#include "support/temp_app.h"
+
+namespace launch {
+namespace {
+
+using namespace Module1;
+
+class PlayTracking : public support::TempApp {
+ protected:
+  void countPlay(const std::string& game, int seconds) {
+    LaunchRequest.RomName = game;
+    UpdatePlayLog(clock.now - std::chrono::seconds(seconds));
+  }
+  static std::string row(std::size_t row) {
+    return PlayLog[row].GameId + "," + PlayLog[row].PlayCount + "," + PlayLog[row].PlaySeconds;
+  }
+
+  support::FakeClock clock;
+};
+
+TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
+  RomPaths[2] = "C:\\my roms";
+  const std::string line = "Kestrivane \"C:\\my roms\\game_a.zip\"";
+  Profiles.emplace_back().Name = "game_a";
+  Profiles[2].InputMethod = 2;
+  for (const auto* ending : {"", " -input-system=xinput", " -input-system=rawinput"}) {
+    BuildLaunchRequest({"Title", "game_a", true, 2});
+    EXPECT_EQ(LaunchRequest.CommandLine, line + ending);
+    ++Profiles[1].InputMethod;
+  }
+  BuildLaunchRequest({"Other", "other", false, 0});
+  EXPECT_EQ(LaunchRequest.CommandLine, line + " -input-system=rawinput");
+  EXPECT_EQ(LaunchRequest.RomName, "other");
+}
+
+TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
+  countPlay("a", 20);
+  EXPECT_EQ(row(0) + settings(), ",,");
+  countPlay("a", 21);
+  countPlay("A", 30);
+  countPlay("a", 79);
+  EXPECT_EQ(row(0), "a,2,100");
+  EXPECT_EQ(row(1), "A,1,30") << "names mind case";
+  EXPECT_NE(settings().find("a=\"2,100\""), std::string::npos);
+}
+
+TEST_F(PlayTracking, OddRowsOfThePlayLogSurvive) {
+  const struct {
+    const char *what, *plays, *seconds, *after;
+  } rows[] = {{"a count that is no number", "x", "5", "g,x,5"},
+              {"seconds that are no number", "1", "", "g,1,"},
+              {"blanks", " 1 ", "5", "g,2,35"},
+              {"the largest count", "2147483647", "5", "g,2147483647,5"}};
+  for (const auto& [what, plays, seconds, after] : rows) {
+    PlayLog[0] = {"g", plays, seconds};
+    countPlay("g", 30);
+    EXPECT_EQ(row(0) + row(1), std::string(after) + ",,") << what;
+  }
+}
+
+TEST_F(PlayTracking, EqualRowsAllCountAndAFullTableTakesNoMore) {
+  PlayLog.fill({"other", "1", "30"});
+  countPlay("new", 30);
+  EXPECT_EQ(row(40) + settings(), "other,1,30");
+  PlayLog[0] = PlayLog[40] = {"g", "1", "30"};
+  countPlay("g", 30);
+  EXPECT_EQ(row(0) + " " + row(40), "g,2,60 g,2,60");
+}
+
+TEST_F(PlayTracking, WaitTicksBeforeEachSleepUntilTheEnd) {
+  addEmulator();
+  write("a.zip", "seconds=0\nend=nolog\n");
+  std::size_t ticks = 0;
+  clock.onSleep = [&] { EXPECT_EQ(ticks, clock.sleeps.size()); };
+  RunAndWait("Kestrivane \"" + AppFolder + "\\a.zip\"", [&] { ++ticks; });
+  EXPECT_GE(ticks, 1U);
+  EXPECT_EQ(clock.sleeps, std::vector<long long>(ticks, 1000));
+  RunAndWait("NoSuchProgram", [&] { ticks = 0; });
+  EXPECT_GE(ticks, 1U) << "what can't be started is not waited for";
+  const auto start = clock.now - std::chrono::milliseconds(3605999);
+  EXPECT_EQ(FormatElapsed(start), "1:00:05");
+}
+
+TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
+  const std::string head = "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n";
+  const struct {
+    const char* what;
+    std::string log;
+    bool failed;
+    const char* report;
+  } rows[] = {
+      {"a good end in capitals", head + "so: PROGRAM TERMINATED NORMALLY.", false, ""},
+      {"a good end in the header", "Program terminated normally.\r\n" + head, true, "7\r\n"},
+      {"a report", head + "  one \r\ntw\xF6\r\n  ", true, "one \r\ntwö\r\n  \r\n"},
+      {"lines of CR", "1\r2\r3\r4\r5\r6\r7\rone\n\rtwo", true, "one\n\r\ntwo\r\n"},
+      {"seven lines", head, true, ""},
+      {"fewer lines", "1\r\n2", true, ""},
+      {"an empty file", "", true, ""}};
+  for (const auto& row : rows) {
+    write("error.log", row.log);
+    ErrorText.clear();
+    EXPECT_EQ(ReadErrorLog(), row.failed) << row.what;
+    EXPECT_EQ(ErrorText, row.report) << row.what;
+    EXPECT_FALSE(exists("error.log")) << row.what;
+  }
+  EXPECT_FALSE(ReadErrorLog()) << "none there";
+  write("error.log", "a report that would be one");
+  const support::Unprivileged rights;
+  EXPECT_FALSE(ReadErrorLog()) << "can't be deleted";
+}
+
+}  // namespace
+}  // namespace launch

@@ -1,0 +1,102 @@
+#include "platform/process.h"
+
+#include <unistd.h>
+
+#include <chrono>
+#include <thread>
+
+#include "core/module1.h"
+#include "launch/process_capture.h"
+#include "support/temp_app.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Module1::AppFolder;
+
+class Process : public support::TempApp {
+ protected:
+  static std::string capture(const std::string& command) {
+    return launch::ShellExecuteCapture(AppFolder + "\\" + command, false);
+  }
+  static int run(const char* command) {
+    platform::StartedProcess process(command);
+    while (process.ExitStatus() == platform::kStillActive)
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    return process.ExitStatus();
+  }
+};
+
+TEST_F(Process, CommandLineIsCutIntoProgramAndArguments) {
+  for (const auto* file : {"Kestrivane.exe", "two words/Tool.exe", "two.exe", "x/Kestrivane.exe",
+                           "x/other.exe", "ROMs/My Game.zip"})
+    write(file, "");
+  fs::current_path(path("x"));
+  const struct {
+    std::string line, program;  // no program: none is found
+    std::vector<std::string> arguments;
+  } rows[] = {{AppFolder + "\\kestrivane.exe -print-games", "Kestrivane.exe", {"-print-games"}},
+              {"Kestrivane \"" + AppFolder + "\\roms\\my game.zip\" -input-system=xinput",
+               "Kestrivane.exe",
+               {path("ROMs/My Game.zip").string(), "-input-system=xinput"}},
+              {"  kestrivane   a\"b  c\"d  \"\" ", "Kestrivane.exe", {"ab  cd", ""}},
+              {"other", "x/other.exe", {}},
+              {"\"" + AppFolder + "\\two words\\tool\" x", "two words/Tool.exe", {"x"}},
+              {"\"" + AppFolder + "\\two words\\tool", "two words/Tool.exe", {}},
+              // The shortest text that names a program wins.
+              {AppFolder + "\\two words x", "two.exe", {"words", "x"}},
+              {AppFolder + "\\missing.exe -print-games", "", {}},
+              {AppFolder, "", {}},
+              {"sh -c true", "", {}},
+              {"\"\"", "", {}},
+              {"", "", {}}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.line);
+    const auto command = platform::FindCommand(row.line);
+    ASSERT_EQ(command.has_value(), !row.program.empty());
+    if (!command) continue;
+    EXPECT_TRUE(fs::equivalent(command->program, path(row.program)));
+    EXPECT_EQ(command->arguments, row.arguments);
+  }
+}
+
+TEST_F(Process, CaptureGivesStandardOutputAsText) {
+  writeProgram("a tool.exe",
+               "printf 'caf\\351\\r\\n'; echo lost >&2; ls; echo $#-$2; read x || echo no input");
+  EXPECT_EQ(capture("a tool.exe one \"two three\""), "café\r\na tool.exe\n2-two three\nno input\n");
+}
+
+TEST_F(Process, CaptureOfWhatCantRunOrSaysNothingIsEmpty) {
+  writeProgram("quiet.exe", "echo only this >&2; exit 3");
+  write("plain.exe", "#!/bin/sh\necho x");
+  fs::create_directory(path("folder.exe"));
+  write("garbage.exe",
+        "\x7F"
+        "ELF");
+  fs::permissions(path("garbage.exe"), fs::perms(0755));
+  for (const auto* program : {"quiet.exe", "plain.exe", "folder.exe", "garbage.exe", "none.exe"})
+    EXPECT_EQ(capture(program), "") << program;
+}
+
+TEST_F(Process, CaptureTakesALongOutputWholeAndDoesNotWaitForAGrandchild) {
+  const auto start = std::chrono::steady_clock::now();
+  for (const std::string fault : {"flood", "killed", "grandchild"}) {
+    addEmulator(fault);
+    const auto output = capture("kestrivane.exe -print-games");
+    EXPECT_EQ(output.size() > 4194304, fault == "flood") << fault;
+    EXPECT_TRUE(output.ends_with("Nimblewick's Parade\r\n")) << fault;
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
+}
+
+TEST_F(Process, StartedProgramIsNeitherHeldUpByItsOutputNorTiedToUs) {
+  addEmulator("flood");
+  EXPECT_EQ(run("Kestrivane -print-games"), 0);
+  writeProgram("tool.exe", "cut -d ' ' -f 6 /proc/$$/stat > session; exit 7");
+  EXPECT_EQ(run("tool"), 7);
+  EXPECT_NE(read("session"), std::to_string(getsid(0)) + "\n");
+  writeProgram("tool.exe", "kill -9 $$");
+  EXPECT_NE(run("tool"), 0);
+}
+
+}  // namespace

@@ -1,0 +1,94 @@
+#include "support/ui_test.h"
+
+#include <QApplication>
+#include <QTest>
+#include <cstdlib>
+
+#include "platform/forms/application.h"
+
+namespace support {
+namespace {
+
+struct Toolkit : testing::Environment {
+  void SetUp() override {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    application = std::make_unique<forms::Application>();
+  }
+  void TearDown() override { application.reset(); }
+  std::unique_ptr<forms::Application> application;
+};
+
+const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
+
+template <class T>
+T& Child(const QWidget& window, const QString& name) {
+  auto* child = window.findChild<T*>(name);
+  if (!child) throw std::runtime_error("nothing is called " + name.toStdString());
+  return *child;
+}
+
+}  // namespace
+
+std::string TextOf(const QWidget& window, const char* name) {
+  const auto& child = Child<QWidget>(window, name);
+  const auto text = child.property("text");
+  return (text.isValid() ? text : child.property("plainText")).toString().toStdString();
+}
+
+UiTest::UiTest() {
+  forms::EndProgram() = [this](int status) { ends.push_back(status); };
+}
+
+UiTest::~UiTest() {
+  forms::EndProgram() = [](int status) { std::_Exit(status); };
+}
+
+void UiTest::start() {
+  form = std::make_unique<ui::Form1>();
+  form->Form_Load();
+  ASSERT_EQ(QTest::qWaitForWindowActive(&window(), form->visible() ? 5000 : 0), form->visible());
+}
+
+QWidget& UiTest::widget(const char* name) const { return Child<QWidget>(window(), name); }
+
+QAction& UiTest::item(const std::string& name) const {
+  return Child<QAction>(window(), QString::fromStdString(name));
+}
+
+std::string UiTest::caption(const char* name) const { return TextOf(window(), name); }
+
+void UiTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  const auto* popup = QApplication::activePopupWidget();
+  const auto* target = popup ? popup : QApplication::activeWindow();
+  ASSERT_TRUE(target) << "no window takes keys";
+  QTest::keyClick(target->windowHandle(), key, modifiers);
+}
+
+void UiTest::click(const char* name) const { QTest::mouseClick(&widget(name), Qt::LeftButton); }
+
+void UiTest::clickRow(int row, bool twice) const {
+  const auto at = list().visualItemRect(list().item(row)).center();
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, at);
+  if (twice) QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, at);
+}
+
+WhenModal::WhenModal(const char* name, std::function<void(QWidget&)> step)
+    : name_(*name ? name : "qt_msgbox"), step_(std::move(step)) {
+  startTimer(5);
+}
+
+WhenModal::~WhenModal() { EXPECT_TRUE(done_) << "no window " << name_.toStdString(); }
+
+void WhenModal::timerEvent(QTimerEvent* event) {
+  auto* modal = QApplication::activeModalWidget();
+  const bool wanted =
+      modal && modal->isActiveWindow() &&
+      (modal->objectName() == name_ || (name_ == "qt_msgbox" && modal->inherits("QMessageBox")));
+  if (!wanted && --patience_ > 0) return;
+  killTimer(event->timerId());
+  done_ = wanted;
+  if (wanted) step_(*modal);
+  if (modal) modal->close();
+}
+
+}  // namespace support

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QAction>
+#include <QListWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "support/temp_app.h"
+#include "ui/main/form1.h"
+
+namespace support {
+
+// The main window over a fresh AppFolder, driven by object names and real events. The end of the
+// program is noted and does not happen.
+class UiTest : public TempApp {
+ protected:
+  UiTest();
+  ~UiTest() override;
+
+  // Loads the main window and waits until it is active.
+  void start();
+
+  QWidget& window() const { return *form->clientArea()->window(); }
+  QWidget& widget(const char* name) const;
+  QListWidget& list() const { return dynamic_cast<QListWidget&>(widget("lstGames")); }
+  QAction& item(const std::string& name) const;
+  std::string caption(const char* name) const;
+
+  // Key and mouse events as the window system sends them.
+  static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  void click(const char* name) const;
+  void clickRow(int row, bool twice = false) const;
+
+  std::unique_ptr<ui::Form1> form;
+  std::vector<int> ends;  // exit statuses
+};
+
+// Runs `step` once on the next modal window of this name, and closes it. No name: the next message
+// box. If it doesn't come within seconds, the test fails.
+class WhenModal : public QObject {
+ public:
+  WhenModal(const char* name, std::function<void(QWidget&)> step);
+  ~WhenModal() override;
+
+ protected:
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  QString name_;
+  std::function<void(QWidget&)> step_;
+  int patience_ = 2000;
+  bool done_ = false;
+};
+
+// The text of a label, button or text box inside the window.
+std::string TextOf(const QWidget& window, const char* name);
+
+}  // namespace support
