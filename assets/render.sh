@@ -14,12 +14,13 @@ png() { # drawing, picture, size in pixels
 }
 
 frames=()
-for size in 16 24 32 48 64 128 256; do
+# The larger ones are for the desktop alone: a window would only load them for nothing.
+for size in 16 24 32 48 64; do
     png icon "$work/icon_$size.png" "$size"
     frames+=("$work/icon_$size.png")
 done
 convert "${frames[@]}" icon.ico
-cp -- "$work/icon_256.png" icon.png
+png icon icon.png 256
 
 rsvg-convert -w 784 -h 684 default.svg -o "$work/default.png"
 convert "$work/default.png" -filter Lanczos -resize 392x342! -strip -sampling-factor 4:4:4 \

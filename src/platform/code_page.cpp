@@ -139,7 +139,10 @@ std::string DecodeLines(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + 2);
   ForEachLine(bytes, "\r", [&](std::string_view line, std::string_view) {
-    text += DecodeCodePage(line);
+    if (line.find('\n') == line.npos)
+      AppendDecodedLine(text, line);
+    else
+      text += DecodeCodePage(line);
     text += "\r\n";
   });
   return text;

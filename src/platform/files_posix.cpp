@@ -4,7 +4,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <bitset>
 #include <cerrno>
+#include <climits>
 #include <memory>
 #include <stdexcept>
 #include <system_error>
@@ -106,19 +108,24 @@ std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::
   std::vector<bool> found(names.size());
   const auto path = Find(folder).path;
   std::unordered_multimap<std::string, std::size_t> wanted;  // not there in their exact spelling
+  std::bitset<NAME_MAX + 1> lengths;  // of these; spares looking closer at most files
   for (std::size_t i = 0; i < names.size(); ++i) {
     struct stat status {};
-    if (stat((path + "/" + names[i]).c_str(), &status) == 0)
+    if (stat((path + "/" + names[i]).c_str(), &status) == 0) {
       found[i] = S_ISREG(status.st_mode);
-    else if (names[i].find_first_of("\\/") != std::string::npos)
+    } else if (names[i].find_first_of("\\/") != std::string::npos) {
       found[i] = IsFile(std::string(folder) + "\\" + names[i]);
-    else
+    } else if (names[i].size() < lengths.size()) {
       wanted.emplace(base::FoldCase(names[i]), i);
+      lengths.set(names[i].size());
+    }
   }
   if (wanted.empty()) return found;
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.c_str()), closedir);
   while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
-    const auto [first, last] = wanted.equal_range(base::FoldCase(entry->d_name));
+    const std::string_view name = entry->d_name;
+    if (!lengths[name.size()]) continue;
+    const auto [first, last] = wanted.equal_range(base::FoldCase(name));
     if (first == last) continue;
     struct stat status {};
     const bool isFile =

@@ -1,7 +1,6 @@
 #include "platform/forms/control.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QPalette>
 #include <QTextDocument>
 #include <QWidget>
@@ -15,13 +14,6 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 
 QColor ToColour(Colour colour) { return {colour.red, colour.green, colour.blue}; }
-
-const QString& FontFamily() {
-  static const QString family = QFontDatabase::hasFamily(QStringLiteral("Verdana"))
-                                    ? QStringLiteral("Verdana")
-                                    : QStringLiteral("DejaVu Sans");
-  return family;
-}
 
 }  // namespace
 
@@ -38,7 +30,10 @@ QRect ToPixels(const Box& box) {
 }
 
 QFont ToFont(const FontStyle& style) {
-  QFont font(FontFamily());
+  // The second is cut to the widths of the first. Asking which of them there is would have the
+  // toolkit look through all the system's fonts.
+  QFont font;
+  font.setFamilies({QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")});
   font.setPixelSize(static_cast<int>(std::lround(style.points * 96 / 72)));
   font.setBold(style.bold);
   font.setItalic(style.italic);
