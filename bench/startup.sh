@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Start until the main window has painted, and peak memory then, against a bare Qt window (plus, for
 # the time, one run of the same emulator's listing). 254 games, four ROM folders of 10,000 files
-# each, a configuration file with 253 game rows. Needs a display.
+# each, a configuration file with 253 game rows. On a virtual display of its own.
 # Usage: bench/startup.sh BUILD_FOLDER [ROUNDS]
 set -euo pipefail
 build=$(realpath "$1")
 rounds=${2:-15}
+. "$(dirname "${BASH_SOURCE[0]}")/../tools/display.sh"
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'stop_display; rm -rf "$work"' EXIT
 
 lay_out() {
   mkdir -p "$work/emulator"/{ROMs,Config,Snaps,Icons}
@@ -50,7 +51,7 @@ measure() {
   QT_LOGGING_RULES='qt.widgets.painting=true' QT_MESSAGE_PATTERN='%{time HH:mm:ss.zzz} %{message}' \
     "$1" > /dev/null 2> "$log" &
   local pid=$!
-  until grep -qm1 Flushing "$log"; do sleep 0.02; done
+  wait_until 20 grep -qm1 Flushing "$log"
   sleep 0.5
   local memory painted
   memory=$(awk '/VmHWM/ {print $2}' "/proc/$pid/status")
@@ -69,6 +70,8 @@ listing() {
 
 median() { sort -n | awk '{v[NR]=$1} END {print v[int((NR+1)/2)]}'; }
 
+mkdir "$work/display"
+start_display "$work/display"
 lay_out
 sleep 3  # the folders come to rest
 for round in $(seq "$rounds"); do

@@ -24,7 +24,7 @@ trap 'exit 1' INT TERM
 
 fail() {
     echo "FAILED: $*" >&2
-    echo "Active window: $(xdotool getactivewindow getwindowname 2>&1)" >&2
+    echo "Window in focus: $(xdotool getwindowfocus getwindowname 2>&1)" >&2
     exit 1
 }
 
