@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing for the tasks named: build, demo, display, test.
+# Installs the Debian packages that are missing for the tasks named: build, demo, display, test,
+# fuzz, bench.
 set -euo pipefail
 
 declare -A packages=(
@@ -7,6 +8,8 @@ declare -A packages=(
     [demo]="fonts-dejavu-core imagemagick"
     [display]="xvfb openbox xdotool procps"
     [test]="fonts-dejavu-core libgtest-dev"
+    [fuzz]="clang libclang-rt-14-dev"
+    [bench]="libbenchmark-dev libinih-dev"
 )
 
 missing=()

@@ -64,8 +64,8 @@ std::string FoldCase(std::string_view text) {
 }
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted) {
-  const auto at = std::search(text.begin(), text.end(), wanted.begin(), wanted.end(),
-                              [](char a, char b) { return Lower(a) == Lower(b); });
+  const auto* const at = std::search(text.begin(), text.end(), wanted.begin(), wanted.end(),
+                                     [](char a, char b) { return Lower(a) == Lower(b); });
   if (at == text.end() && !wanted.empty()) return std::string_view::npos;
   return static_cast<std::size_t>(at - text.begin());
 }

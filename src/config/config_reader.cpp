@@ -71,7 +71,13 @@ constexpr std::array<CommentKey, 8> kCommentKeys = {{
 }};
 
 void TakeSectionHeader(std::string_view body, std::size_t opening) {
-  if (body != "[ Global ]") Profiles.emplace_back();
+  if (body != "[ Global ]") {
+    // What is beyond saving shares one row, so that a hostile file can't fill the memory.
+    if (Profiles.size() <= core::kMaxProfiles)
+      Profiles.emplace_back();
+    else
+      Profiles.back() = {};
+  }
   const auto closing = body.find(" ]");
   if (closing == std::string_view::npos) throw std::invalid_argument("no closing bracket");
   // As many characters as stand before the closing bracket, less the two of an opening one in
@@ -84,7 +90,8 @@ void TakeSectionHeader(std::string_view body, std::size_t opening) {
 
 // What stands behind the first "="; empty unless it is the only one.
 std::string_view ValueBehind(std::string_view body, std::size_t equals) {
-  if (equals == body.npos || body.find('=', equals + 1) != body.npos) return {};
+  if (equals == std::string_view::npos || body.find('=', equals + 1) != std::string_view::npos)
+    return {};
   return base::Trim(body.substr(equals + 1));
 }
 
@@ -126,7 +133,8 @@ class Parser {
 
   // All lines but the piece behind the last line end.
   void takeLines() {
-    for (std::size_t begin = 0, end = 0; (end = text_.find(base::kLineEnd, begin)) != text_.npos;
+    for (std::size_t begin = 0, end = 0;
+         (end = text_.find(base::kLineEnd, begin)) != std::string_view::npos;
          begin = end + base::kLineEnd.size())
       takeLine(begin, end);
   }
@@ -136,15 +144,16 @@ class Parser {
     const auto line = text_.substr(begin, end - begin);
     const auto comment = comments_.in(begin, end);
     // Every comment key holds ";" and the banner "®".
-    if (comment != line.npos || banners_.in(begin, end) != line.npos) {
+    if (comment != std::string_view::npos || banners_.in(begin, end) != std::string_view::npos) {
       for (const auto& [key, take] : kCommentKeys)
         if (base::ContainsIgnoringCase(line, key))
           return take(line.substr(base::OffsetOfChar(line, key.size())), form_, bannerSeen_);
     }
     const auto body = line.substr(0, comment);
-    if (body.find_first_not_of(' ') == body.npos) return;
-    const auto opening = headers_.in(begin, end) == line.npos ? line.npos : body.find("[ ");
-    if (opening != line.npos)
+    if (body.find_first_not_of(' ') == std::string_view::npos) return;
+    const auto opening = headers_.in(begin, end) == std::string_view::npos ? std::string_view::npos
+                                                                           : body.find("[ ");
+    if (opening != std::string_view::npos)
       TakeSectionHeader(body, opening);
     else
       TakeOption(body);

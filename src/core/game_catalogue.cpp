@@ -77,6 +77,7 @@ void ParseGameListLine(std::string_view line, MainForm& form) {
 // Folder by folder instead of game by game: each folder is read once, however many games there are.
 void FindGameArchives() {
   std::vector<GameEntry*> missing;
+  missing.reserve(GameCatalog.size());
   for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row)
     missing.push_back(&GameCatalog[row]);
   for (std::size_t folder = 0; folder < kSearchedFolders && !RomPaths[folder].empty(); ++folder) {

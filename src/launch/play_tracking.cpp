@@ -47,7 +47,7 @@ bool CountPlay(const std::string& game, long long seconds) {
 }
 
 std::string LogText() {
-  const auto separator = AppFolder.ends_with('\\') || AppFolder.ends_with('/') ? "" : "\\";
+  const auto* const separator = AppFolder.ends_with('\\') || AppFolder.ends_with('/') ? "" : "\\";
   const auto file = AppFolder + separator + std::string(core::kErrorLog);
   const auto text = platform::ReadText(file);
   std::size_t at = 0;

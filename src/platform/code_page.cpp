@@ -72,7 +72,32 @@ bool IsForeignUtf8(std::string_view line) {
   return foreign;
 }
 
+// Nothing for a line with a character outside the code page.
+std::optional<std::string> ToCodePage(std::string_view line) {
+  std::string bytes;
+  while (!line.empty()) {
+    const auto code = TakeChar(line);
+    const auto byte = code ? ByteOf(*code) : std::nullopt;
+    if (!byte) return {};
+    bytes += *byte;
+  }
+  return bytes;
+}
+
+// The code page has some lines whose bytes would read as UTF-8, such as "É®": they stand as UTF-8
+// with this mark behind them.
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
+bool NeedsMark(std::string_view line) {
+  const auto bytes = ToCodePage(line);
+  return bytes && IsForeignUtf8(*bytes);
+}
+
 void AppendDecodedLine(std::string& text, std::string_view line) {
+  if (line.ends_with(kMark) && NeedsMark(line.substr(0, line.size() - kMark.size()))) {
+    text += line.substr(0, line.size() - kMark.size());
+    return;
+  }
   if (IsAscii(line) || IsForeignUtf8(line)) {
     text += line;
     return;
@@ -86,19 +111,12 @@ void AppendDecodedLine(std::string& text, std::string_view line) {
 void AppendEncodedLine(std::string& bytes, std::string_view line) {
   if (IsAscii(line)) {
     bytes += line;
-    return;
+  } else if (const auto encoded = ToCodePage(line); encoded && !IsForeignUtf8(*encoded)) {
+    bytes += *encoded;
+  } else {
+    bytes += line;
+    if (encoded) bytes += kMark;
   }
-  std::string encoded;
-  for (auto rest = line; !rest.empty();) {
-    const auto code = TakeChar(rest);
-    const auto byte = code ? ByteOf(*code) : std::nullopt;
-    if (!byte) {
-      bytes += line;
-      return;
-    }
-    encoded += *byte;
-  }
-  bytes += encoded;
 }
 
 // Hands each line with its ending (CR, LF or both, or none at the end) to the function.
@@ -139,7 +157,7 @@ std::string DecodeLines(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + 2);
   ForEachLine(bytes, "\r", [&](std::string_view line, std::string_view) {
-    if (line.find('\n') == line.npos)
+    if (line.find('\n') == std::string_view::npos)
       AppendDecodedLine(text, line);
     else
       text += DecodeCodePage(line);

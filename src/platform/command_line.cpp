@@ -8,6 +8,9 @@
 namespace platform {
 namespace {
 
+// No system takes a longer path: what lies behind it is not tried as a part of the name.
+constexpr std::size_t kLongestProgram = 4096;
+
 // The file that a program's name stands for, in the system's spelling.
 std::optional<std::string> FindProgram(std::string name) {
   if (name.empty()) return {};
@@ -19,8 +22,11 @@ std::optional<std::string> FindProgram(std::string name) {
     if (!IsFile(name)) return {};
     return SystemPath(name);
   }
-  for (const auto& folder : {ProgramFolder(), std::string(".")})
-    if (const auto path = folder + "/" + name; IsFile(path)) return SystemPath(path);
+  for (auto path : {ProgramFolder(), std::string(".")}) {
+    path += '/';
+    path += name;
+    if (IsFile(path)) return SystemPath(path);
+  }
   return {};
 }
 
@@ -54,16 +60,21 @@ Command MakeCommand(std::string program, std::string_view rest) {
 
 std::optional<Command> FindCommand(std::string_view commandLine) {
   const auto line = base::Trim(commandLine);
+  // The system's own texts end at a zero: it would run something else.
+  if (line.find('\0') != std::string_view::npos) return {};
   if (line.starts_with('"')) {
     const auto end = line.find('"', 1);
-    auto program = FindProgram(std::string(line.substr(1, end == line.npos ? end : end - 1)));
+    auto program =
+        FindProgram(std::string(line.substr(1, end == std::string_view::npos ? end : end - 1)));
     if (!program) return {};
-    return MakeCommand(std::move(*program), end == line.npos ? "" : line.substr(end + 1));
+    return MakeCommand(std::move(*program),
+                       end == std::string_view::npos ? "" : line.substr(end + 1));
   }
   for (auto end = line.find(' ');; end = line.find(' ', end + 1)) {
     if (auto program = FindProgram(std::string(line.substr(0, end))))
-      return MakeCommand(std::move(*program), end == line.npos ? "" : line.substr(end));
-    if (end == line.npos) return {};
+      return MakeCommand(std::move(*program),
+                         end == std::string_view::npos ? "" : line.substr(end));
+    if (end == std::string_view::npos || end > kLongestProgram) return {};
   }
 }
 

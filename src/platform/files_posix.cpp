@@ -111,7 +111,9 @@ std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::
   std::bitset<NAME_MAX + 1> lengths;  // of these; spares looking closer at most files
   for (std::size_t i = 0; i < names.size(); ++i) {
     struct stat status {};
-    if (stat((path + "/" + names[i]).c_str(), &status) == 0) {
+    const auto file = path + "/" + names[i];
+    if (file.find('\0') != std::string::npos) continue;
+    if (stat(file.c_str(), &status) == 0) {
       found[i] = S_ISREG(status.st_mode);
     } else if (names[i].find_first_of("\\/") != std::string::npos) {
       found[i] = IsFile(std::string(folder) + "\\" + names[i]);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -94,10 +95,12 @@ const FolderNames& NamesIn(const std::string& folder, const struct stat& status)
 }  // namespace
 
 FoundPath FindPath(const std::string& path) {
+  // The system takes neither a path this long nor one with a zero in it, where it would stop.
+  if (path.size() >= PATH_MAX || path.find('\0') != std::string::npos) return {path, {}};
   FoundPath found{path, StatusOf(path)};
   if (found.status || path.empty()) return found;
   const auto nameEnd = path.find_last_not_of('/') + 1;
-  if (nameEnd == 0) return found;
+  if (nameEnd == 0 || path == ".") return found;
   const auto nameStart = path.find_last_of('/', nameEnd - 1) + 1;
   const auto name = path.substr(nameStart, nameEnd - nameStart);
   const auto folder = FindPath(nameStart == 0 ? "." : path.substr(0, nameStart));

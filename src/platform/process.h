@@ -32,7 +32,9 @@ class StartedProcess {
   // Starts the command minimised and without focus, where the system knows that; its output goes
   // nowhere. Throws if it can't be started.
   explicit StartedProcess(std::string_view commandLine);
+#ifdef _WIN32
   ~StartedProcess();
+#endif
   StartedProcess(const StartedProcess&) = delete;
   StartedProcess& operator=(const StartedProcess&) = delete;
 

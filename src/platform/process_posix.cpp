@@ -17,8 +17,6 @@
 #include "platform/code_page.h"
 #include "platform/process.h"
 
-extern char** environ;
-
 namespace platform {
 namespace {
 
@@ -157,8 +155,6 @@ std::string CaptureOutput(std::string_view commandLine, bool /*showWindow*/) {
 
 StartedProcess::StartedProcess(std::string_view commandLine)
     : pid_(Spawn(RunnableCommand(commandLine), -1, POSIX_SPAWN_SETSID)) {}
-
-StartedProcess::~StartedProcess() = default;
 
 int StartedProcess::ExitStatus() {
   if (status_ != kStillActive) return status_;

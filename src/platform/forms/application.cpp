@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <cstdlib>
 
+#include "platform/forms/list_accessible.h"
+
 // Pulls the pictures out of the library; has to stand outside any namespace.
 static void LoadAssets() { Q_INIT_RESOURCE(assets); }
 
@@ -18,6 +20,7 @@ struct Application::Native {
 
 Application::Application() : native_(std::make_unique<Native>()) {
   LoadAssets();
+  MakeListsAccessible();
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationDisplayName({});
   QGuiApplication::setDesktopFileName(QStringLiteral("kestrivane-ui"));

@@ -88,7 +88,7 @@ class FormWindow : public QMainWindow {
 
  private:
   // Enter in a control: a push button presses itself, a control of many lines keeps the key.
-  bool pressButtonFor(QWidget& focus) {
+  bool pressButtonFor(QWidget& focus) const {
     if (auto* own = qobject_cast<QPushButton*>(&focus)) {
       own->click();
       return true;
@@ -152,9 +152,9 @@ void Form::setTitle(const std::string& title) {
 
 void Form::setIcon(const Picture& icon) { native_->window.setWindowIcon(IconOf(icon)); }
 
-void Form::setColours(Colour back, Colour text) {
+void Form::setColours(Colour background, Colour text) {
   auto palette = native_->client->palette();
-  palette.setColor(QPalette::Window, QColor(back.red, back.green, back.blue));
+  palette.setColor(QPalette::Window, QColor(background.red, background.green, background.blue));
   palette.setColor(QPalette::WindowText, QColor(text.red, text.green, text.blue));
   native_->client->setPalette(palette);
   native_->client->setAutoFillBackground(true);
@@ -198,6 +198,8 @@ void Form::showModal(Form& owner) {
   }
   window.waitUntilClosed();
   window.setParent(nullptr, window.windowFlags());
+  // Some window managers leave no window active when the active one goes.
+  owner.native_->window.activateWindow();
 }
 
 void Form::close() { native_->window.close(); }

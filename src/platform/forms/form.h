@@ -25,7 +25,7 @@ class Form : public Container {
   std::string title() const;
   void setTitle(const std::string& title);
   void setIcon(const Picture& icon);
-  void setColours(Colour back, Colour text);
+  void setColours(Colour background, Colour text);
   // Enter presses it, unless the control in focus takes Enter itself.
   void setDefaultButton(CommandButton& button);
   // The order in which the Tab key visits these controls.

@@ -52,13 +52,14 @@ class NativeList : public QListWidget {
     if (again) Raise(list_.onClick);
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton && itemAt(event->pos())) Raise(list_.onDblClick);
+    if (auto* item = itemAt(event->pos()); item && event->button() == Qt::LeftButton)
+      Q_EMIT itemDoubleClicked(item);
   }
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool edits = event->key() == Qt::Key_F2 || (enter && property("takesEnter").toBool());
     if (edits && list_.selectedRow() >= 0) {
-      Raise(list_.onDblClick);
+      Q_EMIT itemDoubleClicked(item(list_.selectedRow()));
       return;
     }
     if (event->key() == Qt::Key_Delete) Raise(list_.onKeyDown, kDeleteCode);
@@ -93,6 +94,7 @@ ListBox::ListBox(Container& parent, const char* name, const Box& box, Sorting so
   QObject::connect(list, &QListWidget::itemSelectionChanged, list, [this] {
     if (selectedRow() >= 0) Raise(onClick);
   });
+  QObject::connect(list, &QListWidget::itemDoubleClicked, list, [this] { Raise(onDblClick); });
   QObject::connect(list->verticalScrollBar(), &QScrollBar::valueChanged, list,
                    [this] { Raise(onScroll); });
 }

@@ -36,7 +36,7 @@ class ListBox : public Control {
   void hideScrollBar();
 
   std::function<void()> onClick;
-  std::function<void()> onDblClick;            // on a row; also F2 on the selected row
+  std::function<void()> onDblClick;  // on a row; also F2, and a press by assistive technology
   std::function<void(int keyCode)> onKeyDown;  // 46 Delete
   std::function<void()> onScroll;
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 #include "platform/forms/native.h"
 
@@ -37,11 +38,14 @@ QMessageBox::Icon ToIcon(BoxIcon icon) {
 }  // namespace
 
 Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std::string& title) {
-  QMessageBox box(ToIcon(icon), ToQString(title), ToQString(text), ToButtons(buttons),
-                  QApplication::activeWindow());
+  const QPointer<QWidget> owner = QApplication::activeWindow();
+  QMessageBox box(ToIcon(icon), ToQString(title), ToQString(text), ToButtons(buttons), owner);
   box.setTextFormat(Qt::PlainText);
   if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
-  switch (box.exec()) {
+  const int answer = box.exec();
+  // Some window managers leave no window active when the active one goes.
+  if (owner) owner->activateWindow();
+  switch (answer) {
     case QMessageBox::Yes:
       return Answer::Yes;
     case QMessageBox::No:

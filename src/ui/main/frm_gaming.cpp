@@ -48,6 +48,7 @@ std::string frmGaming::KeysText() const {
 void frmGaming::Form_Activate() {
   using namespace Module1;
   setCloseRefused(true);
+  setTitle(main_.lblGameTitle.caption());
   lblGameTitle.setCaption(main_.lblGameTitle.caption());
   imgIcon.setPicture(main_.imgIcon.picture());
   Label1.setCaption(Msg(151));

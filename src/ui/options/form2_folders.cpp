@@ -110,7 +110,7 @@ void Form2::StartFileChoice(int index) {
 void Form2::File1_DblClick() {
   auto& list = lstFolders[ShaderTarget];
   const auto folder = File1.path();
-  const auto separator = folder.ends_with('\\') || folder.ends_with('/') ? "" : "\\";
+  const auto* const separator = folder.ends_with('\\') || folder.ends_with('/') ? "" : "\\";
   list.clear();
   list.add(folder + separator + File1.text(File1.selectedRow()));
   list.setFont({});

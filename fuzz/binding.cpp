@@ -1,0 +1,61 @@
+// An input's value: filling the table, editing a cell and rebuilding the value agree with each
+// other, and numbering the devices can be repeated and taken back.
+#include <algorithm>
+
+#include "base/text.h"
+#include "core/bindings.h"
+#include "support.h"
+
+namespace {
+
+using fuzz::Require;
+
+bool Holds(std::string_view text, std::string_view wanted) {
+  return base::FoldCase(text).find(base::FoldCase(wanted)) != std::string::npos;
+}
+
+core::BindingCells ClosedUp(core::BindingCells cells) {
+  std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
+  return cells;
+}
+
+void CheckRebuilding(const core::BindingCells& cells) {
+  const auto value = core::ValueOf(cells);
+  Require(value.size() > 2 && value.front() == '"' && value.back() == '"', "a value is quoted");
+  Require(std::count(value.begin(), value.end(), '"') == 2, "a value has no quotes inside");
+  Require(value.find(",,") == value.npos && value.find("\",") == value.npos &&
+              value.find(",\"") == value.npos,
+          "no token is empty");
+  // "NONE" inside a token goes at the next filling; no token of the emulator has it.
+  if (std::any_of(cells.begin(), cells.end(), [](auto& cell) { return Holds(cell, "NONE"); }))
+    return;
+  Require(core::CellsOf(value) == ClosedUp(cells), "the cells come back, closed up");
+  Require(core::ValueOf(core::CellsOf(value)) == value, "the value comes back");
+}
+
+void CheckNumbering(std::string_view value, int player) {
+  const auto numbered = core::WithDeviceNumbers(value, player);
+  const auto plain = core::WithoutDeviceNumbers(value);
+  Require(!Holds(numbered, "KEY_") && !Holds(numbered, "MOUSE_"), "every device has its number");
+  for (const auto* device : {"KEY1_", "KEY2_", "MOUSE1_", "MOUSE2_"})
+    Require(!Holds(plain, device), "no device has a number");
+  Require(core::WithDeviceNumbers(numbered, 3 - player) == numbered, "nothing is numbered twice");
+  Require(core::WithoutDeviceNumbers(plain) == plain, "nothing is taken twice");
+  Require(base::FoldCase(core::WithoutDeviceNumbers(numbered)) == base::FoldCase(plain),
+          "numbering can be taken back");
+}
+
+}  // namespace
+
+void fuzz::Examine(std::string_view bytes) {
+  if (bytes.empty()) return;
+  const auto choice = static_cast<unsigned char>(bytes.front());
+  const auto value = bytes.substr(1);
+  auto cells = core::CellsOf(value);
+  for (const auto& cell : cells)
+    Require(cell.find_first_of("\",") == cell.npos, "a cell is one token");
+  CheckRebuilding(cells);
+  cells.at(choice % cells.size()) = choice < 128 ? "JOY1_BUTTON5" : "";
+  CheckRebuilding(cells);
+  CheckNumbering(value, 1 + choice % 2);
+}

@@ -1,0 +1,54 @@
+// A command line: the program found is one that is there and that the line names, and no part of
+// the line gets lost or is made up.
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/text.h"
+#include "platform/process.h"
+#include "support.h"
+
+namespace {
+
+// Text without what the splitting may change: case, separators, "." for a folder, quotes, blanks.
+std::string Bare(std::string_view text) {
+  std::string bare(text);
+  std::erase_if(bare, [](char c) { return std::strchr("\\/.\" ", c) && c != '\0'; });
+  return base::FoldCase(bare);
+}
+
+bool HasZero(std::string_view text) { return text.find('\0') != text.npos; }
+
+}  // namespace
+
+void fuzz::Examine(std::string_view bytes) {
+  static const TempApp app(
+      {"Kestrivane.exe", "a b.exe", "sub/Run.exe", "sub dir/a", "plain", "folder.exe/x"});
+  const auto command = platform::FindCommand(bytes);
+  if (!command) return;
+
+  const auto& program = command->program;
+  struct stat status {};
+  Require(stat(program.c_str(), &status) == 0 && S_ISREG(status.st_mode), "the program is a file");
+  Require(!HasZero(program) &&
+              std::none_of(command->arguments.begin(), command->arguments.end(), HasZero),
+          "the system sees the whole text");
+
+  std::string arguments;
+  for (const auto& argument : command->arguments) {
+    Require(argument.find('"') == argument.npos, "quotes are gone");
+    Require(bytes.find('"') != bytes.npos || argument.find(' ') == argument.npos, "blanks part");
+    arguments += argument;
+  }
+  const auto line = Bare(bytes);
+  const auto fits = [&](std::string_view name) {
+    return line == Bare(std::string(name) + arguments) ||
+           (name.ends_with(".exe") &&
+            line == Bare(std::string(name.substr(0, name.size() - 4)) + arguments));
+  };
+  const auto& folder = app.folder().string();
+  Require(fits(program) || (program.starts_with("./") && fits(program.substr(2))) ||
+              (program.starts_with(folder) && fits(program.substr(folder.size()))),
+          "program and arguments are the line");
+}

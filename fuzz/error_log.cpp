@@ -1,0 +1,29 @@
+// The emulator's report: all behind the seventh line of any file, unless that tells of a good end.
+#include <fstream>
+
+#include "base/text.h"
+#include "core/module1.h"
+#include "launch/play_tracking.h"
+#include "platform/code_page.h"
+#include "support.h"
+
+void fuzz::Examine(std::string_view bytes) {
+  static const TempApp app;
+  std::ofstream(app.folder() / "error.log", std::ios::binary) << bytes;
+  Module1::ErrorText = "as before";
+  const bool failed = launch::ReadErrorLog();
+
+  auto rest = bytes;
+  for (int line = 0; line < 7; ++line) {
+    const auto end = rest.find('\r');
+    rest = end == rest.npos ? std::string_view() : rest.substr(end + 1);
+    if (rest.starts_with('\n')) rest.remove_prefix(1);
+  }
+  auto report = platform::DecodeLines(rest);
+  const bool good = base::FoldCase(report).find("program terminated normally.") != report.npos;
+  report.erase(0, report.find_first_not_of(' '));
+  Require(failed != good, "the good end decides");
+  Require(Module1::ErrorText == (failed ? report : "as before"), "the report is the rest");
+  Require(IsUtf8(Module1::ErrorText), "the report is UTF-8");
+  Require(!exists(app.folder() / "error.log"), "the file is gone");
+}

@@ -1,0 +1,88 @@
+#include "support.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+#include "core/module1.h"
+#include "platform/app_folder.h"
+#include "platform/open_address.h"
+#include "platform/settings_store.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  fuzz::Examine({reinterpret_cast<const char*>(data), size});
+  return 0;
+}
+
+namespace fuzz {
+
+void Require(bool holds, const char* what) {
+  if (holds) return;
+  std::fprintf(stderr, "Does not hold: %s\n", what);
+  std::abort();
+}
+
+bool IsUtf8(std::string_view text) {
+  for (std::size_t i = 0; i < text.size();) {
+    const auto byte = [&](std::size_t at) {
+      return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U;
+    };
+    const auto lead = byte(i);
+    const auto second = byte(i + 1);
+    std::size_t length = 1;
+    if (lead >= 0xC2 && lead <= 0xDF) length = 2;
+    if (lead >= 0xE0 && lead <= 0xEF) length = 3;
+    if (lead >= 0xF0 && lead <= 0xF4) length = 4;
+    if (length == 1 && lead >= 0x80) return false;
+    if ((lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
+        (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F))
+      return false;
+    for (std::size_t k = 1; k < length; ++k)
+      if (byte(i + k) < 0x80 || byte(i + k) > 0xBF) return false;
+    i += length;
+  }
+  return true;
+}
+
+TempApp::TempApp(std::initializer_list<std::string_view> files) {
+  auto name = (std::filesystem::temp_directory_path() / "kestrivane-fuzz-XXXXXX").string();
+  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
+  folder_ = name;
+  for (const auto file : files) {
+    std::filesystem::create_directories((folder_ / file).parent_path());
+    std::ofstream(folder_ / file).flush();
+  }
+  Module1::AppFolder = name;
+  platform::SetProgramFolder(name);
+  platform::SetWorkingFolder(name);
+}
+
+TempApp::~TempApp() { std::filesystem::remove_all(folder_); }
+
+void StubForm::SetTitle(const std::string& title) { Require(IsUtf8(title), "the title is UTF-8"); }
+
+void StubForm::SelectGamesFilter(int index) {
+  Require(index == 0 || index == 1, "the filter is one of two");
+  Require(Module1::GameListPref == 9, "the filter's click is held back");
+}
+
+void StubForm::TickLanguage(int index) {
+  Require(index >= -1 && index <= 2, "the language is one of three or none");
+}
+
+}  // namespace fuzz
+
+// No fuzzer may reach the desktop.
+namespace platform {
+
+struct SettingsStore::Native {};
+SettingsStore::SettingsStore(const std::string& /*application*/) {}
+SettingsStore::~SettingsStore() = default;
+void SettingsStore::save(const std::string& /*section*/, const std::string& /*key*/,
+                         const std::string& /*value*/) {}
+
+void OpenAddress(const std::string& /*address*/) {}
+
+}  // namespace platform

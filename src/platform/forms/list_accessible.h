@@ -1,0 +1,10 @@
+// Shared by the sources of this folder; no other code includes it.
+#pragma once
+
+namespace forms {
+
+// From then on assistive technology sees each list as a list of rows that can be pressed, which
+// does what a double click does.
+void MakeListsAccessible();
+
+}  // namespace forms
