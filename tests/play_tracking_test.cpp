@@ -33,9 +33,6 @@ TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
     EXPECT_EQ(LaunchRequest.CommandLine, line + ending);
     ++Profiles[1].InputMethod;
   }
-  BuildLaunchRequest({"Other", "other", false, 0});
-  EXPECT_EQ(LaunchRequest.CommandLine, line + " -input-system=rawinput");
-  EXPECT_EQ(LaunchRequest.RomName, "other");
 }
 
 TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
@@ -72,20 +69,6 @@ TEST_F(PlayTracking, EqualRowsAllCountAndAFullTableTakesNoMore) {
   EXPECT_EQ(row(0) + " " + row(40), "g,2,60 g,2,60");
 }
 
-TEST_F(PlayTracking, WaitTicksBeforeEachSleepUntilTheEnd) {
-  addEmulator();
-  write("a.zip", "seconds=0\nend=nolog\n");
-  std::size_t ticks = 0;
-  clock.onSleep = [&] { EXPECT_EQ(ticks, clock.sleeps.size()); };
-  RunAndWait("Kestrivane \"" + AppFolder + "\\a.zip\"", [&] { ++ticks; });
-  EXPECT_GE(ticks, 1U);
-  EXPECT_EQ(clock.sleeps, std::vector<long long>(ticks, 1000));
-  RunAndWait("NoSuchProgram", [&] { ticks = 0; });
-  EXPECT_GE(ticks, 1U) << "what can't be started is not waited for";
-  const auto start = clock.now - std::chrono::milliseconds(3605999);
-  EXPECT_EQ(FormatElapsed(start), "1:00:05");
-}
-
 TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
   const std::string head = "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n";
   const struct {
@@ -99,7 +82,6 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
       {"a report", head + "  one \r\ntw\xF6\r\n  ", true, "one \r\ntwö\r\n  \r\n"},
       {"lines of CR", "1\r2\r3\r4\r5\r6\r7\rone\n\rtwo", true, "one\n\r\ntwo\r\n"},
       {"seven lines", head, true, ""},
-      {"fewer lines", "1\r\n2", true, ""},
       {"an empty file", "", true, ""}};
   for (const auto& row : rows) {
     write("error.log", row.log);

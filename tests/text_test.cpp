@@ -25,12 +25,5 @@ TEST(Text, NumbersOfAnyOtherFormAreRefused) {
   EXPECT_FALSE(ToNumber(std::string(400, '9')));
 }
 
-TEST(Text, TimesHaveUnpaddedUnlimitedHours) {
-  const std::pair<int, const char*> rows[] = {
-      {5, "0:00:05"}, {3599, "0:59:59"}, {3605, "1:00:05"}, {360000, "100:00:00"}};
-  for (const auto& [seconds, text] : rows) EXPECT_EQ(HoursMinutesSeconds(seconds), text);
-  EXPECT_EQ(PaddedNumber(7, 3) + PaddedNumber(1234, 3), "0071234");
-}
-
 }  // namespace
 }  // namespace base

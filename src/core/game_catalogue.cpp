@@ -82,6 +82,7 @@ void FindGameArchives() {
     missing.push_back(&GameCatalog[row]);
   for (std::size_t folder = 0; folder < kSearchedFolders && !RomPaths[folder].empty(); ++folder) {
     std::vector<std::string> archives;
+    archives.reserve(missing.size());
     for (const auto* game : missing) archives.push_back(game->RomName + ".zip");
     const auto found = platform::WhichAreFiles(RomPaths[folder], archives);
     std::vector<GameEntry*> stillMissing;

@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -42,12 +41,6 @@ class OptionsTest : public UiTest {
     click("cmdConfGame");
   }
 
-  template <class T = QWidget>
-  static T& get(const QWidget& window, const std::string& name) {
-    auto* child = window.findChild<T*>(QString::fromStdString(name));
-    if (!child) throw std::runtime_error("nothing is called " + name);
-    return *child;
-  }
   // A click near the left end, where a check box has its box.
   static void press(const QWidget& window, const std::string& name) {
     auto& control = get(window, name);
@@ -64,6 +57,9 @@ class OptionsTest : public UiTest {
   }
   static void save(const QWidget& window) { press(window, "cmdSave"); }
 
+  static bool fileHas(const std::string& line) {
+    return read("Config/Kestrivane.ini").find(line + "\r\n") != std::string::npos;
+  }
   // The saved file: its lines without blank ones, headings and bindings, joined by "|".
   static std::string saved() {
     std::string text;

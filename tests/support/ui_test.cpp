@@ -20,17 +20,10 @@ struct Toolkit : testing::Environment {
 
 const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
 
-template <class T>
-T& Child(const QWidget& window, const QString& name) {
-  auto* child = window.findChild<T*>(name);
-  if (!child) throw std::runtime_error("nothing is called " + name.toStdString());
-  return *child;
-}
-
 }  // namespace
 
-std::string TextOf(const QWidget& window, const char* name) {
-  const auto& child = Child<QWidget>(window, name);
+std::string UiTest::textOf(const QWidget& window, const std::string& name) {
+  const auto& child = get(window, name);
   const auto text = child.property("text");
   return (text.isValid() ? text : child.property("plainText")).toString().toStdString();
 }
@@ -48,14 +41,6 @@ void UiTest::start() {
   form->Form_Load();
   ASSERT_EQ(QTest::qWaitForWindowActive(&window(), form->visible() ? 5000 : 0), form->visible());
 }
-
-QWidget& UiTest::widget(const char* name) const { return Child<QWidget>(window(), name); }
-
-QAction& UiTest::item(const std::string& name) const {
-  return Child<QAction>(window(), QString::fromStdString(name));
-}
-
-std::string UiTest::caption(const char* name) const { return TextOf(window(), name); }
 
 void UiTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   const auto* popup = QApplication::activePopupWidget();

@@ -22,10 +22,19 @@ class UiTest : public TempApp {
   void start();
 
   QWidget& window() const { return *form->clientArea()->window(); }
-  QWidget& widget(const char* name) const;
+  QWidget& widget(const char* name) const { return get(window(), name); }
   QListWidget& list() const { return dynamic_cast<QListWidget&>(widget("lstGames")); }
-  QAction& item(const std::string& name) const;
-  std::string caption(const char* name) const;
+  QAction& item(const std::string& name) const { return get<QAction>(window(), name); }
+  std::string caption(const char* name) const { return textOf(window(), name); }
+
+  // What has this name in a window, and the text of a label, button or text box there.
+  template <class T = QWidget>
+  static T& get(const QWidget& window, const std::string& name) {
+    auto* child = window.findChild<T*>(QString::fromStdString(name));
+    if (!child) throw std::runtime_error("nothing is called " + name);
+    return *child;
+  }
+  static std::string textOf(const QWidget& window, const std::string& name);
 
   // Key and mouse events as the window system sends them.
   static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -52,8 +61,5 @@ class WhenModal : public QObject {
   int patience_ = 2000;
   bool done_ = false;
 };
-
-// The text of a label, button or text box inside the window.
-std::string TextOf(const QWidget& window, const char* name);
 
 }  // namespace support

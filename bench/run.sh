@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Prints every ratio: the benchmarks and the start, on virtual displays of their own.
+# Usage: bench/run.sh BUILD_FOLDER
+set -euo pipefail
+build=$(realpath "$1")
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+tools/install.sh build display bench
+. tools/display.sh
+work=$(mktemp -d)
+trap 'stop_display; rm -rf "$work"' EXIT
+start_display "$work"
+"$build/bench/bench" 2>/dev/null | sed -n '/^Measured/,$p'
+bench/startup.sh "$build"
