@@ -1,4 +1,6 @@
 // The input table, the binding editor, the chooser and the input systems.
+#include <QAccessible>
+
 #include "core/option_catalogue.h"
 #include "support/options_test.h"
 
@@ -85,6 +87,23 @@ TEST_F(Inputs, OddValuesAreShownAndKept) {
   EXPECT_TRUE(fileHas("InputJoyDown = \"A,B,C,D\""));
 }
 
+TEST_F(Inputs, FourListsActAsOneTable) {
+  start();
+  options([](QWidget& window) {
+    page(window, 2);
+    at(window, 2, 3, false);
+    for (int step = 0; step < 14; ++step) type(window, "lstInput(2)", Qt::Key_Down);
+    for (int cell = 0; cell < 4; ++cell) {
+      EXPECT_TRUE(column(window, cell).item(17)->isSelected());
+      EXPECT_GT(column(window, cell).verticalScrollBar()->value(), 0);
+      EXPECT_EQ(column(window, cell).verticalScrollBar()->value(),
+                column(window, 2).verticalScrollBar()->value());
+    }
+    column(window, 0).verticalScrollBar()->setValue(1);
+    EXPECT_EQ(column(window, 3).verticalScrollBar()->value(), 1);
+  });
+}
+
 TEST_F(Inputs, EditingCells) {
   start();
   options([](QWidget& window) {
@@ -105,6 +124,13 @@ TEST_F(Inputs, EditingCells) {
       type(window, "lstInput(1)", Qt::Key_F2);
     }
     EXPECT_EQ(value("InputServiceA"), "\"KEY_5,JOY2_BUTTON32\"") << "left without choosing";
+    {
+      const WhenModal chooser("frmInput2", choose(0, 0, "KEY_F1"));
+      auto* cell = QAccessible::queryAccessibleInterface(&column(window, 1))->child(3);
+      EXPECT_EQ(cell->text(QAccessible::Name), "KEY_6");
+      cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    EXPECT_EQ(row(window, 3), "TestA|KEY_F1||") << "pressed by assistive technology";
     at(window, 1, 2, false);
     type(window, "lstInput(1)", Qt::Key_Delete);
     EXPECT_EQ(value("InputServiceA"), "\"JOY2_BUTTON32\"");

@@ -115,4 +115,35 @@ TEST_F(OptionsOpening, VideoPageRules) {
   EXPECT_EQ(saved(), "[ Global ]|XResolution = 1234|FullScreen = 1|");
 }
 
+TEST_F(OptionsOpening, DragTellsItsEndOnly) {
+  startWith("");
+  options([](QWidget& window) {
+    page(window, 3);
+    auto& bar = get<QScrollBar>(window, "hslPPC");
+    const QPoint thumb(bar.height() + 12, bar.height() / 2);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, thumb);
+    QTest::mouseMove(&bar, thumb + QPoint(150, 0));
+    EXPECT_EQ(textOf(window, "lblPPC"), "50 MHz");
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, thumb + QPoint(150, 0));
+    EXPECT_NE(textOf(window, "lblPPC"), "50 MHz");
+  });
+}
+
+TEST_F(OptionsOpening, KeyboardReachesEveryPageInTheLanguageInForce) {
+  startWith("[ Global ]\nBalance = 30\n;KVLLanguage=1\n");
+  options([](QWidget& window) {
+    EXPECT_EQ(textOf(window, "lblBalance"), "+30% al Frontal");
+    EXPECT_EQ(get(window, "optOPT(4)").toolTip(), "Carpetas");
+    EXPECT_EQ(textOf(window, "Label8(3)"), "Botón 3");
+    for (int index = 1; index < 5; ++index) {
+      key(Qt::Key_Right);
+      EXPECT_TRUE(get(window, "frmOPT(" + std::to_string(index) + ")").isVisible());
+    }
+    key(Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }))
+        << "the save button's own key";
+  });
+  EXPECT_EQ(saved(), "[ Global ]|Balance = 30|;KVLLanguage=1|");
+}
+
 }  // namespace
