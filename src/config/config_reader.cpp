@@ -21,8 +21,6 @@ using base::ToByte;
 using core::MainForm;
 using namespace Module1;
 
-constexpr unsigned char kFilterBeingSet = 9;
-
 void TakePathList(std::string_view value, std::array<std::string, 5>& paths) {
   std::size_t entry = 1;
   for (const auto path : base::Split(value, "*")) paths.at(entry++) = path;
@@ -42,7 +40,7 @@ void TakePlayLog(std::string_view value) {
 void TakeFilter(std::string_view value, MainForm& form) {
   const auto filter = ToByte(value);
   if (filter > 1) return;
-  GameListPref = kFilterBeingSet;
+  GameListPref = core::kFilterBeingSet;
   form.SelectGamesFilter(filter);
   GameListPref = filter;
 }

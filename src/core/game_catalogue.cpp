@@ -19,8 +19,6 @@ using i18n::Msg;
 using launch::FileExists;
 using namespace Module1;
 
-constexpr std::size_t kSearchedFolders = 4;
-
 void TakeVersion(std::string_view banner, MainForm& form) {
   auto version = banner.substr(base::OffsetOfChar(banner, kBanner.size()));
   if (!version.empty()) {

@@ -11,7 +11,11 @@ namespace core {
 inline constexpr std::size_t kSlotCount = 128;
 inline constexpr std::size_t kGeneralSlotCount = 30;
 inline constexpr std::size_t kFirstInputSlot = 30;
+inline constexpr std::size_t kCrosshairsSlot = 28;
 inline constexpr unsigned char kGlobalScope = 254;
+inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref
+inline constexpr unsigned char kRawInput = 2;        // in Profile.InputMethod
+inline constexpr std::size_t kSearchedFolders = 4;   // of each list of folders
 inline constexpr std::size_t kMaxGames = 254;
 inline constexpr std::size_t kMaxProfiles = 255;
 

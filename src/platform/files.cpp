@@ -1,8 +1,21 @@
 #include "platform/files.h"
 
+#include <stdexcept>
+
+#include "base/text.h"
 #include "platform/code_page.h"
 
 namespace platform {
+
+void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
+  bool any = false;
+  for (const auto& name : FileNames(folder)) {
+    if (!base::FoldCase(name).ends_with(ending)) continue;
+    any = true;
+    DeleteFile(std::string(folder) + "\\" + name);
+  }
+  if (!any) throw std::runtime_error("no such file");
+}
 
 void CopyFileBytes(std::string_view from, std::string_view to) { WriteBytes(to, ReadBytes(from)); }
 

@@ -137,16 +137,6 @@ std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::
   return found;
 }
 
-void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
-  bool any = false;
-  for (const auto& name : FileNames(folder)) {
-    if (!base::FoldCase(name).ends_with(ending)) continue;
-    any = true;
-    DeleteFile(std::string(folder) + "\\" + name);
-  }
-  if (!any) throw std::runtime_error("no such file");
-}
-
 std::string ReadBytes(std::string_view path) {
   const OpenFile file(Find(path).path, O_RDONLY);
   std::string bytes(static_cast<std::size_t>(file.size()), '\0');

@@ -132,16 +132,6 @@ void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
 
 void DeleteFile(std::string_view path) { Check(DeleteFileW(ToPath(path).c_str()) != 0); }
 
-void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
-  bool any = false;
-  for (const auto& name : FileNames(folder)) {
-    if (!base::FoldCase(name).ends_with(ending)) continue;
-    any = true;
-    DeleteFile(std::string(folder) + "\\" + name);
-  }
-  if (!any) throw std::runtime_error("no such file");
-}
-
 std::string ReadBytes(std::string_view path) {
   if (!IsFile(path)) throw std::runtime_error("not a regular file");
   std::ifstream file;

@@ -80,16 +80,9 @@ QListWidgetItem& ItemAt(QWidget* widget, int row) {
 
 }  // namespace
 
-// The sort keys of the rows, in their order.
-struct ListBox::Rows {
-  std::vector<std::string> keys;
-};
-
 ListBox::ListBox(Container& parent, const char* name, const Box& box, Sorting sorting,
                  const FontStyle& font)
-    : Control(new NativeList(parent.clientArea(), *this), name, box, font),
-      sorting_(sorting),
-      rows_(std::make_unique<Rows>()) {
+    : Control(new NativeList(parent.clientArea(), *this), name, box, font), sorting_(sorting) {
   auto* list = Native(widget());
   QObject::connect(list, &QListWidget::itemSelectionChanged, list, [this] {
     if (selectedRow() >= 0) Raise(onClick);
@@ -99,25 +92,22 @@ ListBox::ListBox(Container& parent, const char* name, const Box& box, Sorting so
                    [this] { Raise(onScroll); });
 }
 
-ListBox::~ListBox() = default;
-
 void ListBox::clear() {
   const QSignalBlocker quiet(widget());
   Native(widget())->clear();
-  rows_->keys.clear();
+  keys_.clear();
 }
 
 int ListBox::add(const std::string& text) {
-  auto& keys = rows_->keys;
-  auto at = keys.end();
+  auto at = keys_.end();
   if (sorting_ == Sorting::IgnoringCase) {
     auto key = base::FoldCase(text);
-    at = std::upper_bound(keys.begin(), keys.end(), key);
-    at = keys.insert(at, std::move(key));
+    at = std::upper_bound(keys_.begin(), keys_.end(), key);
+    at = keys_.insert(at, std::move(key));
   } else {
-    at = keys.emplace(at);
+    at = keys_.emplace(at);
   }
-  const int row = static_cast<int>(at - keys.begin());
+  const int row = static_cast<int>(at - keys_.begin());
   const QSignalBlocker quiet(widget());
   Native(widget())->insertItem(row, ToQString(text));
   return row;
@@ -127,7 +117,7 @@ void ListBox::remove(int row) {
   const QSignalBlocker quiet(widget());
   const bool wasSelected = ItemAt(widget(), row).isSelected();
   delete Native(widget())->takeItem(row);
-  rows_->keys.erase(rows_->keys.begin() + row);
+  keys_.erase(keys_.begin() + row);
   if (wasSelected) select(-1);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <memory>
+#include <vector>
 
 #include "platform/forms/control.h"
 
@@ -14,7 +14,6 @@ class ListBox : public Control {
  public:
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
           const FontStyle& font = {});
-  ~ListBox() override;
 
   // None of these four raises an event, and removing the selected row leaves none selected.
   void clear();
@@ -45,9 +44,8 @@ class ListBox : public Control {
   void takeEnter();
 
  private:
-  struct Rows;
   Sorting sorting_;
-  std::unique_ptr<Rows> rows_;
+  std::vector<std::string> keys_;  // what the rows are sorted by, in their order
 };
 
 }  // namespace forms

@@ -18,8 +18,6 @@ struct SlotRange {
 constexpr SlotRange kGroupSlots[] = {{30, 63}, {110, 127}, {64, 81}, {82, 109}};
 constexpr int kGun = 1;
 constexpr int kOthers = 3;
-constexpr int kCrosshairsSlot = 28;
-constexpr int kRawInput = 2;
 
 }  // namespace
 
@@ -57,7 +55,8 @@ void Form2::FillInputLists() {
                 core::CellsOf(EffectiveValues[slot]));
   }
   if (group == kGun)
-    AddInputRow("Show Crosshairs", kCrosshairsSlot, {EffectiveValues[kCrosshairsSlot], {}, {}});
+    AddInputRow("Show Crosshairs", core::kCrosshairsSlot,
+                {EffectiveValues[core::kCrosshairsSlot], {}, {}});
   for (auto& list : lstInput) list.setTopRow(0);
 }
 
@@ -72,7 +71,7 @@ void Form2::cmbInputType_Click() {
   const int system = cmbInputType.selectedRow();
   // One game's options leave the bindings of all games alone.
   if (isGlobal()) {
-    if (system == kRawInput)
+    if (system == core::kRawInput)
       ApplyRawInputNames();
     else
       ClearRawInputNames();

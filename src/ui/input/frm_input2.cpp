@@ -68,9 +68,8 @@ struct Device {
 constexpr Device kDevices[] = {
     {kKeyboardNames, "KEY"}, {kMouseNames, "MOUSE"}, {kJoystickNames, "JOY"}};
 constexpr int kJoystick = 2;
-constexpr int kRawInput = 2;
 
-bool HasNumbers(int row) { return row == kJoystick || Profiles[0].InputMethod == kRawInput; }
+bool HasNumbers(int row) { return row == kJoystick || Profiles[0].InputMethod == core::kRawInput; }
 
 }  // namespace
 

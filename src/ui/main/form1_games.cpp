@@ -18,14 +18,11 @@ using forms::Picture;
 using i18n::Msg;
 using namespace Module1;
 
-constexpr std::size_t kSearchedFolders = 4;
-constexpr unsigned char kFilterBeingSet = 9;
-
 // The first of the folders' files with this name and ending; empty if there is none. An empty entry
 // ends the search.
 std::string FindInFolders(const std::array<std::string, 5>& folders, const std::string& name,
                           const char* ending) {
-  for (std::size_t slot = 0; slot < kSearchedFolders && !folders[slot].empty(); ++slot) {
+  for (std::size_t slot = 0; slot < core::kSearchedFolders && !folders[slot].empty(); ++slot) {
     auto candidate = folders[slot] + "\\" + name + ending;
     if (launch::FileExists(candidate)) return candidate;
   }
@@ -113,7 +110,7 @@ void Form1::ShowPlayStats() {
 }
 
 void Form1::optGames_Click(int index) {
-  if (GameListPref == kFilterBeingSet) return;
+  if (GameListPref == core::kFilterBeingSet) return;
   GameListPref = static_cast<unsigned char>(index);
   RefreshGameList();
   lstGames.setFocus();

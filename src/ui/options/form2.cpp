@@ -17,8 +17,6 @@ using namespace Module1;
 
 namespace {
 
-constexpr unsigned char kCrosshairsSlot = 28;
-
 std::string ValueInForce(std::string_view option) {
   return EffectiveValue(static_cast<unsigned char>(OptionIndex(option)));
 }
@@ -70,8 +68,8 @@ void Form2::FillControls() {
   // The bindings are global in either scope.
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     EffectiveValues[slot] = Profiles[1].Slots[slot].Value;
-  const auto crosshairs = EffectiveValue(kCrosshairsSlot);
-  EffectiveValues[kCrosshairsSlot] = crosshairs;
+  const auto crosshairs = EffectiveValue(core::kCrosshairsSlot);
+  EffectiveValues[core::kCrosshairsSlot] = crosshairs;
   FillFromOptions();
   DisableWhatOldEmulatorsLack();
   FillFolderLists();

@@ -17,7 +17,6 @@ using namespace Module1;
 namespace {
 
 constexpr std::size_t kFirstRestoredSlot = 28;
-constexpr int kRawInput = 2;
 
 }  // namespace
 
@@ -45,7 +44,7 @@ void Form2::lblLoadDefaults_Click() {
   core::ResetInputsToDefaults();
   for (auto slot = kFirstRestoredSlot; slot < core::kSlotCount; ++slot)
     EffectiveValues[slot] = Profiles[1].Slots[slot].Value;
-  if (cmbInputType.selectedRow() == kRawInput) ApplyRawInputNames();
+  if (cmbInputType.selectedRow() == core::kRawInput) ApplyRawInputNames();
   FillInputLists();
 }
 

@@ -13,8 +13,6 @@ using namespace Module1;
 
 namespace {
 
-constexpr std::size_t kCrosshairsSlot = 28;
-
 void Stage(std::string_view option, std::string value) {
   StagedOptions.at(static_cast<std::size_t>(core::OptionIndex(option))) = std::move(value);
 }
@@ -41,7 +39,7 @@ void Form2::cmdSave_Click() {
   // The bindings are global, whatever the scope.
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     Profiles[1].Slots[slot].Value = EffectiveValues[slot];
-  Profiles[1].Slots[kCrosshairsSlot].Value = EffectiveValues[kCrosshairsSlot];
+  Profiles[1].Slots[core::kCrosshairsSlot].Value = EffectiveValues[core::kCrosshairsSlot];
   config::WriteConfigFile();
   config::SaveUserSettings();
   OptionsSaved = true;
