@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace base {
 namespace {
@@ -61,6 +62,18 @@ std::string FoldCase(std::string_view text) {
     }
   }
   return folded;
+}
+
+std::vector<std::string> SortedIgnoringCase(std::vector<std::string> texts) {
+  std::vector<std::pair<std::string, std::string>> rows;  // folded, as spelled
+  rows.reserve(texts.size());
+  for (auto& text : texts) {
+    auto folded = FoldCase(text);
+    rows.emplace_back(std::move(folded), std::move(text));
+  }
+  std::sort(rows.begin(), rows.end());
+  for (std::size_t row = 0; row < rows.size(); ++row) texts[row] = std::move(rows[row].second);
+  return texts;
 }
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted) {

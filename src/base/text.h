@@ -19,6 +19,8 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
 // Lower-case form for comparisons: ASCII, Latin, Greek and Cyrillic letters.
 std::string FoldCase(std::string_view text);
 
+std::vector<std::string> SortedIgnoringCase(std::vector<std::string> texts);
+
 // Byte position of `wanted`, or npos. Letter case of ASCII letters is ignored.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted);
 bool ContainsIgnoringCase(std::string_view text, std::string_view wanted);

@@ -61,19 +61,15 @@ class OpenFile {
 std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const struct stat&)) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
   Check(stream != nullptr);
-  std::vector<std::pair<std::string, std::string>> names;  // folded, as spelled
+  std::vector<std::string> names;
   while (const dirent* entry = readdir(stream.get())) {
-    const std::string name = entry->d_name;
+    const std::string_view name = entry->d_name;
     struct stat status {};
     if (name == "." || name == "..") continue;
     if (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && wanted(status))
-      names.emplace_back(base::FoldCase(name), name);
+      names.emplace_back(name);
   }
-  std::sort(names.begin(), names.end());
-  std::vector<std::string> sorted;
-  sorted.reserve(names.size());
-  for (auto& [folded, name] : names) sorted.push_back(std::move(name));
-  return sorted;
+  return base::SortedIgnoringCase(std::move(names));
 }
 
 }  // namespace

@@ -35,18 +35,12 @@ void Check(bool success) {
 
 // The folder's names of regular files or of folders, sorted ignoring case.
 std::vector<std::string> NamesIn(std::string_view folder, fs::file_type wanted) {
-  std::vector<std::pair<std::string, std::string>> names;  // folded, as spelled
+  std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(ToPath(folder))) {
     std::error_code unreadable;
-    if (entry.status(unreadable).type() != wanted) continue;
-    const auto name = ToText(entry.path().filename());
-    names.emplace_back(base::FoldCase(name), name);
+    if (entry.status(unreadable).type() == wanted) names.push_back(ToText(entry.path().filename()));
   }
-  std::sort(names.begin(), names.end());
-  std::vector<std::string> sorted;
-  sorted.reserve(names.size());
-  for (auto& [folded, name] : names) sorted.push_back(std::move(name));
-  return sorted;
+  return base::SortedIgnoringCase(std::move(names));
 }
 
 // A file that is there keeps its content when it is opened. One that is not is gone again unless

@@ -1,6 +1,5 @@
 #include "platform/forms/control.h"
 
-#include <QApplication>
 #include <QPalette>
 #include <QTextDocument>
 #include <QWidget>
@@ -20,8 +19,6 @@ QColor ToColour(Colour colour) { return {colour.red, colour.green, colour.blue};
 int ToPixels(int twips) {
   return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
 }
-
-int ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
 
 // Edges are rounded, not sizes, so that neighbours keep touching.
 QRect ToPixels(const Box& box) {

@@ -7,7 +7,6 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QThread>

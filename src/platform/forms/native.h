@@ -22,7 +22,6 @@ void Raise(const Handler& handler, Arguments&&... arguments) {
 }
 
 int ToPixels(int twips);
-int ToTwips(int pixels);
 QRect ToPixels(const Box& box);
 QFont ToFont(const FontStyle& style);
 QString ToQString(const std::string& text);

@@ -1,7 +1,6 @@
 #include "ui/options/form2.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "base/quietly.h"
 #include "base/text.h"
@@ -46,15 +45,12 @@ Form2::Form2(const forms::Form& main)
 }
 
 void Form2::Form_Load() {
-  const bool selected = [this] {
-    bool found = false;
-    base::Quietly([&] {
-      FillControls();
-      found = SelectResolution();
-    });
-    return found;
-  }();
-  if (!selected) base::Quietly([this] { FillCustomResolution(); });
+  bool inList = false;
+  base::Quietly([&] {
+    FillControls();
+    inList = SelectResolution();
+  });
+  if (!inList) base::Quietly([this] { FillCustomResolution(); });
   ApplyOptionsLanguage();
   optOPT[0].setFocus();
 }
