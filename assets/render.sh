@@ -14,17 +14,19 @@ png() { # drawing, picture, size in pixels
 }
 
 frames=()
-# The larger ones are for the desktop alone: a window would only load them for nothing.
 for size in 16 24 32 48 64; do
-    png icon "$work/icon_$size.png" "$size"
-    frames+=("$work/icon_$size.png")
+    png icon "icon_$size.png" "$size"
+    frames+=("icon_$size.png")
 done
-convert "${frames[@]}" icon.ico
+convert "${frames[@]}" icon.ico  # for the program file on Windows
+png icon icon_128.png 128
 png icon icon.png 256
 
 rsvg-convert -w 784 -h 684 default.svg -o "$work/default.png"
-convert "$work/default.png" -filter Lanczos -resize 392x342! -strip -sampling-factor 4:4:4 \
-    -quality 90 default.jpg
+for size in 392x342:default.jpg 784x684:default@2x.jpg; do
+    convert "$work/default.png" -filter Lanczos -resize "${size%:*}!" -strip \
+        -sampling-factor 4:4:4 -quality 90 "${size#*:}"
+done
 
 for drawing in page_audio page_video page_input page_machine page_folders \
                adv_force adv_keymouse adv_joystick link_pointer; do

@@ -14,6 +14,7 @@ class NoForm : public core::MainForm {
   void SetTitle(const std::string&) override {}
   void SelectGamesFilter(int) override {}
   void TickLanguage(int) override {}
+  void PrepareToShow() override {}
   void RefreshGameList() override {}
   void BecomeVisible() override {}
   void AbortWith(const std::string&, const std::string&) override {}

@@ -39,38 +39,42 @@ lay_out() {
   } > "$work/emulator/Config/Kestrivane.ini"
 }
 
-now_ms() { date +%s%3N; }
-time_of_day_ms() { date -d "$1" +%s%3N; }
+microseconds() { echo "${EPOCHREALTIME/[.,]/}"; }
 
-# Milliseconds from the start of a program to its first flush of painted pixels, and its peak memory
-# in KiB half a second later.
+# Microseconds from the start of a program to its first flush of painted pixels, and its peak memory
+# in KiB half a second later. The toolkit tells of the flush through the pipe.
 measure() {
-  local start log="$work/log"
-  : > "$log"
-  start=$(now_ms)
-  QT_LOGGING_RULES='qt.widgets.painting=true' QT_MESSAGE_PATTERN='%{time HH:mm:ss.zzz} %{message}' \
-    "$1" > /dev/null 2> "$log" &
+  : > "$work/painted"
+  perl -MTime::HiRes=time -ne '
+    BEGIN { $| = 1 } if (/Flushing/ && !$seen++) { printf "%d\n", time * 1e6 }
+    ' < "$work/pipe" > "$work/painted" &
+  local reader=$! start
+  exec 3> "$work/pipe"
+  sleep 0.05
+  start=$(microseconds)
+  QT_LOGGING_RULES='qt.widgets.painting=true' "$1" > /dev/null 2>&3 3>&- &
   local pid=$!
-  wait_until 20 grep -qm1 Flushing "$log"
+  exec 3>&-
+  wait_until 20 test -s "$work/painted"
   sleep 0.5
-  local memory painted
+  local memory
   memory=$(awk '/VmHWM/ {print $2}' "/proc/$pid/status")
   kill "$pid"
-  wait "$pid" 2>/dev/null || true
-  painted=$(time_of_day_ms "$(grep -m1 Flushing "$log" | cut -d' ' -f1)")
-  echo "$((painted - start)) $memory"
+  wait "$pid" "$reader" 2>/dev/null || true
+  echo "$(($(< "$work/painted") - start)) $memory"
 }
 
 listing() {
   local start
-  start=$(now_ms)
+  start=$(microseconds)
   (cd "$work/emulator" && ./Kestrivane.exe -print-games > /dev/null)
-  echo "$(($(now_ms) - start)) 0"
+  echo "$(($(microseconds) - start)) 0"
 }
 
 median() { sort -n | awk '{v[NR]=$1} END {print v[int((NR+1)/2)]}'; }
 
 mkdir "$work/display"
+mkfifo "$work/pipe"
 start_display "$work/display"
 lay_out
 sleep 3  # the folders come to rest
@@ -82,5 +86,5 @@ done
 column() { cut -d' ' -f"$2" "$work/$1" | median; }
 bare=$(column bare 1) listed=$(column listing 1) program=$(column program 1)
 awk -v b="$bare" -v l="$listed" -v p="$program" -v bm="$(column bare 2)" -v pm="$(column program 2)" 'BEGIN {
-  printf "Start until painted: %d ms; bare window %d ms, listing %d ms; ratio %.2f\n", p, b, l, p / (b + l)
+  printf "Start until painted: %.1f ms; bare window %.1f ms, listing %.1f ms; ratio %.2f\n", p / 1000, b / 1000, l / 1000, p / (b + l)
   printf "Peak memory: %d KiB; bare window %d KiB; ratio %.2f\n", pm, bm, pm / bm }'

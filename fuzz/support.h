@@ -39,6 +39,7 @@ class StubForm : public core::MainForm {
   void SetTitle(const std::string& title) override;
   void SelectGamesFilter(int index) override;
   void TickLanguage(int index) override;
+  void PrepareToShow() override {}
   void RefreshGameList() override {}
   void BecomeVisible() override {}
   void AbortWith(const std::string& /*message*/, const std::string& /*title*/) override {}

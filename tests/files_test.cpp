@@ -1,4 +1,5 @@
 #include "platform/files.h"
+#include "platform/file_search.h"
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -22,6 +23,8 @@ class Files : public support::TempApp {};
 TEST_F(Files, AreFoundInAnySpelling) {
   for (const auto* name : {"ROMs/Éclair One.ZIP", "ROMs/two.zip", "ROMs/TWO.zip"}) write(name, "");
   fs::create_symlink("gone.zip", path("ROMs/link.zip"));
+  fs::create_symlink("circle.zip", path("ROMs/circle.zip"));
+  fs::create_directory_symlink(".", path("ROMs/loop"));
   fs::create_directory(path("ROMs/folder.zip"));
   const struct {
     const char *name, *file;  // the latter empty: no such file
@@ -29,7 +32,9 @@ TEST_F(Files, AreFoundInAnySpelling) {
               {"/roms\\two.zip", "ROMs/two.zip"},
               {"\\roms\\TWO.zip", "ROMs/TWO.zip"},
               {"\\roms\\\\two.zip", "ROMs/two.zip"},
+              {"\\roms\\LOOP\\loop\\two.zip", "ROMs/two.zip"},
               {"\\roms\\link.zip", ""},
+              {"\\roms\\circle.zip", ""},
               {"\\roms\\folder.zip", ""},
               {"\\roms\\two.zip\\x", ""},
               {"\\none\\two.zip", ""}};
@@ -38,6 +43,9 @@ TEST_F(Files, AreFoundInAnySpelling) {
     if (!*file) continue;
     EXPECT_EQ(fs::path(SystemPath(AppFolder + name)).filename(), path(file).filename()) << name;
   }
+  EXPECT_EQ(FirstFolders({AppFolder + "\\ROMS\\loop"},
+                         {"Two.zip", "link.zip", "circle.zip", "folder.zip", "loop"}),
+            std::vector<std::size_t>({0, 1, 1, 1, 1}));
   EXPECT_TRUE(IsFolder(AppFolder + "\\roms") && IsFolder(AppFolder + "\\roms\\"));
   EXPECT_FALSE(IsFolder(AppFolder + "\\roms\\two.zip"));
   EXPECT_TRUE(IsFile("roms\\two.zip")) << "relative to the working folder";
@@ -50,8 +58,9 @@ TEST_F(Files, NoPathIsTooOddToAskFor) {
   while (deep.size() < 100000) deep += "a/";
   for (const auto& name : {deep, AppFolder + "/" + deep, AppFolder + "/x.zip" + '\0' + "y"})
     EXPECT_FALSE(IsFile(name)) << name.size();
-  EXPECT_EQ(WhichAreFiles(AppFolder, {"x.zip", std::string("x.zip\0y", 7), "../none.zip", "X.ZIP"}),
-            std::vector<bool>({true, false, false, true}));
+  EXPECT_EQ(
+      FirstFolders({AppFolder}, {"x.zip", std::string("x.zip\0y", 7), "../none.zip", "X.ZIP"}),
+      std::vector<std::size_t>({0, 1, 1, 0}));
   EXPECT_FALSE(FindCommand(deep + " -x") || FindCommand(std::string("x.zip\0 y", 8)));
   fs::permissions(AppFolder, fs::perms(0));
   {

@@ -1,6 +1,7 @@
 // The list of games, its filter, and the panel of the selected game.
 #include <QApplication>
 #include <QImage>
+#include <QImageWriter>
 #include <QTest>
 
 #include "core/module1.h"
@@ -35,11 +36,11 @@ class MainGames : public support::UiTest {
 };
 
 TEST_F(MainGames, AreSortedWithoutRegardToCaseAndKeepTheirRow) {
-  addGames("zebra '<b>&x' beta");
+  addGames("zebra '<b>&%s%1[*]' beta");
   write("roms/beta.zip", "");
   start();
-  EXPECT_EQ(titles(), "<B>&X|BETA|ZEBRA|");
-  EXPECT_EQ(caption("lblGameTitle"), "<B>&X");
+  EXPECT_EQ(titles(), "<B>&%S%1[*]|BETA|ZEBRA|");
+  EXPECT_EQ(caption("lblGameTitle"), "<B>&%S%1[*]");
   clickRow(1);
   EXPECT_TRUE(widget("cmdPlay").isEnabled());
   key(Qt::Key_Down);
@@ -95,26 +96,51 @@ TEST_F(MainGames, PicturesComeFromTheFirstFolderUpToAGap) {
     colours += {colourOf("imgGames"), colourOf("imgIcon")};
   }
   EXPECT_EQ(colours, "r?by????");
+  for (const auto* folder : {"two", "icons1"}) std::filesystem::remove_all(path(folder));
+  clickRow(1);
+  EXPECT_EQ(std::string({colourOf("imgGames"), colourOf("imgIcon")}), "??") << "folders that went";
   SnapPaths = {in("Snaps"), "", in("four"), "", ""};
   clickRow(2);
   EXPECT_EQ(colourOf("imgGames"), '?') << "an empty entry ends the list";
 }
 
-TEST_F(MainGames, PictureThatCantBeDecodedLeavesTheOldOne) {
-  addGames("a b c d");
+TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
+  addGames("a b");
   makePicture("Snaps/a.jpg", Qt::red);
   makePicture("Icons/a.ico", Qt::yellow);
-  write("Snaps/b.jpg", "a text file");
-  write("Snaps/c.jpg", read("Snaps/a.jpg").substr(0, 200));
-  makePicture("Snaps/d.jpg", Qt::blue, 30000, 1);
-  write("Icons/b.ico", "");
-  write("Icons/c.ico", read("Icons/a.ico").substr(0, 20));
-  write("Icons/d.ico", std::string(5000, '\xFF'));
+  makePicture("Icons/b.ico", Qt::blue);
+  QImageWriter writer(QString::fromStdString(path("Snaps/b.jpg").string()));
+  writer.setProgressiveScanWrite(true);
+  ASSERT_TRUE(writer.write(QImage(QStringLiteral("Icons/b.ico"))));
   start();
-  for (int row = 0; row < 4; ++row) {
-    clickRow(row);
-    EXPECT_EQ(colourOf("imgGames"), 'r') << row;
-    EXPECT_EQ(colourOf("imgIcon"), 'y') << row;
+  const auto jpeg = read("Snaps/b.jpg");
+  const auto icon = read("Icons/b.ico");
+  const auto ofSize = [&](const char* heightAndWidth) {
+    auto bytes = jpeg;
+    return bytes.replace(bytes.find("\xFF\xC2") + 5, 4, heightAndWidth, 4);
+  };
+  auto manyScans = jpeg.substr(0, jpeg.size() - 2);
+  const auto scan = manyScans.substr(manyScans.rfind("\xFF\xDA"));
+  for (int i = 0; i < 100; ++i) manyScans += scan;
+  auto outside = icon;
+  outside.replace(18, 4, "\xF0\xFF\xFF\xFF");
+  const std::pair<std::string, std::string> rows[] = {
+      {"a text file", ""},
+      {jpeg.substr(0, 200), icon.substr(0, 20)},
+      {jpeg.substr(0, jpeg.size() - 2), icon.substr(0, 200)},
+      {icon, jpeg},
+      {ofSize("\xFF\xDC\xFF\xDC"), outside},
+      {ofSize("\x3F\xFF\x3F\xFF"), std::string(5000, '\xFF')},
+      {manyScans + "\xFF\xD9", std::string("\0\0\1\0\xFF\xFF", 6)},
+      {jpeg, icon}};
+  for (const auto& row : rows) {
+    write("Snaps/b.jpg", row.first);
+    write("Icons/b.ico", row.second);
+    for (const auto* name : {"Snaps/b.jpg", "Icons/b.ico"})  // the last are good but for their size
+      if (&row == std::end(rows) - 1) std::filesystem::resize_file(path(name), 2147483648);
+    clickRow(0);
+    clickRow(1);
+    EXPECT_EQ(std::string({colourOf("imgGames"), colourOf("imgIcon")}), "ry") << &row - rows;
   }
 }
 

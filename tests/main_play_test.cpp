@@ -1,6 +1,9 @@
 // Playing a game: the in-game window, the count, and the report of a failed run.
 #include <QApplication>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
+#include <QWindow>
 
 #include "core/module1.h"
 #include "support/fake_clock.h"
@@ -87,6 +90,30 @@ TEST_F(MainPlay, DoubleClickPlaysAlsoWhatIsNotThereAndCountsAFailedRun) {
             "Kestrivane \"" + AppFolder + "\\roms\\abalonec.zip\" -input-system=rawinput");
   EXPECT_TRUE(text.starts_with("Error: there is no archive ")) << text;
   EXPECT_EQ(caption("lblTP"), "Play Count: 1\r\nPlay Time: 0:00:21");
+}
+
+TEST_F(MainPlay, TextFromOutsideIsNeitherMarkupNorAFormat) {
+  std::string title = "<b>&amp;%s%1[*]\\n\x07\u202e\u05d0 [*][*]";
+  while (title.size() < 200) title += " <b>long</b>";
+  write("roms/a.zip", title);
+  writeProgram(
+      "Kestrivane.exe",
+      "if test $1 = -print-games; then printf -- '-------         -----\\r\\na   %s\\r\\n' "
+      "\"            $(cat roms/a.zip)\"; else (yes | head -7 | tr '\\n' '\\r'; cat "
+      "roms/a.zip) > error.log; fi");
+  start();
+  const auto at = list().visualItemRect(list().item(0)).center();
+  QHelpEvent help(QEvent::ToolTip, at, list().viewport()->mapToGlobal(at));
+  QApplication::sendEvent(list().viewport(), &help);
+  EXPECT_TRUE(QToolTip::text().startsWith("<span>&lt;b&gt;&amp;amp;%s%1[*]\\n"));
+  clock.onSleep = [&] {
+    const auto& gaming = *QApplication::activeModalWidget();
+    EXPECT_EQ(gaming.windowHandle()->title().toStdString(), title);
+    EXPECT_EQ(textOf(gaming, "lblGameTitle"), title);
+  };
+  const WhenModal report(
+      "Form4", [&](QWidget& window) { EXPECT_EQ(textOf(window, "tbxError"), title + "\n"); });
+  key(Qt::Key_Return);
 }
 
 }  // namespace

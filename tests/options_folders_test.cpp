@@ -60,11 +60,31 @@ TEST_F(OptionsFolders, ThreeFoldersCanBeAddedAndRemoved) {
   EXPECT_TRUE(GameCatalog[1].Available) << "the archives were looked for again";
 }
 
+TEST_F(OptionsFolders, TreeOffersWhatCanBeSavedAndOpensOneFolderAtATime) {
+  startWith("[ Global ]\n");
+  for (const auto* folder :
+       {"not text \xFF", "two\r\nlines", "back\\slash", "two*folders", "deep/er", "日本 é"})
+    write(std::string(folder) + "/b.zip", "");
+  std::filesystem::create_symlink(".", path("deep/loop"));
+  options([&](QWidget& window) {
+    page(window, 4);
+    auto& tree = get<QTreeWidget>(window, "Dir1");
+    std::string names;
+    for (int row = 0; row < tree.currentItem()->childCount(); ++row)
+      names += tree.currentItem()->child(row)->text(0).toStdString() + "|";
+    EXPECT_EQ(names, "Config|deep|Icons|ROMs|Snaps|日本 é|");
+    goTo(window, "deep");
+    type(window, "Dir1", Qt::Key_Asterisk);
+    EXPECT_EQ(tree.findItems("er", Qt::MatchExactly | Qt::MatchRecursive).size(), 1);
+  });
+}
+
 TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
   startWith("[ Global ]\n;ROMpaths=/r\n");
   write("shaders/b.fs", "");
   write("shaders/.A.fs", "");
   write("empty/nothing/x", "");
+  write("empty/not text \xFF.fs", "");
   options([](QWidget& window) {
     page(window, 4);
     goTo(window, "empty");

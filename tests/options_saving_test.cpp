@@ -114,20 +114,33 @@ TEST_F(OptionsSaving, CustomSizeIsKeptAsTypedAndAnEmptyBoxReturnsToTheDefault) {
   }
 }
 
-TEST_F(OptionsSaving, ReadOnlyFileKeepsTheOldTextAndTheNewValues) {
+TEST_F(OptionsSaving, FileThatCantBeWrittenKeepsWhatIsThereAndTheNewValuesInMemory) {
   startWith("[ Global ]\nThrottle = 0\n");
   const auto before = read("Config/Kestrivane.ini");
+  const auto saveAs = [this](bool flip) {
+    options([=](QWidget& window) {
+      EXPECT_EQ(get<QCheckBox>(window, "chkFlipStereo").isChecked(), !flip);
+      press(window, "chkFlipStereo");
+      save(window);
+      EXPECT_FALSE(window.isVisible());
+    });
+  };
   std::filesystem::permissions(path("Config/Kestrivane.ini"), std::filesystem::perms(0444));
   {
     const support::Unprivileged user;
-    options([](QWidget& window) {
-      press(window, "chkFlipStereo");
-      save(window);
-    });
+    saveAs(true);
   }
   EXPECT_EQ(read("Config/Kestrivane.ini"), before);
-  options(
-      [](QWidget& window) { EXPECT_TRUE(get<QCheckBox>(window, "chkFlipStereo").isChecked()); });
+  std::filesystem::remove(path("Config/Kestrivane.ini"));
+  write("Config/Kestrivane.ini/mine.txt", "a folder in the way");
+  saveAs(false);
+  EXPECT_EQ(read("Config/Kestrivane.ini/mine.txt"), "a folder in the way");
+  std::filesystem::remove_all(path("Config"));
+  saveAs(true);
+  EXPECT_FALSE(exists("Config"));
+  std::filesystem::create_directory(path("Config"));
+  saveAs(false);
+  EXPECT_EQ(saved(), "[ Global ]|Throttle = 0|") << "a new file";
 }
 
 TEST_F(OptionsSaving, RestoringAGame) {

@@ -1,7 +1,7 @@
 #include "core/game_catalogue.h"
 
+#include <future>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "base/quietly.h"
@@ -10,6 +10,7 @@
 #include "core/module1.h"
 #include "i18n/message_catalogue.h"
 #include "launch/process_capture.h"
+#include "platform/file_search.h"
 #include "platform/files.h"
 
 namespace core {
@@ -56,7 +57,7 @@ void LoadGameCatalog(MainForm& form) {
   base::Quietly([&] {
     for (const auto line : lines) ParseGameListLine(base::Trim(line), form);
     DeleteStrayErrorLog();
-    FindGameArchives();
+    FindGameArchives([&] { form.PrepareToShow(); });
     form.RefreshGameList();
   });
   form.BecomeVisible();
@@ -72,26 +73,22 @@ void ParseGameListLine(std::string_view line, MainForm& form) {
     AddGame(line);
 }
 
-// Folder by folder instead of game by game: each folder is read once, however many games there are.
-void FindGameArchives() {
-  std::vector<GameEntry*> missing;
-  missing.reserve(GameCatalog.size());
+void FindGameArchives(const std::function<void()>& meanwhile) {
+  std::vector<std::string> folders;
+  for (std::size_t slot = 0; slot < kSearchedFolders && !RomPaths[slot].empty(); ++slot)
+    folders.push_back(RomPaths[slot]);
+  std::vector<std::string> archives;
+  archives.reserve(GameCatalog.size() - 1);
   for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row)
-    missing.push_back(&GameCatalog[row]);
-  for (std::size_t folder = 0; folder < kSearchedFolders && !RomPaths[folder].empty(); ++folder) {
-    std::vector<std::string> archives;
-    archives.reserve(missing.size());
-    for (const auto* game : missing) archives.push_back(game->RomName + ".zip");
-    const auto found = platform::WhichAreFiles(RomPaths[folder], archives);
-    std::vector<GameEntry*> stillMissing;
-    for (std::size_t i = 0; i < missing.size(); ++i) {
-      missing[i]->Available = found[i];
-      if (found[i])
-        missing[i]->RomFolder = static_cast<unsigned char>(folder);
-      else
-        stillMissing.push_back(missing[i]);
-    }
-    missing = std::move(stillMissing);
+    archives.push_back(GameCatalog[row].RomName + ".zip");
+  auto search = std::async(meanwhile ? std::launch::async : std::launch::deferred,
+                           [&] { return platform::FirstFolders(folders, archives); });
+  if (meanwhile) meanwhile();
+  const auto found = search.get();
+  for (std::size_t row = 0; row < found.size(); ++row) {
+    auto& game = GameCatalog[row];
+    game.Available = found[row] < folders.size();
+    if (game.Available) game.RomFolder = static_cast<unsigned char>(found[row]);
   }
 }
 

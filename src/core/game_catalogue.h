@@ -1,6 +1,8 @@
 // The emulator's games: its listing, and which of their archives are there.
 #pragma once
 
+#include <functional>
+#include <string>
 #include <string_view>
 
 #include "core/main_form.h"
@@ -15,8 +17,9 @@ void LoadGameCatalog(MainForm& form);
 // One line of the listing, without blanks at its ends.
 void ParseGameListLine(std::string_view line, MainForm& form);
 
-// Sets GameEntry.Available and GameEntry.RomFolder of every game.
-void FindGameArchives();
+// Sets GameEntry.Available and GameEntry.RomFolder of every game. Folders may be large: `meanwhile`
+// is done while the system lists them.
+void FindGameArchives(const std::function<void()>& meanwhile = {});
 
 // The title of the main window: program, emulator, version.
 std::string MainTitle();

@@ -17,6 +17,8 @@ class MainForm {
   virtual void SelectGamesFilter(int index) = 0;
   // Ticks mLang(index) alone; -1 ticks none.
   virtual void TickLanguage(int index) = 0;
+  // Does ahead what takes time when the window is shown.
+  virtual void PrepareToShow() = 0;
   virtual void RefreshGameList() = 0;
   virtual void BecomeVisible() = 0;
   // Shows a critical box and ends the program without the unload step.

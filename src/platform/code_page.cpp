@@ -133,6 +133,14 @@ void ForEachLine(std::string_view text, std::string_view endings, const Function
 
 }  // namespace
 
+bool IsWritableName(std::string_view name) {
+  while (!name.empty()) {
+    const auto code = TakeChar(name);
+    if (!code || *code < 0x20 || *code == '\\' || *code == '*') return false;
+  }
+  return true;
+}
+
 std::string DecodeCodePage(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());

@@ -20,9 +20,6 @@ bool IsFolder(std::string_view path);
 std::vector<std::string> SubfolderNames(std::string_view folder);
 std::vector<std::string> FileNames(std::string_view folder);
 
-// For each of many names, whether the folder holds such a file. The folder is read at most once.
-std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names);
-
 void MakeFolder(std::string_view path);
 void DeleteFile(std::string_view path);
 

@@ -1,16 +1,16 @@
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <bitset>
 #include <cerrno>
-#include <climits>
+#include <chrono>
 #include <memory>
 #include <stdexcept>
 #include <system_error>
-#include <unordered_map>
+#include <thread>
 #include <vector>
 
 #include "base/text.h"
@@ -43,7 +43,9 @@ class OpenFile {
       close(descriptor_);
       throw std::runtime_error("not a regular file");
     }
-    size_ = status.st_size;
+    waitForOthers((mode & O_ACCMODE) == O_RDONLY ? LOCK_SH : LOCK_EX);
+    size_ = lseek(descriptor_, 0, SEEK_END);
+    lseek(descriptor_, 0, SEEK_SET);
   }
   ~OpenFile() { close(descriptor_); }
   OpenFile(const OpenFile&) = delete;
@@ -53,6 +55,17 @@ class OpenFile {
   int descriptor() const { return descriptor_; }
 
  private:
+  // Two front-ends that save at once must not mix their texts. The lock of a stranger who keeps it
+  // is not waited for.
+  void waitForOthers(int lock) const {
+    constexpr int kTries = 100;
+    constexpr std::chrono::milliseconds kPause(5);
+    for (int i = 0; i < kTries && flock(descriptor_, lock | LOCK_NB) != 0; ++i) {
+      if (errno != EWOULDBLOCK && errno != EINTR) return;
+      std::this_thread::sleep_for(kPause);
+    }
+  }
+
   int descriptor_;
   off_t size_ = 0;
 };
@@ -98,39 +111,6 @@ std::vector<std::string> SubfolderNames(std::string_view folder) {
 std::vector<std::string> FileNames(std::string_view folder) {
   return NamesIn(Find(folder).path,
                  [](const struct stat& status) { return S_ISREG(status.st_mode); });
-}
-
-std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names) {
-  std::vector<bool> found(names.size());
-  const auto path = Find(folder).path;
-  std::unordered_multimap<std::string, std::size_t> wanted;  // not there in their exact spelling
-  std::bitset<NAME_MAX + 1> lengths;  // of these; spares looking closer at most files
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    struct stat status {};
-    const auto file = path + "/" + names[i];
-    if (file.find('\0') != std::string::npos) continue;
-    if (stat(file.c_str(), &status) == 0) {
-      found[i] = S_ISREG(status.st_mode);
-    } else if (names[i].find_first_of("\\/") != std::string::npos) {
-      found[i] = IsFile(std::string(folder) + "\\" + names[i]);
-    } else if (names[i].size() < lengths.size()) {
-      wanted.emplace(base::FoldCase(names[i]), i);
-      lengths.set(names[i].size());
-    }
-  }
-  if (wanted.empty()) return found;
-  const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(path.c_str()), closedir);
-  while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
-    const std::string_view name = entry->d_name;
-    if (!lengths[name.size()]) continue;
-    const auto [first, last] = wanted.equal_range(base::FoldCase(name));
-    if (first == last) continue;
-    struct stat status {};
-    const bool isFile =
-        fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
-    for (auto match = first; isFile && match != last; ++match) found[match->second] = true;
-  }
-  return found;
 }
 
 std::string ReadBytes(std::string_view path) {

@@ -116,12 +116,6 @@ std::vector<std::string> FileNames(std::string_view folder) {
   return NamesIn(folder, fs::file_type::regular);
 }
 
-std::vector<bool> WhichAreFiles(std::string_view folder, const std::vector<std::string>& names) {
-  std::vector<bool> found;
-  for (const auto& name : names) found.push_back(IsFile(std::string(folder) + "\\" + name));
-  return found;
-}
-
 void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
 
 void DeleteFile(std::string_view path) { Check(DeleteFileW(ToPath(path).c_str()) != 0); }

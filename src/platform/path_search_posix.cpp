@@ -82,7 +82,7 @@ class FolderNames {
 constexpr std::size_t kRememberedFolders = 16;
 
 const FolderNames& NamesIn(const std::string& folder, const struct stat& status) {
-  static std::unordered_map<std::string, FolderNames> remembered;
+  thread_local std::unordered_map<std::string, FolderNames> remembered;
   const auto at = remembered.find(folder);
   if (at != remembered.end()) {
     if (!at->second.provablySame(status)) at->second = FolderNames(folder, status);

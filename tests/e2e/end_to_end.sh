@@ -10,11 +10,14 @@ main_title="Kestrivane UI®  (Kestrivane 0.3a detected)"
 work=$(mktemp -d)
 settings="$work/settings/Kestrivane UI.conf"
 app="$work/Jögos de ação/日本 & mais"
+config="$app/Config/Kestrivane.ini"
 front_end=
+beside= # a second one
 orphan=
 
 clean_up() {
     [[ -z $front_end ]] || stop_front_end "$front_end"
+    [[ -z $beside ]] || stop_front_end "$beside"
     [[ -z $orphan ]] || kill "$orphan" 2>/dev/null || true
     stop_display
     rm -rf "$work"
@@ -79,6 +82,13 @@ expect_back_in_main_window() { # seconds
     wait_until "$1" title_is "$main_title" || fail "not back in the main window"
 }
 
+save_options() {
+    press alt+t o
+    wait_until 10 title_is "   Options:   Global" || fail "no options"
+    press Return
+    expect_back_in_main_window 10
+}
+
 expect_play_log() { # pattern
     sed -n '/^\[GameTimeLog\]$/,/^\[/p' "$settings" | grep -qx "7undertow=\"$1\"" ||
         fail "unexpected figures: $(cat "$settings")"
@@ -107,13 +117,24 @@ press Escape
 expect_end 0
 [[ ! -e $settings ]] || fail "Escape wrote the settings store"
 
-echo "A play is counted"
+echo "A play is counted, also with a second front-end beside it that saves in the meantime"
 write_archive 22 good
 start_to_main_window "$app"
 play
+beside=$front_end
+start_to_main_window "$app"
+save_options
+alone=$(<"$config")
+press Escape
+expect_end 0
+front_end=$beside beside=
 expect_back_in_main_window 45
 expect_play_log "1,2[2-9]"
 [[ ! -e $app/error.log ]] || fail "error.log was left"
+save_options
+[[ $(<"$config") == "$alone"$'\n;GameTimeLog=7undertow,1,2'[2-9]$'\r' ]] ||
+    fail "the file is not what the last one saved: $(diff <(echo "$alone") "$config")"
+rm "$config"
 
 echo "A play that fails shows the report"
 write_archive 1 error

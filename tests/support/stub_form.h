@@ -16,6 +16,7 @@ class StubForm : public core::MainForm {
         "filter(" + std::to_string(index) + " at " + std::to_string(Module1::GameListPref) + ") ";
   }
   void TickLanguage(int index) override { calls += "tick(" + std::to_string(index) + ") "; }
+  void PrepareToShow() override {}
   void RefreshGameList() override { calls += "refresh "; }
   void BecomeVisible() override { calls += "visible "; }
   void AbortWith(const std::string& message, const std::string& title) override {

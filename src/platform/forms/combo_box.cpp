@@ -1,6 +1,7 @@
 #include "platform/forms/combo_box.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QSignalBlocker>
 #include <stdexcept>
 
@@ -14,7 +15,10 @@ QComboBox* Native(QWidget* widget) { return static_cast<QComboBox*>(widget); }
 }  // namespace
 
 ComboBox::ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font)
-    : Control(new QComboBox(parent.clientArea()), name, box, font) {
+    : Control(new QComboBox(parent.clientArea()), name, box, font),
+      name_(new QLabel(parent.clientArea())) {
+  name_->hide();
+  name_->setBuddy(widget());
   // A list with a scroll bar below the box, not a menu as high as the screen.
   Native(widget())->setStyleSheet(QStringLiteral("combobox-popup: 0"));
   Native(widget())->setMaxVisibleItems(15);
@@ -39,6 +43,13 @@ int ComboBox::selectedRow() const { return Native(widget())->currentIndex(); }
 void ComboBox::select(int row) {
   if (row < 0 || row >= count()) throw std::out_of_range("no such row");
   Native(widget())->setCurrentIndex(row);
+}
+
+// Where the toolkit tells the selected row as the name of a drop-down, assistive technology takes
+// what to call it from the label that belongs to it.
+void ComboBox::setAccessibleName(const std::string& name) {
+  Control::setAccessibleName(name);
+  name_->setAccessibleName(widget()->accessibleName());
 }
 
 bool ComboBox::selectText(const std::string& text) {

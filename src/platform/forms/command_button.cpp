@@ -8,7 +8,7 @@ namespace forms {
 
 CommandButton::CommandButton(Container& parent, const char* name, const Box& box,
                              const std::string& caption, const FontStyle& font)
-    : Control(new QPushButton(parent.clientArea()), name, box, font) {
+    : Control(new Ringed<QPushButton>(parent.clientArea()), name, box, font) {
   auto* button = static_cast<QPushButton*>(widget());
   QObject::connect(button, &QPushButton::clicked, button, [this] { Raise(onClick); });
   setCaption(caption);

@@ -22,6 +22,9 @@ struct Colour {
   int red = 0, green = 0, blue = 0;
 };
 
+// Assistive technology passes over a decoration.
+enum class Role { Picture, Group, Link, Decoration };
+
 // A form or a frame: what controls are built on.
 class Container {
  public:
@@ -60,8 +63,11 @@ class Control {
   // Back to the desktop's own colours.
   void resetColours();
 
-  // What assistive technology calls the control, where it has no caption of its own.
-  void setAccessibleName(const std::string& name);
+  // What assistive technology calls the control, where its own caption does not tell: a caption or
+  // several near by. The colon at its end is dropped.
+  virtual void setAccessibleName(const std::string& name);
+  // What assistive technology takes the control for, where its kind does not tell.
+  void setRole(Role role);
 
  protected:
   // Takes over `widget`, which was built on the container's client area. `name` is what tests and

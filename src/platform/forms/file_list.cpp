@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "base/quietly.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 
 namespace forms {
@@ -16,7 +17,8 @@ void FileList::setPath(const std::string& folder) {
   folder_ = folder;
   clear();
   base::Quietly([&] {
-    for (const auto& name : platform::FileNames(folder)) add(name);
+    for (const auto& name : platform::FileNames(folder))
+      if (platform::IsWritableName(name)) add(name);
   });
 }
 

@@ -1,8 +1,10 @@
 #include "platform/forms/folder_tree.h"
 
+#include <QKeyEvent>
 #include <QTreeWidget>
 
 #include "base/quietly.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
 
@@ -11,6 +13,21 @@ namespace {
 
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kReadRole = Qt::UserRole + 1;
+
+class NativeTree : public RingedView<QTreeWidget> {
+ public:
+  using RingedView::RingedView;
+
+ protected:
+  // The toolkit would open all folders below the current one, without end where links make a
+  // circle.
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Asterisk)
+      expand(currentIndex());
+    else
+      QTreeWidget::keyPressEvent(event);
+  }
+};
 
 QTreeWidget* Native(QWidget* widget) { return static_cast<QTreeWidget*>(widget); }
 
@@ -35,7 +52,8 @@ void ReadFolder(QTreeWidgetItem& item) {
   QList<QTreeWidgetItem*> children;
   base::Quietly([&] {
     for (const auto& name : platform::SubfolderNames(PathOf(item)))
-      children.append(NewItem(Joined(PathOf(item), name), name));
+      if (platform::IsWritableName(name))
+        children.append(NewItem(Joined(PathOf(item), name), name));
   });
   if (children.isEmpty()) item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicator);
   item.addChildren(children);
@@ -52,7 +70,7 @@ QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder)
 }  // namespace
 
 FolderTree::FolderTree(Container& parent, const char* name, const Box& box)
-    : Control(new QTreeWidget(parent.clientArea()), name, box, {}) {
+    : Control(new NativeTree(parent.clientArea()), name, box, {}) {
   auto* tree = Native(widget());
   tree->setHeaderHidden(true);
   tree->setUniformRowHeights(true);

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QFontDatabase>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -101,6 +102,15 @@ class FormWindow : public QMainWindow {
   QEventLoop* loop_ = nullptr;
 };
 
+// The second family is cut to the widths of the first. Naming one that is not there would cost each
+// size and weight a search for one like it. The first question has the system's fonts listed.
+QFont FormFont() {
+  static const auto family = QFontDatabase::hasFamily(QStringLiteral("Verdana"))
+                                 ? QStringLiteral("Verdana")
+                                 : QStringLiteral("DejaVu Sans");
+  return QFont(family);
+}
+
 QPoint Centre(const QRect& outer) {
   return {outer.x() + outer.width() / 2, outer.y() + outer.height() / 2};
 }
@@ -135,7 +145,6 @@ Form::Form(const char* name, Border border, int clientWidth, int clientHeight)
   native_->client->setFixedSize(ToPixels(clientWidth), ToPixels(clientHeight));
   window.setCentralWidget(native_->client);
   window.layout()->setSizeConstraint(QLayout::SetFixedSize);
-  setIcon(Picture::FromAsset("icon.ico"));
 }
 
 Form::~Form() = default;
@@ -148,8 +157,6 @@ void Form::setTitle(const std::string& title) {
   native_->window.setWindowTitle(
       ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
-
-void Form::setIcon(const Picture& icon) { native_->window.setWindowIcon(IconOf(icon)); }
 
 void Form::setColours(Colour background, Colour text) {
   auto palette = native_->client->palette();
@@ -181,10 +188,21 @@ void Form::centreOnScreen() {
   native_->centreOn(Centre(native_->window.screen()->availableGeometry()), nullptr);
 }
 
+void Form::prepareToShow() {
+  constexpr int kIconTwips = 480;
+  native_->window.setWindowIcon(IconOf(Picture::ProgramIcon(kIconTwips)));
+  native_->client->setFont(FormFont());
+  for (auto* control : native_->window.findChildren<QWidget*>()) {
+    control->ensurePolished();
+    control->fontMetrics().horizontalAdvance('x');
+  }
+}
+
 void Form::show() { native_->window.show(); }
 
 void Form::showModal(Form& owner) {
   auto& window = native_->window;
+  prepareToShow();
   Raise(onLoad);
   const auto place = window.pos();
   window.setParent(&owner.native_->window, window.windowFlags());

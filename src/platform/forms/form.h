@@ -24,7 +24,6 @@ class Form : public Container {
 
   std::string title() const;
   void setTitle(const std::string& title);
-  void setIcon(const Picture& icon);
   void setColours(Colour background, Colour text);
   // Enter presses it, unless the control in focus takes Enter itself.
   void setDefaultButton(CommandButton& button);
@@ -37,6 +36,8 @@ class Form : public Container {
   void centreOver(const Form& owner);
   void centreOnScreen();
 
+  // Loads fonts, styles and the icon. For a form that is not modal, before it is shown.
+  void prepareToShow();
   void show();
   // Runs the load step, shows the window over its owner, runs the activation step and returns when
   // the window has closed. The owner and all other windows take no input meanwhile.

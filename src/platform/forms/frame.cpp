@@ -25,6 +25,8 @@ class NativeFrame : public QWidget {
 }  // namespace
 
 Frame::Frame(Container& parent, const char* name, const Box& box)
-    : Control(new NativeFrame(parent.clientArea()), name, box, {}) {}
+    : Control(new NativeFrame(parent.clientArea()), name, box, {}) {
+  setRole(Role::Group);
+}
 
 }  // namespace forms

@@ -131,6 +131,7 @@ void Label::setBorder(bool border) {
 
 void Label::makeLink() {
   link_ = true;
+  setRole(Role::Link);
   widget()->setForegroundRole(QPalette::Link);
   widget()->setFocusPolicy(Qt::StrongFocus);
   widget()->setCursor(QCursor(QPixmap(QStringLiteral(":/link_pointer.png")), 11, 4));

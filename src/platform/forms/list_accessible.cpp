@@ -37,7 +37,10 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
     return state;
   }
   QString text(QAccessible::Text kind) const override {
-    return isValid() && kind == QAccessible::Name ? item()->text() : QString();
+    if (!isValid()) return {};
+    if (kind == QAccessible::Description)
+      return item()->data(Qt::AccessibleDescriptionRole).toString();
+    return kind == QAccessible::Name ? item()->text() : QString();
   }
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
   QRect rect() const override {

@@ -1,5 +1,6 @@
 #include "platform/forms/list_box.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QScrollBar>
@@ -18,9 +19,9 @@ namespace {
 constexpr int kDeleteCode = 46;
 constexpr int kTextMargin = 6;
 
-class NativeList : public QListWidget {
+class NativeList : public RingedView<QListWidget> {
  public:
-  NativeList(QWidget* parent, const ListBox& list) : QListWidget(parent), list_(list) {
+  NativeList(QWidget* parent, const ListBox& list) : RingedView(parent), list_(list) {
     setUniformItemSizes(true);
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -33,8 +34,8 @@ class NativeList : public QListWidget {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
       auto* help = static_cast<QHelpEvent*>(event);
       const auto* item = itemAt(help->pos());
-      const bool cut = item && visualItemRect(item).width() <
-                                   fontMetrics().horizontalAdvance(item->text()) + kTextMargin;
+      const bool cut =
+          item && viewport()->width() < fontMetrics().horizontalAdvance(item->text()) + kTextMargin;
       QToolTip::showText(help->globalPos(), cut ? PlainToolTip(item->text()) : QString(), this);
       return true;
     }
@@ -44,6 +45,24 @@ class NativeList : public QListWidget {
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* /*event*/) const override {
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+  }
+  // Assistive technology is told of the rows of the list in focus only, and after the list of the
+  // row that it was entered at.
+  void currentChanged(const QModelIndex& now, const QModelIndex& before) override {
+    if (hasFocus())
+      QListWidget::currentChanged(now, before);
+    else
+      QAbstractItemView::currentChanged(now, before);  // NOLINT: not what the list adds to it
+  }
+  void focusInEvent(QFocusEvent* event) override {
+    RingedView::focusInEvent(event);
+    const auto tellRow = [this] {
+      if (!hasFocus() || currentRow() < 0) return;
+      QAccessibleEvent focus(this, QAccessible::Focus);
+      focus.setChild(currentRow());
+      QAccessible::updateAccessibility(&focus);
+    };
+    QMetaObject::invokeMethod(this, tellRow, Qt::QueuedConnection);
   }
   void mousePressEvent(QMouseEvent* event) override {
     const auto* pressed = itemAt(event->pos());
@@ -124,6 +143,11 @@ void ListBox::remove(int row) {
 void ListBox::setText(int row, const std::string& text) {
   const QSignalBlocker quiet(widget());
   ItemAt(widget(), row).setText(ToQString(text));
+}
+
+void ListBox::describe(int row, const std::string& text) {
+  const QSignalBlocker quiet(widget());
+  ItemAt(widget(), row).setData(Qt::AccessibleDescriptionRole, ToQString(text));
 }
 
 int ListBox::count() const { return Native(widget())->count(); }

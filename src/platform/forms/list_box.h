@@ -15,11 +15,13 @@ class ListBox : public Control {
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
           const FontStyle& font = {});
 
-  // None of these four raises an event, and removing the selected row leaves none selected.
+  // None of these five raises an event, and removing the selected row leaves none selected.
   void clear();
   int add(const std::string& text);  // the row at which it was placed
   void remove(int row);
   void setText(int row, const std::string& text);
+  // What assistive technology tells of a row besides its text.
+  void describe(int row, const std::string& text);
 
   int count() const;
   std::string text(int row) const;

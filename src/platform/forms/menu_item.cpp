@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include "platform/forms/native.h"
 
@@ -11,8 +12,13 @@ namespace forms {
 namespace {
 
 QMenuBar& MenuBarOf(const Form& form) {
-  auto* bar = static_cast<QMainWindow*>(form.clientArea()->window())->menuBar();
+  auto* window = static_cast<QMainWindow*>(form.clientArea()->window());
+  if (auto* bar = qobject_cast<QMenuBar*>(window->menuWidget())) return *bar;
+  auto* bar = window->menuBar();
   bar->setNativeMenuBar(false);
+  const auto* open = new QShortcut(Qt::Key_F10, bar);
+  QObject::connect(open, &QShortcut::activated, bar,
+                   [bar] { bar->setActiveAction(bar->actions().constFirst()); });
   return *bar;
 }
 

@@ -1,11 +1,12 @@
 #include "platform/forms/picture.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImageReader>
 #include <QPixmap>
 #include <cstdlib>
-#include <map>
+#include <filesystem>
 #include <stdexcept>
 
 #include "platform/files.h"
@@ -21,13 +22,35 @@ struct Picture::Data {
 
 namespace {
 
+// What a file may cost. A JPEG that is stored in scans is kept whole in memory while it is decoded,
+// and each scan goes over all of it.
+constexpr std::uintmax_t kLargestFile = 64 << 20;
 constexpr int kLargestSide = 16384;
+constexpr qint64 kMostPixels = 40'000'000;
+constexpr qsizetype kMostScans = 64;
 
-// Moves the reader to the frame whose width is nearest to the one asked for.
+QByteArray BytesOf(const std::string& path) {
+  const auto file = platform::SystemPath(path);
+  if (std::filesystem::file_size(std::u8string(file.begin(), file.end())) > kLargestFile)
+    throw std::runtime_error("picture file too large");
+  return QByteArray::fromStdString(platform::ReadBytes(file));
+}
+
+// The decoder would fill up what is missing of a file that was cut off.
+void CheckScans(const QByteArray& jpeg) {
+  const QByteArray start("\xFF\xDA");
+  if (jpeg.count(start) > kMostScans) throw std::runtime_error("too many scans");
+  if (jpeg.indexOf("\xFF\xD9", jpeg.lastIndexOf(start)) < 0) throw std::runtime_error("cut off");
+}
+
+// Moves the reader to the frame whose width is nearest to the one asked for. The count in the file
+// may be made up: no more frames are looked at than a file of this size has room to list.
 void ChooseFrame(QImageReader& reader, int wantedWidth) {
+  constexpr qint64 kListEntry = 16;
+  const auto frames = std::min<qint64>(reader.imageCount(), reader.device()->size() / kListEntry);
   int best = 0;
   int bestDistance = kLargestSide;
-  for (int frame = 0; frame < reader.imageCount() && reader.jumpToImage(frame); ++frame) {
+  for (int frame = 0; frame < frames && reader.jumpToImage(frame); ++frame) {
     const int distance = std::abs(reader.size().width() - wantedWidth);
     if (distance < bestDistance) {
       best = frame;
@@ -35,6 +58,14 @@ void ChooseFrame(QImageReader& reader, int wantedWidth) {
     }
   }
   reader.jumpToImage(best);
+}
+
+// Told the format, the toolkit does not load all its decoders to find the right one.
+QPixmap ReadAsset(const char* name, const char* format) {
+  QImageReader reader(QStringLiteral(":/%1.%2").arg(QLatin1String(name), QLatin1String(format)),
+                      format);
+  reader.setAutoDetectImageFormat(false);
+  return QPixmap::fromImage(reader.read());
 }
 
 }  // namespace
@@ -49,12 +80,16 @@ QIcon IconOf(const Picture& picture) { return picture.data() ? picture.data()->i
 Picture Picture::FromFile(const std::string& path, const char* format, int width, int height) {
   const double scale = qGuiApp->devicePixelRatio();
   const QSize wanted = QSize(ToPixels(width), ToPixels(height)) * scale;
-  QImageReader reader(QString::fromStdString(platform::SystemPath(path)), format);
-  reader.setAutoDetectImageFormat(false);
+  auto bytes = BytesOf(path);
   const bool isIcon = height == 0;
+  if (!isIcon) CheckScans(bytes);
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer, format);
+  reader.setAutoDetectImageFormat(false);
   if (isIcon) ChooseFrame(reader, wanted.width());
   const auto size = reader.size();
-  if (size.width() > kLargestSide || size.height() > kLargestSide)
+  if (size.width() > kLargestSide || size.height() > kLargestSide ||
+      qint64{size.width()} * size.height() > kMostPixels)
     throw std::runtime_error("picture too large");
   if (!isIcon) reader.setScaledSize(wanted);
   auto image = reader.read();
@@ -72,18 +107,30 @@ Picture Picture::FromIcon(const std::string& path, int size) {
   return FromFile(path, "ico", size, 0);
 }
 
-// Decoded once: every window wants the program's icon.
 Picture Picture::FromAsset(const std::string& name) {
-  static std::map<std::string, Picture> decoded;
-  auto& picture = decoded[name];
-  if (picture.data()) return picture;
   const QIcon icon(QStringLiteral(":/") + ToQString(name));
-  const auto sizes = icon.availableSizes();
-  constexpr int kIconPixels = 32;
-  const auto size =
-      name.ends_with(".ico") || sizes.empty() ? QSize(kIconPixels, kIconPixels) : sizes.first();
-  picture = Picture(std::make_shared<const Data>(Data{icon.pixmap(size), icon}));
-  return picture;
+  return Picture(
+      std::make_shared<const Data>(Data{icon.pixmap(icon.availableSizes().first()), icon}));
+}
+
+Picture Picture::DefaultSnapshot() {
+  const bool fine = qGuiApp->devicePixelRatio() > 1;
+  auto pixmap = ReadAsset(fine ? "default@2x" : "default", "jpg");
+  pixmap.setDevicePixelRatio(fine ? 2 : 1);
+  return Picture(std::make_shared<const Data>(Data{std::move(pixmap), {}}));
+}
+
+Picture Picture::ProgramIcon(int size) {
+  static QIcon forWindows;
+  static QIcon everySize;
+  if (forWindows.isNull()) {
+    for (const char* name : {"icon_16", "icon_24", "icon_32", "icon_48", "icon_64"})
+      forWindows.addPixmap(ReadAsset(name, "png"));
+    everySize = forWindows;
+    everySize.addPixmap(ReadAsset("icon_128", "png"));
+  }
+  const QSize pixels(ToPixels(size), ToPixels(size));
+  return Picture(std::make_shared<const Data>(Data{everySize.pixmap(pixels), forWindows}));
 }
 
 }  // namespace forms

@@ -11,7 +11,7 @@ class Picture {
   Picture() = default;
 
   // A JPEG file scaled to the given size in twips while it is decoded. Throws for a file that
-  // can't be decoded as a JPEG or is absurdly large.
+  // can't be decoded as a JPEG, was cut off, or would cost too much memory or time.
   static Picture FromJpeg(const std::string& path, int width, int height);
 
   // The frame of an icon file that comes nearest to a square of `size` twips. Throws likewise.
@@ -19,6 +19,12 @@ class Picture {
 
   // A picture of the program's own, by its file name.
   static Picture FromAsset(const std::string& name);
+
+  // What stands for a snapshot that a game doesn't have.
+  static Picture DefaultSnapshot();
+
+  // The program's icon as a square of `size` twips, with all its sizes for windows.
+  static Picture ProgramIcon(int size);
 
   struct Data;
   const Data* data() const { return data_.get(); }

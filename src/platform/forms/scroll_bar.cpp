@@ -1,9 +1,7 @@
 #include "platform/forms/scroll_bar.h"
 
-#include <QPainter>
 #include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
+#include <QWheelEvent>
 #include <stdexcept>
 
 #include "platform/forms/native.h"
@@ -11,31 +9,15 @@
 namespace forms {
 namespace {
 
-class NativeScrollBar : public QScrollBar {
+class NativeScrollBar : public Ringed<QScrollBar> {
  public:
-  explicit NativeScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+  explicit NativeScrollBar(QWidget* parent) : Ringed(Qt::Horizontal, parent) {
     setTracking(false);
     setInvertedControls(false);  // Right and Up for more, as a person expects of a value
     setFocusPolicy(Qt::StrongFocus);
   }
 
  protected:
-  // Styles show no focus on a scroll bar, which is a control of its own here.
-  void paintEvent(QPaintEvent* event) override {
-    QScrollBar::paintEvent(event);
-    if (!hasFocus()) return;
-    QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
-  }
-  void focusInEvent(QFocusEvent* event) override {
-    QScrollBar::focusInEvent(event);
-    update();
-  }
-  void focusOutEvent(QFocusEvent* event) override {
-    QScrollBar::focusOutEvent(event);
-    update();
-  }
   // The wheel belongs to the page unless the bar was chosen.
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus()) QScrollBar::wheelEvent(event);

@@ -47,7 +47,10 @@ frmFF::frmFF() : Form("frmFF", forms::Border::FixedTool, 7965, 4950) {
     optADV[page].setAccessibleName(kToolTips[page]);
     optADV[page].onClick = [this, page] { optADV_Click(page); };
   }
-  for (auto& page : frame) page.setVisible(false);
+  for (int index = 0; index < kFrames; ++index) {
+    frame[index].setVisible(false);
+    frame[index].setAccessibleName(kToolTips[index == 0 ? 0 : index - 1]);
+  }
   for (auto& description : lblDesc) {
     description.setCaption(kDescriptionText);
     description.setWordWrap(true);

@@ -23,7 +23,6 @@ constexpr int kOthers = 3;
 
 void Form2::WireInputs() {
   for (const auto* item : {"DirectInput", "XInput", "Raw Input"}) cmbInputType.add(item);
-  cmbInputType.setAccessibleName("Input system");
   cmbInputType.onClick = [this] { cmbInputType_Click(); };
   lblAdvOpts.makeLink();
   lblLoadDefaults.makeLink();
@@ -63,8 +62,10 @@ void Form2::FillInputLists() {
 void Form2::AddInputRow(const std::string& name, int slot,
                         const std::array<std::string, 3>& cells) {
   lstInput[0].setItemData(lstInput[0].add(name), slot);
-  for (int column = 1; column < kColumns; ++column)
-    lstInput[column].add(cells[static_cast<std::size_t>(column) - 1]);
+  for (int column = 1; column < kColumns; ++column) {
+    const int row = lstInput[column].add(cells[static_cast<std::size_t>(column) - 1]);
+    lstInput[column].describe(row, name);
+  }
 }
 
 void Form2::cmbInputType_Click() {

@@ -17,20 +17,16 @@ constexpr forms::Colour kGrey{128, 128, 128};
 
 }  // namespace
 
-Form1::Form1()
-    : Form("Form1", forms::Border::FixedSingle, 10950, 6870),
-      icon_(forms::Picture::FromAsset("icon.ico")) {
-  centreOnScreen();
+Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   setDefaultButton(cmdPlay);
   Label1.setBackColour(kGrey);
   lblInfo.setTextColour(kWhite);
   imgGames.setBorder(true);
   imgDefault.setVisible(false);
-  imgDefault.setPicture(forms::Picture::FromAsset("default.jpg"));
   optGames[0].select();
-  lstGames.setAccessibleName("Games");
-  imgGames.setAccessibleName("Snapshot");
-  imgIcon.setAccessibleName("Icon");
+  Label1.setRole(forms::Role::Decoration);
+  imgGames.setRole(forms::Role::Picture);
+  imgIcon.setRole(forms::Role::Picture);
   mLang[0].setChecked(true);
   mWindows.setChecked(true);
   mUIcolor.setVisible(false);
@@ -70,6 +66,18 @@ void Form1::Form_Unload() {
 
 void Form1::Form_KeyPress(int keyCode) {
   if (keyCode == forms::kEscape) mExit_Click();
+}
+
+void Form1::PrepareToShow() {
+  icon_ = forms::Picture::ProgramIcon(imgIcon.box().width);
+  imgDefault.setPicture(forms::Picture::DefaultSnapshot());
+  prepareToShow();
+}
+
+void Form1::BecomeVisible() {
+  if (!icon_.data()) PrepareToShow();  // the step before has failed
+  centreOnScreen();
+  show();
 }
 
 void Form1::mExit_Click() { forms::EndProgram()(0); }

@@ -53,7 +53,8 @@ class Form1 : public forms::Form, public core::MainForm {
   void SetTitle(const std::string& title) override { setTitle(title); }
   void SelectGamesFilter(int index) override;
   void TickLanguage(int index) override;
-  void BecomeVisible() override { show(); }
+  void PrepareToShow() override;
+  void BecomeVisible() override;
   void AbortWith(const std::string& message, const std::string& title) override;
 
   bool Aborting = false;

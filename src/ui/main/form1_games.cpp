@@ -59,11 +59,13 @@ void Form1::RefreshGameList() {
   }
   if (count == 0) {
     lblInfo.setCaption({});
+    lstGames.setAccessibleName(lblGameTitle.caption());
     cmdPlay.setEnabled(false);
     cmdConfGame.setEnabled(false);
     return;
   }
   lblInfo.setCaption(" " + std::to_string(count) + Msg(count == 1 ? 17 : 0));
+  lstGames.setAccessibleName(lblInfo.caption());
   lstGames.select(0);
   cmdConfGame.setEnabled(true);
 }

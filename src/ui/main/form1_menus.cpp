@@ -39,6 +39,8 @@ void Form1::ApplyLanguage() {
   optGames[0].setCaption(Msg(116));
   optGames[1].setCaption(Msg(117));
   cmdConfGame.setCaption(Msg(118));
+  imgGames.setAccessibleName(Msg(162));
+  imgIcon.setAccessibleName(Msg(163));
   RefreshGameList();
   lstGames.setFocus();
 }

@@ -19,6 +19,11 @@ Form3::Form3() : Form("Form3", forms::Border::None, 4680, 3090) {
   Label1.setTextColour(kBlue);
   Label6.setTextColour(kBlue);
   Label4.setTextColour(kGrey);
+  setTitle(Label2.caption());
+  Label1.setRole(forms::Role::Decoration);
+  Label6.setRole(forms::Role::Decoration);
+  Image1.setRole(forms::Role::Picture);
+  Image1.setAccessibleName(Label2.caption());
   onLoad = [this] { Form_Load(); };
   onKeyPress = [this](int keyCode) {
     if (keyCode == forms::kEscape) close();
@@ -29,7 +34,7 @@ Form3::Form3() : Form("Form3", forms::Border::None, 4680, 3090) {
 void Form3::Form_Load() {
   Label4.setCaption("v" + std::to_string(core::kMajor) + "." + std::to_string(core::kMinor) + " (" +
                     Msg(16) + " " + base::PaddedNumber(core::kRevision, 3) + ")");
-  Image1.setPicture(forms::Picture::FromAsset("icon.ico"));
+  Image1.setPicture(forms::Picture::ProgramIcon(Image1.box().width));
   lblCredits.setCaption(Msg(99));
 }
 

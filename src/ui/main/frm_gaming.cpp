@@ -25,8 +25,11 @@ constexpr auto kGoodEndPause = std::chrono::seconds(3);
 
 frmGaming::frmGaming(Form1& main)
     : Form("frmGaming", forms::Border::None, 5955, 4290), main_(main) {
+  setTitle(main.lblGameTitle.caption());
   setColours(kWhite, kBlack);
   lblGameTitle.setWordWrap(true);
+  imgIcon.setRole(forms::Role::Picture);
+  imgIcon.setAccessibleName(Msg(163));
   lblInfo.setBorder(true);
   Label2.setWordWrap(true);
   Label2.setBackColour(kBlack);
@@ -48,7 +51,6 @@ std::string frmGaming::KeysText() const {
 void frmGaming::Form_Activate() {
   using namespace Module1;
   setCloseRefused(true);
-  setTitle(main_.lblGameTitle.caption());
   lblGameTitle.setCaption(main_.lblGameTitle.caption());
   imgIcon.setPicture(main_.imgIcon.picture());
   Label1.setCaption(Msg(151));

@@ -45,6 +45,7 @@ class Form2 : public forms::Form {
   bool isGlobal() const { return Module1::OptionScope == core::kGlobalScope; }
   const core::GameEntry& game() const { return Module1::GameCatalog.at(Module1::OptionScope); }
   void ApplyOptionsLanguage();
+  void NameControls();
 
   // Audio, video and machine pages.
   void WirePages();

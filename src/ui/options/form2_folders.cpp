@@ -22,9 +22,6 @@ constexpr forms::Colour kRed{255, 0, 0};
 
 void Form2::WireFolders() {
   File1.setVisible(false);
-  File1.setAccessibleName("Files");
-  Dir1.setAccessibleName("Folders");
-  Drive1.setAccessibleName("Drives");
   Drive1.selectFor(AppFolder);
   Dir1.setPath(Drive1.drive(), AppFolder);
   Drive1.onChange = [this] { Drive1_Change(); };
@@ -89,6 +86,7 @@ void Form2::AddFolder(int index) {
 
 void Form2::StartFileChoice(int index) {
   File1.setPath(Dir1.path());
+  File1.setAccessibleName(Label1[index].caption());
   if (File1.count() == 0) {
     forms::MsgBox(Msg(8), forms::Buttons::Ok, forms::BoxIcon::Exclamation, "Oops!");
     return;

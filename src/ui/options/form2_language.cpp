@@ -10,7 +10,6 @@ void Form2::ApplyOptionsLanguage() {
   if (hslBalance.value() == 0) set(lblBalance, 12);
   for (unsigned char page = 0; page < 5; ++page) {
     optOPT[page].setToolTip(Msg(static_cast<unsigned char>(119 + page)));
-    optOPT[page].setAccessibleName(optOPT[page].toolTip());
   }
   set(cmdSave, 124);
   set(btnCancel, 108);
@@ -42,6 +41,35 @@ void Form2::ApplyOptionsLanguage() {
   set(lblGameDef, 171);
   set(lblAdvOpts, 172);
   set(chkVsync, 173);
+  NameControls();
+}
+
+// For assistive technology, from the captions round a control.
+void Form2::NameControls() {
+  for (int page = 0; page < 5; ++page) {
+    optOPT[page].setAccessibleName(optOPT[page].toolTip());
+    frmOPT[page].setAccessibleName(optOPT[page].toolTip());
+  }
+  hslVolume[0].setAccessibleName(chkAudio[0].caption() + " " + Label4.caption());
+  hslVolume[1].setAccessibleName(chkAudio[1].caption() + " " + Label5.caption());
+  hslBalance.setAccessibleName(Label9.caption());
+  cmbRes.setAccessibleName(Label7.caption());
+  tbxCustRes[0].setAccessibleName(chkCustRes.caption() + " X");
+  tbxCustRes[1].setAccessibleName(chkCustRes.caption() + " Y");
+  for (auto& player : optPlayer)
+    player.setAccessibleName(Label11.caption() + " " + player.caption());
+  cmbInputType.setAccessibleName(optOPT[2].toolTip());
+  for (int column = 0; column < kColumns; ++column)
+    lstInput[column].setAccessibleName(Label8[column].caption());
+  hslPPC.setAccessibleName(Label2.caption());
+  Drive1.setAccessibleName(optOPT[4].toolTip());
+  Dir1.setAccessibleName(optOPT[4].toolTip());
+  for (int index = 0; index < kLists; ++index) {
+    const auto caption = Label1[index].caption();
+    lstFolders[index].setAccessibleName(caption);
+    cmdAddPath[index].setAccessibleName(caption + " +");
+    cmdRemovePath[index].setAccessibleName(caption + " -");
+  }
 }
 
 }  // namespace ui

@@ -1,0 +1,128 @@
+// What a screen reader is told of every window, in every language, and the access keys.
+#include <QAccessible>
+#include <QMenu>
+#include <QRegularExpression>
+#include <set>
+
+#include "support/fake_clock.h"
+#include "support/options_test.h"
+
+namespace {
+
+using support::WhenModal;
+
+QString NameOf(const QAccessibleInterface& control) {
+  // A drop-down tells its row as its name; what it is called, its label tells.
+  const auto labels = control.relations(QAccessible::Label);
+  if (control.role() == QAccessible::ComboBox && labels.isEmpty()) return {};
+  return (labels.isEmpty() ? &control : labels.first().first)->text(QAccessible::Name).trimmed();
+}
+
+void ExpectNamed(const QAccessibleInterface& control, std::set<std::pair<int, QString>>& taken) {
+  static const QRegularExpression mark(QStringLiteral("&\\w"));
+  const auto role = control.role();
+  const auto state = control.state();
+  if (state.invisible || role == QAccessible::Whitespace) return;
+  const auto id = control.object() ? control.object()->objectName() : QString();
+  const auto name = NameOf(control);
+  const bool nameless = role == QAccessible::MenuBar || role == QAccessible::StaticText ||
+                        (role == QAccessible::Client && id.isEmpty());
+  const bool wrong = name.isEmpty() || name.contains(mark) || role == QAccessible::Client ||
+                     role == QAccessible::StaticText;
+  const bool twice = state.focusable && !taken.emplace(role, name).second;
+  EXPECT_FALSE((wrong && (state.focusable || !nameless)) || twice)
+      << id.toStdString() << ", role " << role << ", is called \"" << name.toStdString() << '"';
+  const bool whole = role == QAccessible::List || role == QAccessible::Tree ||
+                     role == QAccessible::ComboBox || role == QAccessible::EditableText;
+  for (int i = 0; !whole && i < control.childCount(); ++i) ExpectNamed(*control.child(i), taken);
+}
+
+void ExpectAccessible(QWidget& window) {
+  std::set<std::pair<int, QString>> taken;
+  ExpectNamed(*QAccessible::queryAccessibleInterface(&window), taken);
+  std::set<std::pair<const QObject*, QString>> keys;
+  QStringList clashes;
+  const auto look = [&](const QObject* place, const QString& caption) {
+    const auto key = QKeySequence::mnemonic(caption).toString();
+    if (!key.isEmpty() && !keys.emplace(place, key).second) clashes << key;
+  };
+  for (const auto* button : window.findChildren<QAbstractButton*>()) look(&window, button->text());
+  for (const auto* action : window.findChildren<QAction*>())
+    look(qobject_cast<QMenu*>(action->parent()) ? action->parent() : &window, action->text());
+  // The Spanish menus Archivo and Ayuda take turns.
+  const bool known = Module1::CurrentLanguage == 1 && window.objectName() == "Form1";
+  EXPECT_EQ(clashes.join(' ').toStdString(), known ? "Alt+A" : "");
+}
+
+class Accessibility : public support::OptionsTest {
+ protected:
+  // Name and value of a control, and a star if it is checked.
+  static std::string told(const QWidget& window, const char* name) {
+    const auto& control = *QAccessible::queryAccessibleInterface(&get(window, name));
+    return (NameOf(control) + " " + control.text(QAccessible::Value)).trimmed().toStdString() +
+           (control.state().checked ? "*" : "");
+  }
+};
+
+TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKey) {
+  startWith("");
+  for (int language = 0; language < 3; ++language) {
+    SCOPED_TRACE(language);
+    item("mLang(" + std::to_string(language) + ")").trigger();
+    ExpectAccessible(window());
+    gameOptions(0, ExpectAccessible);
+    options([&](QWidget& dialog) {
+      for (const int index : {0, 1, 3, 4, 2}) {
+        page(dialog, index);
+        ExpectAccessible(dialog);
+      }
+      type(dialog, "lstInput(1)", Qt::Key_Down);
+      {
+        const WhenModal chooser("frmInput2", ExpectAccessible);
+        type(dialog, "lstInput(1)", Qt::Key_F2);
+      }
+      type(dialog, "cmbInputType", Qt::Key_Down, language);
+      const WhenModal advanced("frmFF", [](QWidget& pages) {
+        ExpectAccessible(pages);
+        press(pages, "optADV(1)");
+        ExpectAccessible(pages);
+      });
+      press(dialog, "lblAdvOpts");
+    });
+    const WhenModal about("Form3", ExpectAccessible);
+    item("mAbout").trigger();
+  }
+}
+
+TEST_F(Accessibility, ValuesAndStatesAreTold) {
+  support::FakeClock clock;
+  addEmulator();
+  write("roms/7undertow.zip", "seconds=0\nend=error\n");
+  start();
+  key(Qt::Key_F10);
+  EXPECT_TRUE(dynamic_cast<QMenu*>(QApplication::activePopupWidget()));
+  key(Qt::Key_Escape);
+  item("mLang(2)").trigger();
+  EXPECT_EQ(told(window(), "lstGames"), "41 juegos listados");
+  options([](QWidget& dialog) {
+    key(Qt::Key_Right);
+    EXPECT_EQ(told(dialog, "optOPT(1)"), "Video*");
+    EXPECT_EQ(told(dialog, "cmbRes"), "Resolución 496x384");
+    type(dialog, "hslVolume(1)", Qt::Key_Left);
+    EXPECT_EQ(told(dialog, "hslVolume(1)"), "Música Volumen 99");
+    EXPECT_EQ(told(dialog, "lstInput(3)"), "Botón 3");
+    const auto* list = QAccessible::queryAccessibleInterface(&get(dialog, "lstInput(3)"));
+    EXPECT_EQ(list->child(1)->text(QAccessible::Description), "Coin1") << "the cell is empty";
+  });
+  clock.onSleep = [&] {
+    auto& gaming = *QApplication::activeModalWidget();
+    ExpectAccessible(gaming);
+    EXPECT_EQ(told(gaming, "lblTime"), clock.sleeps.size() == 1 ? "0:00:00" : "1:00:05");
+  };
+  clock.firstSleepTakes = std::chrono::seconds(3605);
+  const WhenModal report("Form4", ExpectAccessible);
+  click("cmdPlay");
+  EXPECT_EQ(told(window(), "lblTP"), "Partidas jugadas: 1\r\nTiempo jugado: 1:00:05");
+}
+
+}  // namespace
