@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Prints every ratio: the benchmarks and the start, on virtual displays of their own.
+# Prints every figure: the benchmarks, the start, and the program in use, on virtual displays of their
+# own.
 # Usage: bench/run.sh BUILD_FOLDER
 set -euo pipefail
 build=$(realpath "$1")
@@ -11,3 +12,5 @@ trap 'stop_display; rm -rf "$work"' EXIT
 start_display "$work"
 "$build/bench/bench" 2>/dev/null | sed -n '/^Measured/,$p'
 bench/startup.sh "$build"
+"$build/bench/hour" 2>/dev/null
+bench/using.sh "$build"

@@ -9,7 +9,7 @@ declare -A packages=(
     [display]="xvfb openbox xdotool procps"
     [test]="fonts-dejavu-core libgtest-dev"
     [fuzz]="clang libclang-rt-14-dev"
-    [bench]="libbenchmark-dev libinih-dev"
+    [bench]="libbenchmark-dev libinih-dev imagemagick x11-xserver-utils"
 )
 
 missing=()

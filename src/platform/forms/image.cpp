@@ -21,13 +21,12 @@ class NativeImage : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const auto& pixmap = PixmapOf(image_.picture());
-    if (stretch_ && !pixmap.isNull()) {
-      painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (stretch_ && !pixmap.isNull())
       painter.drawPixmap(rect(), pixmap);
-    } else {
+    else
       painter.drawPixmap(0, 0, pixmap);
-    }
     if (border_) {
       painter.setPen(palette().color(QPalette::Mid).darker());
       painter.drawRect(rect().adjusted(0, 0, -1, -1));
