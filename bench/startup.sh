@@ -41,27 +41,20 @@ lay_out() {
 
 microseconds() { echo "${EPOCHREALTIME/[.,]/}"; }
 
-# Microseconds from the start of a program to its first flush of painted pixels, and its peak memory
-# in KiB half a second later. The toolkit tells of the flush through the pipe.
+# Microseconds from the start of a program until its first painted pixels go to the screen, and its
+# peak memory in KiB half a second later.
 measure() {
-  : > "$work/painted"
-  perl -MTime::HiRes=time -ne '
-    BEGIN { $| = 1 } if (/Flushing/ && !$seen++) { printf "%d\n", time * 1e6 }
-    ' < "$work/pipe" > "$work/painted" &
-  local reader=$! start
-  exec 3> "$work/pipe"
-  sleep 0.05
+  local start memory
+  : > "$work/log"
   start=$(microseconds)
-  QT_LOGGING_RULES='qt.widgets.painting=true' "$1" > /dev/null 2>&3 3>&- &
+  LD_PRELOAD="$build/bench/libfirst_flush.so" "$1" > /dev/null 2> "$work/log" &
   local pid=$!
-  exec 3>&-
-  wait_until 20 test -s "$work/painted"
+  wait_until 20 grep -q '^painted' "$work/log"
   sleep 0.5
-  local memory
   memory=$(awk '/VmHWM/ {print $2}' "/proc/$pid/status")
   kill "$pid"
-  wait "$pid" "$reader" 2>/dev/null || true
-  echo "$(($(< "$work/painted") - start)) $memory"
+  wait "$pid" 2>/dev/null || true
+  echo "$(($(sed -n 's/^painted //p' "$work/log") - start)) $memory"
 }
 
 listing() {
@@ -74,7 +67,6 @@ listing() {
 median() { sort -n | awk '{v[NR]=$1} END {print v[int((NR+1)/2)]}'; }
 
 mkdir "$work/display"
-mkfifo "$work/pipe"
 start_display "$work/display"
 lay_out
 sleep 3  # the folders come to rest

@@ -20,13 +20,11 @@ class OptionsTest : public UiTest {
  protected:
   OptionsTest() { addGames("a b"); }
 
-  static std::string withLineEnds(std::string_view text) {
-    return base::ReplaceIgnoringCase(text, "\n", "\r\n");
-  }
-
-  // An emulator that lacks nothing, and this file behind the banner line.
-  void startWith(std::string_view body) {
-    write("Config/Kestrivane.ini", withLineEnds(";*** Kestrivane UI\xae\n" + std::string(body)));
+  // An emulator that lacks nothing, and a file of these lines, each ended by "|", behind the banner
+  // and the heading of all games.
+  void startWith(const std::string& lines) {
+    write("Config/Kestrivane.ini",
+          base::ReplaceIgnoringCase(";*** Kestrivane UI\xae|[ Global ]|" + lines, "|", "\r\n"));
     start();
     Module1::EmulatorVersion = "0.3a";
   }
@@ -61,12 +59,12 @@ class OptionsTest : public UiTest {
   static bool fileHas(const std::string& line) {
     return read("Config/Kestrivane.ini").find(line + "\r\n") != std::string::npos;
   }
-  // The saved file: its lines without blank ones, headings and bindings, joined by "|".
+  // The saved file as startWith takes it, without the bindings.
   static std::string saved() {
     std::string text;
     const auto file = platform::DecodeCodePage(read("Config/Kestrivane.ini"));
     for (const auto line : base::Split(file, base::kLineEnd))
-      if (!line.empty() && !line.starts_with(";*") &&
+      if (!line.empty() && !line.starts_with(";*") && line != "[ Global ]" &&
           (!line.starts_with("Input") || line.starts_with("InputKey") ||
            line.starts_with("InputMouse")))
         text += std::string(line) + "|";

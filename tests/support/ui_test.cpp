@@ -28,6 +28,13 @@ std::string UiTest::textOf(const QWidget& window, const std::string& name) {
   return (text.isValid() ? text : child.property("plainText")).toString().toStdString();
 }
 
+std::string UiTest::rows(const QListWidget& list) {
+  std::string text;
+  for (int row = 0; row < list.count(); ++row)
+    text += list.item(row)->text().toStdString() + (list.item(row)->isSelected() ? "*|" : "|");
+  return text;
+}
+
 UiTest::UiTest() {
   forms::EndProgram() = [this](int status) { ends.push_back(status); };
 }
@@ -51,14 +58,14 @@ void UiTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 void UiTest::click(const char* name) const { QTest::mouseClick(&widget(name), Qt::LeftButton); }
 
-void UiTest::clickRow(int row, bool twice) const {
-  const auto at = list().visualItemRect(list().item(row)).center();
-  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, at);
-  if (twice) QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, at);
+void UiTest::clickRow(const QListWidget& list, int row, bool twice) {
+  const auto at = list.visualItemRect(list.item(row)).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+  if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
 }
 
 WhenModal::WhenModal(const char* name, std::function<void(QWidget&)> step)
-    : name_(*name ? name : "qt_msgbox"), step_(std::move(step)) {
+    : name_(name), step_(std::move(step)) {
   startTimer(5);
 }
 
@@ -66,9 +73,7 @@ WhenModal::~WhenModal() { EXPECT_TRUE(done_) << "no window " << name_.toStdStrin
 
 void WhenModal::timerEvent(QTimerEvent* event) {
   auto* modal = QApplication::activeModalWidget();
-  const bool wanted =
-      modal && modal->isActiveWindow() &&
-      (modal->objectName() == name_ || (name_ == "qt_msgbox" && modal->inherits("QMessageBox")));
+  const bool wanted = modal && modal->isActiveWindow() && modal->objectName() == name_;
   if (!wanted && --patience_ > 0) return;
   killTimer(event->timerId());
   done_ = wanted;

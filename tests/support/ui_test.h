@@ -36,10 +36,14 @@ class UiTest : public TempApp {
   }
   static std::string textOf(const QWidget& window, const std::string& name);
 
+  // The rows of a list, a star behind those that are selected, each ended by "|".
+  static std::string rows(const QListWidget& list);
+
   // Key and mouse events as the window system sends them.
   static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void click(const char* name) const;
-  void clickRow(int row, bool twice = false) const;
+  static void clickRow(const QListWidget& list, int row, bool twice = false);
+  void clickRow(int row, bool twice = false) const { clickRow(list(), row, twice); }
 
   std::unique_ptr<ui::Form1> form;
   std::vector<int> ends;  // exit statuses
@@ -51,6 +55,9 @@ class WhenModal : public QObject {
  public:
   WhenModal(const char* name, std::function<void(QWidget&)> step);
   ~WhenModal() override;
+
+  // Does what opens the window. At the end of the statement it must have come.
+  void during(const std::function<void()>& action) && { action(); }
 
  protected:
   void timerEvent(QTimerEvent* event) override;
