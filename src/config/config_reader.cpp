@@ -86,18 +86,17 @@ void TakeSectionHeader(std::string_view body, std::size_t opening) {
   Profiles.back().Name = base::Trim(name.substr(0, base::OffsetOfChar(name, charsBefore - 2)));
 }
 
-// What stands behind the first "="; empty unless it is the only one.
-std::string_view ValueBehind(std::string_view body, std::size_t equals) {
+// What stands behind the "=" of an option line; empty unless there is exactly one.
+std::string_view ConfigValueOf(std::string_view body) {
+  const auto equals = body.find('=');
   if (equals == std::string_view::npos || body.find('=', equals + 1) != std::string_view::npos)
     return {};
   return base::Trim(body.substr(equals + 1));
 }
 
 void TakeOption(std::string_view body) {
-  const auto equals = body.find('=');
-  const auto slot = core::OptionIndex(base::Trim(body.substr(0, equals)));
-  if (slot >= 0)
-    Profiles.back().Slots[static_cast<std::size_t>(slot)].Value = ValueBehind(body, equals);
+  const auto slot = core::OptionIndex(base::Trim(body.substr(0, body.find('='))));
+  if (slot >= 0) Profiles.back().Slots[static_cast<std::size_t>(slot)].Value = ConfigValueOf(body);
 }
 
 // The next place of one character in a text that is walked from front to back. Most lines hold
@@ -172,8 +171,6 @@ bool HasTooManyLines(std::string_view text) {
 }
 
 }  // namespace
-
-std::string_view ConfigValueOf(std::string_view body) { return ValueBehind(body, body.find('=')); }
 
 void ParseConfigText(std::string_view text, MainForm& form) {
   base::Quietly([&] {

@@ -1,7 +1,6 @@
 // Reads Config\Kestrivane.ini into the shared state, once per program start.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "core/main_form.h"
@@ -16,8 +15,5 @@ void LoadConfigFile(core::MainForm& form);
 // The whole file, each line followed by CR LF. A failure ends the parse quietly at its line; what
 // was stored up to then stays.
 void ParseConfigText(std::string_view text, core::MainForm& form);
-
-// The value of an option line without its comment; empty unless it has exactly one "=".
-std::string_view ConfigValueOf(std::string_view body);
 
 }  // namespace config

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/quietly.h"
+#include "core/bindings.h"
 #include "core/emulator_contract.h"
 #include "core/module1.h"
 #include "core/version.h"
@@ -50,7 +51,7 @@ void AddInputs(std::string& text) {
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot) {
     const auto& own = Profiles[1].Slots[slot].Value;
     const auto& value = own.empty() ? Profiles[0].Slots[slot].Value : own;
-    if (value != "\"NONE\"") AddOption(text, slot, value);
+    if (value != core::kNoBinding) AddOption(text, slot, value);
   }
 }
 

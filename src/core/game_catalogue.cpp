@@ -81,8 +81,10 @@ void FindGameArchives(const std::function<void()>& meanwhile) {
   archives.reserve(GameCatalog.size() - 1);
   for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row)
     archives.push_back(GameCatalog[row].RomName + ".zip");
-  auto search = std::async(meanwhile ? std::launch::async : std::launch::deferred,
-                           [&] { return platform::FirstFolders(folders, archives); });
+  // Deferred also where the system has no thread to spare.
+  auto search =
+      std::async(meanwhile ? std::launch::async | std::launch::deferred : std::launch::deferred,
+                 [&] { return platform::FirstFolders(folders, archives); });
   if (meanwhile) meanwhile();
   const auto found = search.get();
   for (std::size_t row = 0; row < found.size(); ++row) {

@@ -1,4 +1,4 @@
-// The program's only source of time and rest; a test puts its own in place.
+// What plays and pauses are measured by; a test puts its own in place.
 #pragma once
 
 #include <chrono>

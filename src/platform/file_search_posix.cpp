@@ -25,20 +25,22 @@ class Wanted {
     lengths_.set(name.size());
   }
 
-  // The places whose names the folder spells in another letter case.
-  std::vector<std::size_t> foundIn(const std::string& folder) const {
+  // The places whose names the folder spells in another letter case. Of several spellings the first
+  // one decides.
+  std::vector<std::size_t> foundIn(const std::string& folder) {
     std::vector<std::size_t> found;
     if (places_.empty()) return found;
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
     while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
       const std::string_view name = entry->d_name;
-      if (!lengths_[name.size()]) continue;  // spares looking closer at most files
+      // Spares looking closer at most files. Some file systems have names longer than NAME_MAX.
+      if (name.size() >= lengths_.size() || !lengths_[name.size()]) continue;
       const auto [first, last] = places_.equal_range(base::FoldCase(name));
+      if (first == last) continue;
       struct stat status {};
-      if (first == last || fstatat(dirfd(stream.get()), entry->d_name, &status, 0) != 0 ||
-          !S_ISREG(status.st_mode))
-        continue;
-      for (auto match = first; match != last; ++match) found.push_back(match->second);
+      if (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode))
+        for (auto match = first; match != last; ++match) found.push_back(match->second);
+      places_.erase(first, last);
     }
     return found;
   }
@@ -48,13 +50,11 @@ class Wanted {
   std::bitset<NAME_MAX + 1> lengths_;
 };
 
-bool IsPlainName(const std::string& name) {
-  using namespace std::string_view_literals;
-  return name.find_first_of("\\/\0"sv) == std::string::npos;
-}
+bool IsPlainName(const std::string& name) { return name.find_first_of("\\/") == std::string::npos; }
 
 // What stands at the path in exactly this spelling.
 std::optional<bool> IsFileSpelled(const std::string& path) {
+  if (path.find('\0') != std::string::npos) return false;
   struct stat status {};
   if (stat(path.c_str(), &status) != 0) return {};
   return S_ISREG(status.st_mode);

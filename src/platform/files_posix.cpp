@@ -10,10 +10,10 @@
 #include <memory>
 #include <stdexcept>
 #include <system_error>
-#include <thread>
 #include <vector>
 
 #include "base/text.h"
+#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/path_search.h"
 
@@ -62,7 +62,7 @@ class OpenFile {
     constexpr std::chrono::milliseconds kPause(5);
     for (int i = 0; i < kTries && flock(descriptor_, lock | LOCK_NB) != 0; ++i) {
       if (errno != EWOULDBLOCK && errno != EINTR) return;
-      std::this_thread::sleep_for(kPause);
+      TheClock().sleep(kPause);
     }
   }
 
@@ -129,7 +129,8 @@ std::string ReadBytes(std::string_view path) {
 
 void WriteBytes(std::string_view path, std::string_view bytes) {
   const auto found = Find(path);
-  const OpenFile file(found.path, O_WRONLY | O_CREAT);
+  // Where the file system can't reserve room, the library does so by reading and writing.
+  const OpenFile file(found.path, O_RDWR | O_CREAT);
   const auto size = static_cast<off_t>(bytes.size());
   // Room first, and only then the bytes: a full disk must not cost the old content.
   if (size > file.size()) {

@@ -14,10 +14,6 @@ CommandButton::CommandButton(Container& parent, const char* name, const Box& box
   setCaption(caption);
 }
 
-std::string CommandButton::caption() const {
-  return static_cast<QPushButton*>(widget())->text().toStdString();
-}
-
 void CommandButton::setCaption(const std::string& caption) {
   static_cast<QPushButton*>(widget())->setText(ToQString(caption));
 }

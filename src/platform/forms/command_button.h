@@ -10,7 +10,6 @@ class CommandButton : public Control {
   CommandButton(Container& parent, const char* name, const Box& box, const std::string& caption,
                 const FontStyle& font = {});
 
-  std::string caption() const;
   void setCaption(const std::string& caption);
 
   std::function<void()> onClick;

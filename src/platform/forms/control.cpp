@@ -141,8 +141,6 @@ void Control::move(const Box& box) {
 
 void Control::setLeft(int left) { move({left, box_.top, box_.width, box_.height}); }
 
-bool Control::visible() const { return !widget_->isHidden(); }
-
 void Control::setVisible(bool visible) { widget_->setVisible(visible); }
 
 bool Control::enabled() const { return widget_->isEnabledTo(widget_->parentWidget()); }

@@ -42,11 +42,9 @@ class Control {
   Control& operator=(const Control&) = delete;
 
   Box box() const { return box_; }
-  void move(const Box& box);
   void setLeft(int left);
 
   // The control's own state, whatever that of the form or frame that holds it.
-  bool visible() const;
   void setVisible(bool visible);
   bool enabled() const;
   void setEnabled(bool enabled);
@@ -78,6 +76,8 @@ class Control {
 
  private:
   friend class Form;
+  void move(const Box& box);
+
   QWidget* widget_;
   Box box_;
 };

@@ -16,9 +16,10 @@ FileList::FileList(Container& parent, const char* name, const Box& box)
 void FileList::setPath(const std::string& folder) {
   folder_ = folder;
   clear();
+  if (!platform::IsWritableValue(folder)) return;
   base::Quietly([&] {
     for (const auto& name : platform::FileNames(folder))
-      if (platform::IsWritableName(name)) add(name);
+      if (platform::IsWritableName(name) && platform::IsWritableValue(name)) add(name);
   });
 }
 

@@ -4,7 +4,8 @@
 
 namespace forms {
 
-// The files of one folder, sorted ignoring case. Enter in it acts as a double click.
+// The files of one folder whose paths an option can have as its value, sorted ignoring case. Enter
+// in it acts as a double click.
 class FileList : public ListBox {
  public:
   FileList(Container& parent, const char* name, const Box& box);

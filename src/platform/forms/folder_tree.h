@@ -4,8 +4,8 @@
 
 namespace forms {
 
-// The folders below one root, hidden ones included, read as they are opened. A folder that can't be
-// read shows as empty.
+// The folders below one root, hidden ones included, but for names that the configuration file can't
+// hold. They are read as they are opened; one that can't be read shows as empty.
 class FolderTree : public Control {
  public:
   FolderTree(Container& parent, const char* name, const Box& box);

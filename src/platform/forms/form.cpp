@@ -133,7 +133,6 @@ struct Form::Native {
   FormWindow window;
   bool framed;
   QWidget* client = nullptr;
-  std::string title;
 };
 
 Form::Form(const char* name, Border border, int clientWidth, int clientHeight)
@@ -149,10 +148,7 @@ Form::Form(const char* name, Border border, int clientWidth, int clientHeight)
 
 Form::~Form() = default;
 
-std::string Form::title() const { return native_->title; }
-
 void Form::setTitle(const std::string& title) {
-  native_->title = title;
   // The toolkit takes this mark for one of its own unless it is doubled.
   native_->window.setWindowTitle(
       ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));

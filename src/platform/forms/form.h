@@ -13,8 +13,7 @@ enum class Border { FixedSingle, FixedTool, FixedDialog, None };
 
 inline constexpr int kEscape = 27;
 
-// A window of fixed size. It is created hidden; positions on the screen are in twips and take the
-// window with its frame.
+// A window of fixed size, in twips without its frame. It is created hidden.
 class Form : public Container {
  public:
   Form(const char* name, Border border, int clientWidth, int clientHeight);
@@ -22,7 +21,6 @@ class Form : public Container {
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  std::string title() const;
   void setTitle(const std::string& title);
   void setColours(Colour background, Colour text);
   // Enter presses it, unless the control in focus takes Enter itself.
@@ -56,7 +54,6 @@ class Form : public Container {
   std::function<void(int keyCode)> onKeyPress;
 
  private:
-  friend class MenuItem;
   struct Native;
   std::unique_ptr<Native> native_;
 };

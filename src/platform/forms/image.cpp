@@ -1,6 +1,5 @@
 #include "platform/forms/image.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -31,12 +30,6 @@ class NativeImage : public QWidget {
       painter.setPen(palette().color(QPalette::Mid).darker());
       painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-  }
-  void mouseDoubleClickEvent(QMouseEvent* event) override {
-    if (image_.onDblClick)
-      Raise(image_.onDblClick);
-    else
-      QWidget::mouseDoubleClickEvent(event);
   }
 
  private:

@@ -17,8 +17,6 @@ class Image : public Control {
   // A flat line round the box, inside it.
   void setBorder(bool border);
 
-  std::function<void()> onDblClick;
-
  private:
   Picture picture_;
 };

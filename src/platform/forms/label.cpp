@@ -42,12 +42,6 @@ class NativeLabel : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override {
     if (event->button() == Qt::LeftButton && rect().contains(event->pos())) Raise(label_.onClick);
   }
-  void mouseDoubleClickEvent(QMouseEvent* event) override {
-    if (label_.onDblClick)
-      Raise(label_.onDblClick);
-    else
-      QLabel::mouseDoubleClickEvent(event);
-  }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
         event->key() == Qt::Key_Enter)

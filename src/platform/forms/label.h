@@ -26,7 +26,6 @@ class Label : public Control {
   void makeLink();
 
   std::function<void()> onClick;
-  std::function<void()> onDblClick;
 
  private:
   bool link_ = false;

@@ -54,10 +54,15 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   }
 
   QStringList actionNames() const override { return {pressAction()}; }
+  // Later, since what it opens may stay for long and the caller waits.
   void doAction(const QString& name) override {
     if (name != pressAction() || !isValid() || !list_->isEnabled()) return;
-    list_->setCurrentItem(item());
-    Q_EMIT list_->itemDoubleClicked(item());
+    const auto press = [list = list_.data(), row = row_] {
+      if (!list->item(row)) return;
+      list->setCurrentRow(row);
+      Q_EMIT list->itemDoubleClicked(list->item(row));
+    };
+    QMetaObject::invokeMethod(list_.data(), press, Qt::QueuedConnection);
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override {
     return {QStringLiteral("F2")};

@@ -51,11 +51,7 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
   QObject::connect(action_, &QAction::triggered, action_, [this] { Raise(onClick); });
 }
 
-std::string MenuItem::caption() const { return action_->text().toStdString(); }
-
 void MenuItem::setCaption(const std::string& caption) { action_->setText(ToQString(caption)); }
-
-bool MenuItem::checked() const { return action_->isChecked(); }
 
 void MenuItem::setChecked(bool checked) {
   action_->setCheckable(checked);

@@ -18,9 +18,7 @@ class MenuItem {
   MenuItem(const MenuItem&) = delete;
   MenuItem& operator=(const MenuItem&) = delete;
 
-  std::string caption() const;
   void setCaption(const std::string& caption);
-  bool checked() const;
   void setChecked(bool checked);
   void setVisible(bool visible);
   void setEnabled(bool enabled);

@@ -1,8 +1,8 @@
 // Shared by the sources of this folder; no other code includes it.
 #pragma once
 
-#include <functional>
 #include <string>
+#include <utility>
 
 #include "base/quietly.h"
 

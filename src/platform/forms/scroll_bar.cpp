@@ -38,15 +38,12 @@ ScrollBar::ScrollBar(Container& parent, const char* name, const Box& box, int mi
   QObject::connect(bar, &QScrollBar::valueChanged, bar, [this] { Raise(onChange); });
 }
 
-int ScrollBar::minimum() const { return Native(widget())->minimum(); }
-
-int ScrollBar::maximum() const { return Native(widget())->maximum(); }
-
 int ScrollBar::value() const { return Native(widget())->value(); }
 
 void ScrollBar::setValue(int value) {
-  if (value < minimum() || value > maximum()) throw std::out_of_range("outside the bar");
-  Native(widget())->setValue(value);
+  auto* bar = Native(widget());
+  if (value < bar->minimum() || value > bar->maximum()) throw std::out_of_range("outside the bar");
+  bar->setValue(value);
 }
 
 }  // namespace forms

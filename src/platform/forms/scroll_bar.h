@@ -11,8 +11,6 @@ class ScrollBar : public Control {
   ScrollBar(Container& parent, const char* name, const Box& box, int minimum, int maximum,
             int largeStep, int value);
 
-  int minimum() const;
-  int maximum() const;
   int value() const;
   // Throws std::out_of_range outside the range.
   void setValue(int value);

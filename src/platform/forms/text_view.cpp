@@ -16,10 +16,6 @@ TextView::TextView(Container& parent, const char* name, const Box& box, const Fo
   edit->setProperty("takesEnter", true);
 }
 
-std::string TextView::text() const {
-  return static_cast<QPlainTextEdit*>(widget())->toPlainText().toStdString();
-}
-
 void TextView::setText(const std::string& text) {
   static_cast<QPlainTextEdit*>(widget())->setPlainText(ToQString(text));
 }

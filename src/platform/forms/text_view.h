@@ -9,7 +9,6 @@ class TextView : public Control {
  public:
   TextView(Container& parent, const char* name, const Box& box, const FontStyle& font = {});
 
-  std::string text() const;
   void setText(const std::string& text);
 };
 

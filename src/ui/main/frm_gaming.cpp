@@ -34,6 +34,7 @@ frmGaming::frmGaming(Form1& main)
   Label2.setWordWrap(true);
   Label2.setBackColour(kBlack);
   Label2.setTextColour(kWhite);
+  setCloseRefused(true);
   onActivate = [this] { Form_Activate(); };
 }
 
@@ -50,7 +51,6 @@ std::string frmGaming::KeysText() const {
 
 void frmGaming::Form_Activate() {
   using namespace Module1;
-  setCloseRefused(true);
   lblGameTitle.setCaption(main_.lblGameTitle.caption());
   imgIcon.setPicture(main_.imgIcon.picture());
   Label1.setCaption(Msg(151));
