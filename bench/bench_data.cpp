@@ -25,7 +25,6 @@ std::string GameName(int game) { return "game" + std::to_string(1000 + game); }
 void FillState() {
   using namespace Module1;
   core::FillSharedState();
-  constexpr std::size_t kPerGameSlots = 28;
   for (int game = 0; game < kGames; ++game) {
     auto& entry = GameCatalog[GameCatalog.size() - 2];
     entry.RomName = GameName(game);
@@ -35,7 +34,7 @@ void FillState() {
     if (game == 0) continue;
     auto& profile = Profiles.emplace_back();
     profile.Name = entry.RomName;
-    for (std::size_t slot = 0; slot < kPerGameSlots; ++slot)
+    for (std::size_t slot = 0; slot < core::kPerGameSlots; ++slot)
       profile.Slots[slot].Value = std::to_string(slot + static_cast<std::size_t>(game));
   }
 }

@@ -21,9 +21,6 @@ namespace {
 using fuzz::Require;
 using namespace Module1;
 
-constexpr std::size_t kMaxProfiles = 255;
-constexpr std::size_t kPerGameSlots = 28;
-
 struct State {
   std::vector<core::Profile> profiles = Profiles;
   std::array<std::array<std::string, 5>, 3> paths = {RomPaths, SnapPaths, IconPaths};
@@ -79,7 +76,8 @@ State Expected(State state) {
     }
   }
   for (auto row = state.profiles.begin() + 2; row < state.profiles.end(); ++row)
-    for (auto slot = kPerGameSlots; slot < core::kSlotCount; ++slot) row->Slots[slot].Value.clear();
+    for (auto slot = core::kPerGameSlots; slot < core::kSlotCount; ++slot)
+      row->Slots[slot].Value.clear();
   for (auto& list : state.paths) {
     list[4].clear();
     std::fill(std::find(list.begin() + 1, list.end(), ""), list.end(), "");
@@ -121,7 +119,7 @@ void CompareValuesInForce(const State& before, const State& after) {
     Require(now[slot] == (cleared ? before.profiles[0].Slots[slot].Value : old[slot]),
             "the global value in force stays");
     if (before.profiles.size() > 2)
-      Require(nowOfGame[slot] == (slot < kPerGameSlots ? oldOfGame[slot] : now[slot]),
+      Require(nowOfGame[slot] == (slot < core::kPerGameSlots ? oldOfGame[slot] : now[slot]),
               "the game's value in force stays");
   }
 }
@@ -131,7 +129,7 @@ void CompareValuesInForce(const State& before, const State& after) {
 void fuzz::Examine(std::string_view bytes) {
   static const TempApp app;
   auto state = Read(platform::DecodeLines(bytes));
-  if (state.profiles.size() > kMaxProfiles)
+  if (state.profiles.size() > core::kMaxProfiles)
     return Require(!base::Quietly([] { config::ConfigText(); }), "too many rows are not written");
   auto written = config::ConfigText();
   std::string file;

@@ -17,7 +17,6 @@ namespace {
 using core::OptionSlot;
 using namespace Module1;
 
-constexpr std::size_t kPerGameSlots = 28;
 constexpr std::size_t kUserFolders = 3;
 
 void AddLine(std::string& text, std::string_view line = {}) {
@@ -59,7 +58,7 @@ void AddGame(std::string& text, const core::Profile& game) {
   text += "\r\n\r\n[ ";
   text += game.Name;
   text += " ]\r\n\r\n";
-  for (std::size_t slot = 0; slot < kPerGameSlots; ++slot)
+  for (std::size_t slot = 0; slot < core::kPerGameSlots; ++slot)
     if (const auto& value = game.Slots[slot].Value; !value.empty()) AddOption(text, slot, value);
 }
 

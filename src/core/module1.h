@@ -11,6 +11,7 @@ namespace core {
 inline constexpr std::size_t kSlotCount = 128;
 inline constexpr std::size_t kGeneralSlotCount = 30;
 inline constexpr std::size_t kFirstInputSlot = 30;
+inline constexpr std::size_t kPerGameSlots = 28;  // the first ones can differ for a game
 inline constexpr std::size_t kCrosshairsSlot = 28;
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref

@@ -1,9 +1,12 @@
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <bitset>
 #include <climits>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -16,33 +19,37 @@
 namespace platform {
 namespace {
 
-// The places of names in a list, by the name without regard to letter case.
+// Names that a folder may spell in another letter case.
 class Wanted {
  public:
+  // `place` is below `places`.
   void add(const std::string& name, std::size_t place) {
     if (name.size() >= lengths_.size()) return;
     places_.emplace(base::FoldCase(name), place);
     lengths_.set(name.size());
   }
 
-  // The places whose names the folder spells in another letter case. Of several spellings the first
-  // one decides.
-  std::vector<std::size_t> foundIn(const std::string& folder) {
-    std::vector<std::size_t> found;
-    if (places_.empty()) return found;
+  // Marks the places whose names lead to files in the folder. Of several spellings the first one
+  // decides.
+  std::vector<bool> filesIn(const std::string& folder, std::size_t places) const {
+    std::vector<bool> files(places);
+    std::vector<bool> decided(places);
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
     while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
       const std::string_view name = entry->d_name;
       // Spares looking closer at most files. Some file systems have names longer than NAME_MAX.
       if (name.size() >= lengths_.size() || !lengths_[name.size()]) continue;
       const auto [first, last] = places_.equal_range(base::FoldCase(name));
-      if (first == last) continue;
+      if (first == last || decided[first->second]) continue;
       struct stat status {};
-      if (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode))
-        for (auto match = first; match != last; ++match) found.push_back(match->second);
-      places_.erase(first, last);
+      const bool isFile =
+          fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
+      for (auto match = first; match != last; ++match) {
+        files[match->second] = isFile;
+        decided[match->second] = true;
+      }
     }
-    return found;
+    return files;
   }
 
  private:
@@ -50,15 +57,35 @@ class Wanted {
   std::bitset<NAME_MAX + 1> lengths_;
 };
 
-bool IsPlainName(const std::string& name) { return name.find_first_of("\\/") == std::string::npos; }
-
-// What stands at the path in exactly this spelling.
-std::optional<bool> IsFileSpelled(const std::string& path) {
-  if (path.find('\0') != std::string::npos) return false;
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return {};
-  return S_ISREG(status.st_mode);
+bool IsPlainName(const std::string& name) {
+  using namespace std::string_view_literals;
+  return name.find_first_of("\\/\0"sv) == std::string::npos;
 }
+
+// A folder in which names are looked up without walking the way to it each time.
+class Folder {
+ public:
+  explicit Folder(const std::string& path)
+      : descriptor_(path.find('\0') == std::string::npos
+                        ? open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)
+                        : -1) {}
+  ~Folder() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+
+  // Whether what has exactly this name is a file; nothing if another spelling may be there.
+  std::optional<bool> isFile(const std::string& name) const {
+    if (descriptor_ < 0) return false;
+    struct stat status {};
+    if (fstatat(descriptor_, name.c_str(), &status, 0) != 0) return {};
+    return S_ISREG(status.st_mode);
+  }
+
+ private:
+  int descriptor_;
+};
 
 }  // namespace
 
@@ -67,23 +94,32 @@ std::vector<std::size_t> FirstFolders(const std::vector<std::string>& folders,
   std::vector<std::size_t> first(names.size(), folders.size());
   std::vector<std::string> paths(folders.size());
   std::transform(folders.begin(), folders.end(), paths.begin(), SystemPath);
-  std::vector<Wanted> wanted(folders.size());
+  const std::deque<Folder> opened(paths.begin(), paths.end());
+  Wanted wanted;
+  std::vector<std::vector<std::size_t>> missing(folders.size());  // places
   for (std::size_t place = 0; place < names.size(); ++place) {
+    const auto& name = names[place];
+    const bool isPlain = IsPlainName(name);
+    bool anywhereMissing = false;
     for (std::size_t folder = 0; folder < folders.size(); ++folder) {
-      const auto& name = names[place];
-      const auto spelled = IsPlainName(name) ? IsFileSpelled(paths[folder] + "/" + name)
-                                             : IsFile(folders[folder] + "\\" + name);
+      const auto spelled =
+          isPlain ? opened[folder].isFile(name) : IsFile(folders[folder] + "\\" + name);
       if (spelled == true) {
         first[place] = folder;
         break;
       }
-      if (!spelled) wanted[folder].add(name, place);
+      if (spelled) continue;
+      missing[folder].push_back(place);
+      anywhereMissing = true;
     }
+    if (anywhereMissing) wanted.add(name, place);
   }
-
-  for (std::size_t folder = 0; folder < folders.size(); ++folder)
-    for (const auto place : wanted[folder].foundIn(paths[folder]))
-      first[place] = std::min(first[place], folder);
+  for (std::size_t folder = 0; folder < folders.size(); ++folder) {
+    if (missing[folder].empty()) continue;
+    const auto files = wanted.filesIn(paths[folder], names.size());
+    for (const auto place : missing[folder])
+      if (files[place]) first[place] = std::min(first[place], folder);
+  }
   return first;
 }
 
