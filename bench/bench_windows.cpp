@@ -29,9 +29,12 @@ class MainWindow : public ui::Form1 {
  public:
   MainWindow() {
     bench::FillState();
-    show();
+    steps().BecomeVisible();
   }
-  void refill() { static_cast<core::MainForm&>(*this).RefreshGameList(); }
+  void refill() { steps().RefreshGameList(); }
+
+ private:
+  core::MainForm& steps() { return *this; }
 };
 
 void Refill(benchmark::State& state) {

@@ -20,14 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class MainWindow : public ui::Form1 {
- public:
-  MainWindow() {
-    show();
-    static_cast<core::MainForm&>(*this).RefreshGameList();
-  }
-};
-
 long ResidentKiB() {
   std::ifstream file("/proc/self/statm");
   long pages = 0;
@@ -74,7 +66,10 @@ int main() {
         }
         if (seconds >= kHour) std::this_thread::sleep_for(std::chrono::milliseconds(20));
       }};
-  MainWindow form;
+  ui::Form1 form;
+  core::MainForm& steps = form;
+  steps.BecomeVisible();
+  steps.RefreshGameList();
   Module1::GameCatalog[0].Available = true;
   for (auto* window : QApplication::topLevelWidgets())
     if (auto* play = window->findChild<QPushButton*>("cmdPlay")) {

@@ -3,6 +3,7 @@
 // value as result throw std::exception when the system refuses.
 #pragma once
 
+#include <climits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,8 +31,8 @@ void DeleteFilesEndingIn(std::string_view folder, std::string_view ending);
 // Copies the bytes; an existing target is replaced.
 void CopyFileBytes(std::string_view from, std::string_view to);
 
-// The bytes of a regular file.
-std::string ReadBytes(std::string_view path);
+// The bytes of a regular file. Throws for one of more than `most` bytes.
+std::string ReadBytes(std::string_view path, long long most = LLONG_MAX);
 
 // Writes the whole content in place. The old content stands when the file can't be opened or the
 // disk has no room for the new one.

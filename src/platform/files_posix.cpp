@@ -113,8 +113,9 @@ std::vector<std::string> FileNames(std::string_view folder) {
                  [](const struct stat& status) { return S_ISREG(status.st_mode); });
 }
 
-std::string ReadBytes(std::string_view path) {
+std::string ReadBytes(std::string_view path, long long most) {
   const OpenFile file(Find(path).path, O_RDONLY);
+  if (file.size() > most) throw std::length_error("file too large");
   std::string bytes(static_cast<std::size_t>(file.size()), '\0');
   std::size_t done = 0;
   while (done < bytes.size()) {

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -120,8 +121,10 @@ void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
 
 void DeleteFile(std::string_view path) { Check(DeleteFileW(ToPath(path).c_str()) != 0); }
 
-std::string ReadBytes(std::string_view path) {
+std::string ReadBytes(std::string_view path, long long most) {
   if (!IsFile(path)) throw std::runtime_error("not a regular file");
+  if (fs::file_size(ToPath(path)) > static_cast<std::uintmax_t>(most))
+    throw std::length_error("file too large");
   std::ifstream file;
   file.exceptions(std::ios::badbit | std::ios::failbit);
   file.open(ToPath(path), std::ios::binary);

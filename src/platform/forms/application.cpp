@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <cstdlib>
 
+#include "platform/forms/control_accessible.h"
 #include "platform/forms/list_accessible.h"
 
 // Pulls the pictures out of the library; has to stand outside any namespace.
@@ -20,6 +21,7 @@ struct Application::Native {
 
 Application::Application() : native_(std::make_unique<Native>()) {
   LoadAssets();
+  MakeControlsAccessible();
   MakeListsAccessible();
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationDisplayName({});

@@ -1,15 +1,12 @@
 #include "platform/forms/control.h"
 
-#include <QAccessibleWidget>
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QTextDocument>
 #include <QWidget>
 #include <cmath>
-#include <map>
 
+#include "platform/forms/control_accessible.h"
 #include "platform/forms/native.h"
 
 namespace forms {
@@ -17,77 +14,7 @@ namespace {
 
 constexpr int kTwipsPerPixel = 15;
 
-constexpr const char* kRoleProperty = "accessibleRole";
-
 QColor ToColour(Colour colour) { return {colour.red, colour.green, colour.blue}; }
-
-QAccessible::Role ToAccessibleRole(Role role) {
-  switch (role) {
-    case Role::Picture:
-      return QAccessible::Graphic;
-    case Role::Group:
-      return QAccessible::Grouping;
-    case Role::Link:
-      return QAccessible::Link;
-    case Role::Decoration:
-      break;
-  }
-  return QAccessible::Whitespace;
-}
-
-// A widget in the role that it has when asked: the toolkit makes this as soon as the widget is
-// there, and what assistive technology has seen once must stay.
-class RoleInterface : public QAccessibleWidget {
- public:
-  using QAccessibleWidget::QAccessibleWidget;
-
-  QAccessible::Role role() const override {
-    const auto given = widget()->property(kRoleProperty);
-    return given.isValid() ? static_cast<QAccessible::Role>(given.toInt())
-                           : QAccessibleWidget::role();
-  }
-  QString text(QAccessible::Text kind) const override {
-    auto text = QAccessibleWidget::text(kind);
-    if (kind == QAccessible::Name && text.isEmpty() && role() != QAccessible::Whitespace)
-      text = widget()->property("text").toString();
-    return text;
-  }
-  QAccessible::State state() const override {
-    auto state = QAccessibleWidget::state();
-    const auto checked = widget()->property("checked");
-    state.checkable = checked.isValid();
-    state.checked = checked.toBool();
-    return state;
-  }
-  QStringList actionNames() const override {
-    return (pressable() ? QStringList(pressAction()) : QStringList()) +
-           QAccessibleWidget::actionNames();
-  }
-  // Later, since what it opens may stay for long and the caller waits.
-  void doAction(const QString& name) override {
-    if (name != pressAction()) return QAccessibleWidget::doAction(name);
-    if (!pressable() || !widget()->isEnabled()) return;
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
-      QCoreApplication::postEvent(widget(), new QKeyEvent(type, Qt::Key_Space, Qt::NoModifier));
-  }
-
- private:
-  bool pressable() const {
-    return role() == QAccessible::Link || role() == QAccessible::RadioButton;
-  }
-};
-
-QAccessibleInterface* NewInterface(const QString& className, QObject* object) {
-  static const std::map<QString, QAccessible::Role> kRoles = {
-      {QStringLiteral("QFrame"), QAccessible::Whitespace},
-      {QStringLiteral("QLabel"), QAccessible::StaticText},
-      {QStringLiteral("QToolButton"), QAccessible::RadioButton},
-      {QStringLiteral("QWidget"), QAccessible::Client}};
-  const auto role = kRoles.find(className);
-  const bool own = object && className == QLatin1String(object->metaObject()->className());
-  if (!own || role == kRoles.end()) return nullptr;
-  return new RoleInterface(static_cast<QWidget*>(object), role->second);
-}
 
 }  // namespace
 
@@ -125,7 +52,6 @@ void PaintFocusRing(QWidget& on) {
 
 Control::Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font)
     : widget_(widget) {
-  [[maybe_unused]] static const bool kInstalled = (QAccessible::installFactory(NewInterface), true);
   widget_->setObjectName(QString::fromUtf8(name));
   setFont(font);
   move(box);
@@ -184,8 +110,6 @@ void Control::setAccessibleName(const std::string& name) {
   widget_->setAccessibleName(text);
 }
 
-void Control::setRole(Role role) {
-  widget_->setProperty(kRoleProperty, static_cast<int>(ToAccessibleRole(role)));
-}
+void Control::setRole(Role role) { SetAccessibleRole(*widget_, role); }
 
 }  // namespace forms

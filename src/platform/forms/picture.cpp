@@ -6,7 +6,7 @@
 #include <QImageReader>
 #include <QPixmap>
 #include <cstdlib>
-#include <filesystem>
+#include <map>
 #include <stdexcept>
 
 #include "platform/files.h"
@@ -24,17 +24,10 @@ namespace {
 
 // What a file may cost. A JPEG that is stored in scans is kept whole in memory while it is decoded,
 // and each scan goes over all of it.
-constexpr std::uintmax_t kLargestFile = 64 << 20;
+constexpr long long kLargestFile = 64 << 20;
 constexpr int kLargestSide = 16384;
 constexpr qint64 kMostPixels = 40'000'000;
 constexpr qsizetype kMostScans = 64;
-
-QByteArray BytesOf(const std::string& path) {
-  const auto file = platform::SystemPath(path);
-  if (std::filesystem::file_size(std::u8string(file.begin(), file.end())) > kLargestFile)
-    throw std::runtime_error("picture file too large");
-  return QByteArray::fromStdString(platform::ReadBytes(file));
-}
 
 // The decoder would fill up what is missing of a file that was cut off.
 void CheckScans(const QByteArray& jpeg) {
@@ -80,7 +73,7 @@ QIcon IconOf(const Picture& picture) { return picture.data() ? picture.data()->i
 Picture Picture::FromFile(const std::string& path, const char* format, int width, int height) {
   const double scale = qGuiApp->devicePixelRatio();
   const QSize wanted = QSize(ToPixels(width), ToPixels(height)) * scale;
-  auto bytes = BytesOf(path);
+  auto bytes = QByteArray::fromStdString(platform::ReadBytes(path, kLargestFile));
   const bool isIcon = height == 0;
   if (!isIcon) CheckScans(bytes);
   QBuffer buffer(&bytes);
@@ -107,10 +100,15 @@ Picture Picture::FromIcon(const std::string& path, int size) {
   return FromFile(path, "ico", size, 0);
 }
 
+// Decoded once, since a dialog is made anew each time it is opened.
 Picture Picture::FromAsset(const std::string& name) {
+  static std::map<std::string, Picture> decoded;
+  auto& picture = decoded[name];
+  if (picture.data()) return picture;
   const QIcon icon(QStringLiteral(":/") + ToQString(name));
-  return Picture(
-      std::make_shared<const Data>(Data{icon.pixmap(icon.availableSizes().first()), icon}));
+  picture =
+      Picture(std::make_shared<const Data>(Data{icon.pixmap(icon.availableSizes().first()), icon}));
+  return picture;
 }
 
 Picture Picture::DefaultSnapshot() {
