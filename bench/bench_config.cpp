@@ -25,12 +25,11 @@ const std::string& Text() {
 
 void Parse(benchmark::State& state) {
   const auto& text = Text();
-  bench::NoForm form;
   for (auto _ : state) {
     state.PauseTiming();
     core::FillSharedState();
     state.ResumeTiming();
-    config::ParseConfigText(text, form);
+    config::ParseConfigText(text);
     if (Module1::Profiles.size() != bench::kGames + 1U) state.SkipWithError("not all read");
   }
 }

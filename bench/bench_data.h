@@ -1,24 +1,13 @@
 // The measured situation: 254 games, 253 of them with options of their own.
 #pragma once
 
+#include <future>
+#include <optional>
 #include <string>
-
-#include "core/main_form.h"
 
 namespace bench {
 
 inline constexpr int kGames = 254;
-
-class NoForm : public core::MainForm {
- public:
-  void SetTitle(const std::string&) override {}
-  void SelectGamesFilter(int) override {}
-  void TickLanguage(int) override {}
-  void PrepareToShow() override {}
-  void RefreshGameList() override {}
-  void BecomeVisible() override {}
-  void AbortWith(const std::string&, const std::string&) override {}
-};
 
 // An empty folder that is gone at the program's end.
 std::string NewFolder();
@@ -27,5 +16,8 @@ std::string GameName(int game);
 
 // Shared state: the catalogue, and a row of 28 options for each game but one.
 void FillState();
+
+// What the main window waits for before it shows: nothing more.
+std::future<std::optional<unsigned char>> Loaded();
 
 }  // namespace bench

@@ -29,18 +29,13 @@ class MainWindow : public ui::Form1 {
  public:
   MainWindow() {
     bench::FillState();
-    steps().BecomeVisible();
+    Form_Load(bench::Loaded());
   }
-  void refill() { steps().RefreshGameList(); }
-
- private:
-  core::MainForm& steps() { return *this; }
 };
 
 void Refill(benchmark::State& state) {
   MainWindow form;
-  form.refill();
-  for (auto _ : state) form.refill();
+  for (auto _ : state) form.RefreshGameList();
 }
 BENCHMARK(Refill)->Name("RefreshGameList");
 
@@ -81,7 +76,7 @@ void SelectGame(benchmark::State& state) {
   MainWindow form;
   Module1::GameCatalog.resize(3);
   Module1::SnapPaths[0] = Module1::IconPaths[0] = folder;
-  form.refill();
+  form.RefreshGameList();
   auto* list = qobject_cast<QListWidget*>(Child("lstGames"));
   int row = 0;
   for (auto _ : state) list->setCurrentRow(row = 1 - row);

@@ -67,9 +67,7 @@ int main() {
         if (seconds >= kHour) std::this_thread::sleep_for(std::chrono::milliseconds(20));
       }};
   ui::Form1 form;
-  core::MainForm& steps = form;
-  steps.BecomeVisible();
-  steps.RefreshGameList();
+  form.Form_Load(bench::Loaded());
   Module1::GameCatalog[0].Available = true;
   for (auto* window : QApplication::topLevelWidgets())
     if (auto* play = window->findChild<QPushButton*>("cmdPlay")) {

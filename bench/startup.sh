@@ -5,7 +5,7 @@
 # Usage: bench/startup.sh BUILD_FOLDER [ROUNDS]
 set -euo pipefail
 build=$(realpath "$1")
-rounds=${2:-15}
+rounds=${2:-31}
 . "$(dirname "${BASH_SOURCE[0]}")/../tools/display.sh"
 work=$(mktemp -d)
 trap 'stop_display; rm -rf "$work"' EXIT
@@ -69,7 +69,7 @@ median() { sort -n | awk '{v[NR]=$1} END {print v[int((NR+1)/2)]}'; }
 mkdir "$work/display"
 start_display "$work/display"
 lay_out
-sleep 3  # the folders come to rest
+sync  # the new folders come to rest
 for round in $(seq "$rounds"); do
   measure "$build/bench/bare_window" >> "$work/bare"
   measure "$work/emulator/KestrivaneUI" >> "$work/program"

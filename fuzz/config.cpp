@@ -44,10 +44,9 @@ bool AreSame(const State& a, const State& b) {
 }
 
 State Read(std::string_view text) {
-  fuzz::StubForm form;
   core::FillSharedState();
   const auto defaults = Profiles[0];
-  config::ParseConfigText(text, form);
+  config::ParseConfigText(text);
   Require(GameListPref <= 1, "the filter is set");
   Require(Profiles.size() >= 2, "the first two rows stay");
   for (std::size_t slot = 0; slot < core::kSlotCount; ++slot)

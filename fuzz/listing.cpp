@@ -30,13 +30,12 @@ void CheckGame(const core::GameEntry& game, std::string_view line) {
 }
 
 void ParseAndCheck(std::string_view line) {
-  fuzz::StubForm form;
   const auto rows = GameCatalog.size();
   const bool banner = base::ContainsIgnoringCase(line, core::kBanner);
   const bool separator = !banner && base::ContainsIgnoringCase(line, core::kSeparator);
   const bool game = !line.empty() && !banner && !separator && GameListHeaderSeen;
   const bool seen = GameListHeaderSeen;
-  core::ParseGameListLine(line, form);
+  core::ParseGameListLine(line);
   Require(GameListHeaderSeen == (seen || separator), "only the separator starts the games");
   Require(GameCatalog.size() == rows + (game && rows < kMaxRows ? 1 : 0), "a game is a row");
   if (GameCatalog.size() > rows) CheckGame(GameCatalog[rows - 2], line);

@@ -61,17 +61,6 @@ TempApp::TempApp(std::initializer_list<std::string_view> files) {
 
 TempApp::~TempApp() { std::filesystem::remove_all(folder_); }
 
-void StubForm::SetTitle(const std::string& title) { Require(IsUtf8(title), "the title is UTF-8"); }
-
-void StubForm::SelectGamesFilter(int index) {
-  Require(index == 0 || index == 1, "the filter is one of two");
-  Require(Module1::GameListPref == 9, "the filter's click is held back");
-}
-
-void StubForm::TickLanguage(int index) {
-  Require(index >= -1 && index <= 2, "the language is one of three or none");
-}
-
 }  // namespace fuzz
 
 // No fuzzer may reach the desktop.

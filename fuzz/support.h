@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/main_form.h"
-
 namespace fuzz {
 
 // Each fuzzer defines this: it hands the bytes to the program and checks what must hold then.
@@ -31,18 +29,6 @@ class TempApp {
 
  private:
   std::filesystem::path folder_;
-};
-
-// A main window that minds what it is asked to do.
-class StubForm : public core::MainForm {
- public:
-  void SetTitle(const std::string& title) override;
-  void SelectGamesFilter(int index) override;
-  void TickLanguage(int index) override;
-  void PrepareToShow() override {}
-  void RefreshGameList() override {}
-  void BecomeVisible() override {}
-  void AbortWith(const std::string& /*message*/, const std::string& /*title*/) override {}
 };
 
 }  // namespace fuzz

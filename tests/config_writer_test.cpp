@@ -7,7 +7,6 @@
 #include "core/startup.h"
 #include "platform/code_page.h"
 #include "support/state_text.h"
-#include "support/stub_form.h"
 #include "support/temp_app.h"
 
 namespace config {
@@ -69,14 +68,12 @@ class ConfigWriter : public support::TempApp {
   }
   // The state that the file stands for, with much beside it that the file does not hold.
   void fillState() {
-    ParseConfigText(base::ReplaceIgnoringCase(kFile, "\n", "\r\n") + "\r\n", form);
+    ParseConfigText(base::ReplaceIgnoringCase(kFile, "\n", "\r\n") + "\r\n");
     value(1, "Throttle") = "1";
     for (std::size_t slot = 31; slot < 126; ++slot) Profiles[1].Slots[slot].Value = "\"NONE\"";
     for (const auto* global : {"Crosshairs", "Vsync", "InputStart1"}) value(2, global) = "9";
     RomPaths[4] = IconPaths[3] = PlayLog[3].GameId = "behind the end";
   }
-
-  support::StubForm form;
 };
 
 TEST_F(ConfigWriter, WritesTheFormatByteForByteAndReadsItBack) {
@@ -85,7 +82,7 @@ TEST_F(ConfigWriter, WritesTheFormatByteForByteAndReadsItBack) {
   EXPECT_EQ(read("Config/Kestrivane.ini"),
             platform::EncodeCodePage(base::ReplaceIgnoringCase(kFile, "\n", "\r\n")));
   core::FillSharedState();
-  LoadConfigFile(form);
+  LoadConfigFile();
   EXPECT_EQ(support::StateText(),
             "1:Global 1.XResolution=800 1.FullScreen=1 1.FragmentShader=C:\\é\\f.glsl "
             "1.InputStart1=\"key_1,JOY1_BUTTON9\" 1.InputAutoTrigger=1 1.InputAutoTrigger2=0 "
@@ -119,7 +116,7 @@ TEST_F(ConfigWriter, DefaultsGiveInputLinesOnlyAndComeBack) {
   EXPECT_NE(text.find("****\r\n\r\nInputStart1 = \"KEY_1,JOY1_BUTTON9\"\r\n"), std::string::npos);
   EXPECT_FALSE(base::ContainsIgnoringCase(text, "NONE"));
   WriteConfigFile();
-  LoadConfigFile(form);
+  LoadConfigFile();
   EXPECT_EQ(value(1, "InputCoin1"), "\"KEY_3,JOY1_BUTTON10\"");
   EXPECT_EQ(ConfigText(), text);
 }

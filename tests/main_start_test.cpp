@@ -1,6 +1,7 @@
 // Starts of the whole program, good and bad ones, and its ends.
 #include <QMessageBox>
 
+#include "base/text.h"
 #include "support/ui_test.h"
 
 namespace {
@@ -21,6 +22,23 @@ TEST_F(MainStart, FailureShowsABoxInTheConfiguredLanguageAndNoWindow) {
   EXPECT_FALSE(form->visible());
   window().close();
   EXPECT_EQ(settings(), "") << "the unload step does nothing after a failure";
+}
+
+TEST_F(MainStart, WindowShowsWhatWasLoaded) {
+  addEmulator();
+  const std::pair<std::string, const char*> starts[] = {
+      {";GameListPref=1|;KVLLanguage=1|", "(Kestrivane 0.3a detectado) mLang(2) optGames(1) "},
+      {";GameListPref=0|;KVLLanguage=9|", "(Kestrivane 0.3a optGames(0) "}};
+  for (const auto& [file, shown] : starts) {
+    write("Config/Kestrivane.ini", base::ReplaceIgnoringCase(file, "|", "\r\n"));
+    start();
+    auto text = window().windowTitle().section("  ", 1).toStdString() + " ";
+    for (const auto* name : {"mLang(0)", "mLang(1)", "mLang(2)"})
+      if (item(name).isChecked()) text += name + std::string(" ");
+    for (const auto* name : {"optGames(0)", "optGames(1)"})
+      if (widget(name).property("checked").toBool()) text += name + std::string(" ");
+    EXPECT_EQ(text, shown);
+  }
 }
 
 TEST_F(MainStart, OnlyTheTitleBarEndsWithTheUnloadStep) {

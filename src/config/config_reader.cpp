@@ -18,7 +18,6 @@ namespace config {
 namespace {
 
 using base::ToByte;
-using core::MainForm;
 using namespace Module1;
 
 void TakePathList(std::string_view value, std::array<std::string, 5>& paths) {
@@ -37,35 +36,26 @@ void TakePlayLog(std::string_view value) {
   }
 }
 
-void TakeFilter(std::string_view value, MainForm& form) {
+void TakeFilter(std::string_view value) {
   const auto filter = ToByte(value);
-  if (filter > 1) return;
-  GameListPref = core::kFilterBeingSet;
-  form.SelectGamesFilter(filter);
-  GameListPref = filter;
-}
-
-void TakeLanguage(std::string_view value, MainForm& form) {
-  constexpr std::array<int, 3> kMenuIndex = {0, 2, 1};
-  CurrentLanguage = ToByte(value);
-  form.TickLanguage(CurrentLanguage < kMenuIndex.size() ? kMenuIndex.at(CurrentLanguage) : -1);
+  if (filter <= 1) GameListPref = filter;
 }
 
 struct CommentKey {
   std::string_view key;
-  void (*take)(std::string_view value, MainForm& form, bool& bannerSeen);
+  void (*take)(std::string_view value, bool& bannerSeen);
 };
 
 // The first key that a line contains decides, wherever in the line it stands.
 constexpr std::array<CommentKey, 8> kCommentKeys = {{
-    {";ROMpaths=", [](auto value, auto&, auto&) { TakePathList(value, RomPaths); }},
-    {";SNAPpaths=", [](auto value, auto&, auto&) { TakePathList(value, SnapPaths); }},
-    {";ICONpaths=", [](auto value, auto&, auto&) { TakePathList(value, IconPaths); }},
-    {";GameTimeLog=", [](auto value, auto&, auto&) { TakePlayLog(value); }},
-    {"Kestrivane UI®", [](auto, auto&, bool& bannerSeen) { bannerSeen = true; }},
-    {";InputMethod=", [](auto value, auto&, auto&) { Profiles[1].InputMethod = ToByte(value); }},
-    {";GameListPref=", [](auto value, auto& form, auto&) { TakeFilter(value, form); }},
-    {";KVLLanguage=", [](auto value, auto& form, auto&) { TakeLanguage(value, form); }},
+    {";ROMpaths=", [](auto value, auto&) { TakePathList(value, RomPaths); }},
+    {";SNAPpaths=", [](auto value, auto&) { TakePathList(value, SnapPaths); }},
+    {";ICONpaths=", [](auto value, auto&) { TakePathList(value, IconPaths); }},
+    {";GameTimeLog=", [](auto value, auto&) { TakePlayLog(value); }},
+    {"Kestrivane UI®", [](auto, bool& bannerSeen) { bannerSeen = true; }},
+    {";InputMethod=", [](auto value, auto&) { Profiles[1].InputMethod = ToByte(value); }},
+    {";GameListPref=", [](auto value, auto&) { TakeFilter(value); }},
+    {";KVLLanguage=", [](auto value, auto&) { CurrentLanguage = ToByte(value); }},
 }};
 
 void TakeSectionHeader(std::string_view body, std::size_t opening) {
@@ -119,12 +109,8 @@ class NextMark {
 
 class Parser {
  public:
-  Parser(std::string_view text, MainForm& form)
-      : text_(text),
-        form_(form),
-        comments_(text, ';'),
-        banners_(text, '\xC2'),
-        headers_(text, '[') {}
+  explicit Parser(std::string_view text)
+      : text_(text), comments_(text, ';'), banners_(text, '\xC2'), headers_(text, '[') {}
 
   bool bannerSeen() const { return bannerSeen_; }
 
@@ -144,7 +130,7 @@ class Parser {
     if (comment != std::string_view::npos || banners_.in(begin, end) != std::string_view::npos) {
       for (const auto& [key, take] : kCommentKeys)
         if (base::ContainsIgnoringCase(line, key))
-          return take(line.substr(base::OffsetOfChar(line, key.size())), form_, bannerSeen_);
+          return take(line.substr(base::OffsetOfChar(line, key.size())), bannerSeen_);
     }
     const auto body = line.substr(0, comment);
     if (body.find_first_not_of(' ') == std::string_view::npos) return;
@@ -157,7 +143,6 @@ class Parser {
   }
 
   std::string_view text_;
-  MainForm& form_;
   NextMark comments_, banners_, headers_;
   bool bannerSeen_ = false;
 };
@@ -172,10 +157,10 @@ bool HasTooManyLines(std::string_view text) {
 
 }  // namespace
 
-void ParseConfigText(std::string_view text, MainForm& form) {
+void ParseConfigText(std::string_view text) {
   base::Quietly([&] {
     if (HasTooManyLines(text)) throw std::length_error("too many lines");
-    Parser parser(text, form);
+    Parser parser(text);
     parser.takeLines();
     if (parser.bannerSeen()) return;
     const auto file = AppFolder + std::string(core::kConfigFile);
@@ -183,18 +168,18 @@ void ParseConfigText(std::string_view text, MainForm& form) {
   });
 }
 
-void LoadConfigFile(MainForm& form) {
+std::optional<unsigned char> LoadConfigFile() {
   auto file = AppFolder + std::string(core::kConfigFile);
   if (launch::FileExists(file)) {
     std::string text;
     if (base::Quietly([&] { text = platform::ReadText(file); }))
-      ParseConfigText(text, form);
+      ParseConfigText(text);
     else
       core::ResetInputsToDefaults();
   } else {
     core::ResetInputsToDefaults();
   }
-  core::LoadGameCatalog(form);
+  return core::LoadGameCatalog();
 }
 
 }  // namespace config

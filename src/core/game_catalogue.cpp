@@ -1,6 +1,5 @@
 #include "core/game_catalogue.h"
 
-#include <future>
 #include <string>
 #include <vector>
 
@@ -20,7 +19,7 @@ using i18n::Msg;
 using launch::FileExists;
 using namespace Module1;
 
-void TakeVersion(std::string_view banner, MainForm& form) {
+void TakeVersion(std::string_view banner) {
   auto version = banner.substr(base::OffsetOfChar(banner, kBanner.size()));
   if (!version.empty()) {
     auto last = version.size() - 1;
@@ -28,7 +27,6 @@ void TakeVersion(std::string_view banner, MainForm& form) {
     version = version.substr(0, last);
   }
   EmulatorVersion = version;
-  form.SetTitle(MainTitle());
 }
 
 void AddGame(std::string_view line) {
@@ -48,32 +46,31 @@ void DeleteStrayErrorLog() {
 
 std::string MainTitle() { return "Kestrivane UI®  (Kestrivane " + EmulatorVersion + Msg(4); }
 
-void LoadGameCatalog(MainForm& form) {
+std::optional<unsigned char> LoadGameCatalog() {
   auto emulator = AppFolder + std::string(kEmulatorFile);
-  if (!FileExists(emulator)) return form.AbortWith(Msg(3), Msg(2));
+  if (!FileExists(emulator)) return 3;
   const auto output = launch::ShellExecuteCapture(AppFolder + std::string(kListingCommand), false);
   const auto lines = base::Split(output, base::kLineEnd);
-  if (lines.size() < 2) return form.AbortWith(Msg(18), Msg(2));
+  if (lines.size() < 2) return 18;
   base::Quietly([&] {
-    for (const auto line : lines) ParseGameListLine(base::Trim(line), form);
+    for (const auto line : lines) ParseGameListLine(base::Trim(line));
     DeleteStrayErrorLog();
-    FindGameArchives([&] { form.PrepareToShow(); });
-    form.RefreshGameList();
+    FindGameArchives();
   });
-  form.BecomeVisible();
+  return {};
 }
 
-void ParseGameListLine(std::string_view line, MainForm& form) {
+void ParseGameListLine(std::string_view line) {
   if (line.empty()) return;
   if (base::ContainsIgnoringCase(line, kBanner))
-    TakeVersion(line, form);
+    TakeVersion(line);
   else if (base::ContainsIgnoringCase(line, kSeparator))
     GameListHeaderSeen = true;
   else if (GameListHeaderSeen)
     AddGame(line);
 }
 
-void FindGameArchives(const std::function<void()>& meanwhile) {
+void FindGameArchives() {
   std::vector<std::string> folders;
   for (std::size_t slot = 0; slot < kSearchedFolders && !RomPaths[slot].empty(); ++slot)
     folders.push_back(RomPaths[slot]);
@@ -81,12 +78,7 @@ void FindGameArchives(const std::function<void()>& meanwhile) {
   archives.reserve(GameCatalog.size() - 1);
   for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row)
     archives.push_back(GameCatalog[row].RomName + ".zip");
-  // Deferred also where the system has no thread to spare.
-  auto search =
-      std::async(meanwhile ? std::launch::async | std::launch::deferred : std::launch::deferred,
-                 [&] { return platform::FirstFolders(folders, archives); });
-  if (meanwhile) meanwhile();
-  const auto found = search.get();
+  const auto found = platform::FirstFolders(folders, archives);
   for (std::size_t row = 0; row < found.size(); ++row) {
     auto& game = GameCatalog[row];
     game.Available = found[row] < folders.size();

@@ -1,25 +1,22 @@
 // The emulator's games: its listing, and which of their archives are there.
 #pragma once
 
-#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "core/main_form.h"
-
 namespace core {
 
-// Runs the emulator, fills GameCatalog, finds the archives, and makes the main window visible. A
-// missing or silent emulator ends the program with a message; any other failure ends the step
-// quietly with the window visible.
-void LoadGameCatalog(MainForm& form);
+// Runs the emulator, fills GameCatalog and finds the archives. Gives the number of the message with
+// which the program ends where the emulator is missing or lists nothing; any other failure ends the
+// step quietly.
+std::optional<unsigned char> LoadGameCatalog();
 
 // One line of the listing, without blanks at its ends.
-void ParseGameListLine(std::string_view line, MainForm& form);
+void ParseGameListLine(std::string_view line);
 
-// Sets GameEntry.Available and GameEntry.RomFolder of every game. Folders may be large: `meanwhile`
-// is done while the system lists them.
-void FindGameArchives(const std::function<void()>& meanwhile = {});
+// Sets GameEntry.Available and GameEntry.RomFolder of every game.
+void FindGameArchives();
 
 // The title of the main window: program, emulator, version.
 std::string MainTitle();

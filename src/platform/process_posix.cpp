@@ -20,6 +20,14 @@
 namespace platform {
 namespace {
 
+// As it was at the start: what the toolkit takes out of it while it starts on another thread would
+// be read half changed.
+const std::vector<char*> kFirstEnvironment = [] {
+  char** end = environ;
+  while (*end) ++end;
+  return std::vector<char*>(environ, end + 1);
+}();
+
 void Check(bool success) {
   if (!success) throw std::system_error(errno, std::generic_category());
 }
@@ -52,7 +60,7 @@ Command RunnableCommand(std::string_view commandLine) {
 
 // Starts the command with nothing at its standard input and error. `output` is the descriptor for
 // its standard output, or -1 for none.
-pid_t Spawn(const Command& command, int output, short flags) {
+pid_t Spawn(const Command& command, int output, short flags, char* const* environment) {
   std::vector<char*> words;
   words.push_back(const_cast<char*>(command.program.c_str()));
   for (const auto& argument : command.arguments)
@@ -72,7 +80,7 @@ pid_t Spawn(const Command& command, int output, short flags) {
   posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
   pid_t pid = 0;
   const int error =
-      posix_spawn(&pid, command.program.c_str(), &actions, &attributes, words.data(), environ);
+      posix_spawn(&pid, command.program.c_str(), &actions, &attributes, words.data(), environment);
   posix_spawn_file_actions_destroy(&actions);
   posix_spawnattr_destroy(&attributes);
   if (error != 0) throw std::system_error(error, std::generic_category());
@@ -133,7 +141,7 @@ void DrainInto(std::string& bytes, const Pipe& pipe) {
 std::string CaptureOutput(std::string_view commandLine, bool /*showWindow*/) {
   const auto command = RunnableCommand(commandLine);
   Pipe pipe;
-  const pid_t child = Spawn(command, pipe.writeEnd(), 0);
+  const pid_t child = Spawn(command, pipe.writeEnd(), 0, kFirstEnvironment.data());
   pipe.closeWriteEnd();
   constexpr int kLookAfterMs = 20;
   std::string bytes;
@@ -154,7 +162,7 @@ std::string CaptureOutput(std::string_view commandLine, bool /*showWindow*/) {
 }
 
 StartedProcess::StartedProcess(std::string_view commandLine)
-    : pid_(Spawn(RunnableCommand(commandLine), -1, POSIX_SPAWN_SETSID)) {}
+    : pid_(Spawn(RunnableCommand(commandLine), -1, POSIX_SPAWN_SETSID, environ)) {}
 
 int StartedProcess::ExitStatus() {
   if (status_ != kStillActive) return status_;

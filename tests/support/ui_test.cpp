@@ -4,6 +4,7 @@
 #include <QTest>
 #include <cstdlib>
 
+#include "config/loading.h"
 #include "platform/forms/application.h"
 
 namespace support {
@@ -45,7 +46,7 @@ UiTest::~UiTest() {
 
 void UiTest::start() {
   form = std::make_unique<ui::Form1>();
-  form->Form_Load();
+  form->Form_Load(config::StartLoading());
   ASSERT_EQ(QTest::qWaitForWindowActive(&window(), form->visible() ? 5000 : 0), form->visible());
 }
 

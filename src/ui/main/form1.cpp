@@ -1,8 +1,8 @@
 #include "ui/main/form1.h"
 
-#include "config/config_reader.h"
+#include "base/quietly.h"
 #include "config/user_settings.h"
-#include "core/startup.h"
+#include "i18n/message_catalogue.h"
 #include "launch/process_capture.h"
 #include "platform/forms/application.h"
 #include "platform/forms/message_box.h"
@@ -49,11 +49,22 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   mAbout.onClick = [this] { mAbout_Click(); };
 }
 
-void Form1::Form_Load() {
-  core::FillSharedState();
-  core::EnsureFolders();
-  config::LoadConfigFile(*this);
-  if (!Aborting) ApplyLanguage();
+void Form1::Form_Load(std::future<std::optional<unsigned char>> loading) {
+  base::Quietly([&] {
+    auto snapshot =
+        std::async(std::launch::async | std::launch::deferred, forms::Picture::DefaultSnapshot);
+    icon_ = forms::Picture::ProgramIcon(imgIcon.box().width);
+    prepareToShow();
+    imgDefault.setPicture(snapshot.get());
+  });
+  if (const auto message = loading.get()) return AbortWith(i18n::Msg(*message));
+  base::Quietly([&] {
+    SelectGamesFilter();
+    TickLanguage();
+    ApplyLanguage();
+  });
+  centreOnScreen();
+  show();
 }
 
 void Form1::Form_Unload() {
@@ -68,22 +79,10 @@ void Form1::Form_KeyPress(int keyCode) {
   if (keyCode == forms::kEscape) mExit_Click();
 }
 
-void Form1::PrepareToShow() {
-  icon_ = forms::Picture::ProgramIcon(imgIcon.box().width);
-  imgDefault.setPicture(forms::Picture::DefaultSnapshot());
-  prepareToShow();
-}
-
-void Form1::BecomeVisible() {
-  if (!icon_.data()) PrepareToShow();  // the step before has failed
-  centreOnScreen();
-  show();
-}
-
 void Form1::mExit_Click() { forms::EndProgram()(0); }
 
-void Form1::AbortWith(const std::string& message, const std::string& title) {
-  forms::MsgBox(message, forms::Buttons::Ok, forms::BoxIcon::Critical, title);
+void Form1::AbortWith(const std::string& message) {
+  forms::MsgBox(message, forms::Buttons::Ok, forms::BoxIcon::Critical, i18n::Msg(2));
   Aborting = true;
   forms::EndProgram()(1);
 }

@@ -1,7 +1,9 @@
 // The main window: the games, the selected one's picture and figures, the menus.
 #pragma once
 
-#include "core/main_form.h"
+#include <future>
+#include <optional>
+
 #include "core/module1.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/form.h"
@@ -15,12 +17,15 @@ namespace ui {
 
 class frmGaming;
 
-class Form1 : public forms::Form, public core::MainForm {
+class Form1 : public forms::Form {
  public:
   Form1();
 
-  // Everything that happens at start, up to the visible window or the program's end.
-  void Form_Load();
+  // Shows the window once the shared state is filled, or ends the program with the message that
+  // comes instead.
+  void Form_Load(std::future<std::optional<unsigned char>> loading);
+  // Lists the games of the selected filter and selects the first one.
+  void RefreshGameList();
 
   forms::Label lblGameTitle{
       *this, "lblGameTitle", {720, 120, 10095, 495}, "KESTRIVANE UI®", {18, true}};
@@ -29,9 +34,10 @@ class Form1 : public forms::Form, public core::MainForm {
  private:
   void Form_Unload();
   void Form_KeyPress(int keyCode);
+  void AbortWith(const std::string& message);
 
   // List and panel.
-  void RefreshGameList() override;
+  void SelectGamesFilter();
   void ShowGameSnapshot(int row);
   void ShowGameIcon(int row);
   void ShowPlayStats();
@@ -41,6 +47,7 @@ class Form1 : public forms::Form, public core::MainForm {
   const core::GameEntry& SelectedGame() const;
 
   // Menus and language.
+  void TickLanguage();
   void ApplyLanguage();
   void mLang_Click(int index);
   void ShowOptions();
@@ -49,13 +56,6 @@ class Form1 : public forms::Form, public core::MainForm {
   void mClearNVRAM_Click();
   void mAbout_Click();
   void mExit_Click();
-
-  void SetTitle(const std::string& title) override { setTitle(title); }
-  void SelectGamesFilter(int index) override;
-  void TickLanguage(int index) override;
-  void PrepareToShow() override;
-  void BecomeVisible() override;
-  void AbortWith(const std::string& message, const std::string& title) override;
 
   bool Aborting = false;
   frmGaming* gaming_ = nullptr;  // while it is open

@@ -41,7 +41,12 @@ const core::GameEntry& Form1::SelectedGame() const {
   return GameCatalog.at(static_cast<std::size_t>(lstGames.itemData(lstGames.selectedRow())));
 }
 
-void Form1::SelectGamesFilter(int index) { optGames[index].select(); }
+void Form1::SelectGamesFilter() {
+  const auto filter = GameListPref;
+  GameListPref = core::kFilterBeingSet;
+  optGames[filter].select();
+  GameListPref = filter;
+}
 
 void Form1::RefreshGameList() {
   imgIcon.setPicture(icon_);

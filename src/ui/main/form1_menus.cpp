@@ -1,6 +1,4 @@
 // What the menus do, and the language of the main window.
-#include <array>
-
 #include "base/quietly.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"
@@ -15,15 +13,21 @@ namespace ui {
 using i18n::Msg;
 using namespace Module1;
 
-void Form1::TickLanguage(int index) {
-  for (int item = 0; item < 3; ++item) mLang[item].setChecked(item == index);
+namespace {
+
+// The menu's order is not that of the languages' numbers.
+constexpr unsigned char kLanguageOfItem[] = {0, 2, 1};
+
+}  // namespace
+
+void Form1::TickLanguage() {
+  for (int item = 0; item < 3; ++item)
+    mLang[item].setChecked(kLanguageOfItem[item] == CurrentLanguage);
 }
 
 void Form1::mLang_Click(int index) {
-  // The menu's order is not that of the languages' numbers.
-  constexpr std::array<unsigned char, 3> kLanguageOfItem = {0, 2, 1};
-  TickLanguage(index);
-  CurrentLanguage = kLanguageOfItem.at(static_cast<std::size_t>(index));
+  CurrentLanguage = kLanguageOfItem[index];
+  TickLanguage();
   ApplyLanguage();
 }
 
