@@ -103,12 +103,15 @@ class FormWindow : public QMainWindow {
 };
 
 // The second family is cut to the widths of the first. Naming one that is not there would cost each
-// size and weight a search for one like it. The first question has the system's fonts listed.
+// size and weight a search for one like it. The first question has the system's fonts listed. The
+// size is that of most controls: one of its own would be loaded and never seen.
 QFont FormFont() {
   static const auto family = QFontDatabase::hasFamily(QStringLiteral("Verdana"))
                                  ? QStringLiteral("Verdana")
                                  : QStringLiteral("DejaVu Sans");
-  return QFont(family);
+  auto font = ToFont({});
+  font.setFamily(family);
+  return font;
 }
 
 QPoint Centre(const QRect& outer) {
