@@ -43,9 +43,14 @@ TEST_F(Files, AreFoundInAnySpelling) {
     if (!*file) continue;
     EXPECT_EQ(fs::path(SystemPath(AppFolder + name)).filename(), path(file).filename()) << name;
   }
-  EXPECT_EQ(FirstFolders({AppFolder + "\\ROMS\\loop"},
-                         {"Two.zip", "link.zip", "circle.zip", "folder.zip", "loop"}),
+  EXPECT_EQ(FoldersWith({AppFolder + "\\ROMS\\loop"},
+                        {"Two.zip", "link.zip", "circle.zip", "folder.zip", "loop"}),
             std::vector<std::size_t>({0, 1, 1, 1, 1}));
+  const std::vector<std::string> folders = {AppFolder + "\\none", AppFolder, AppFolder + "\\roms"};
+  write("TWO.ZIP", "");
+  write("Éclair one.zip", "");
+  EXPECT_EQ(FoldersWith(folders, {"two.zip", "TWO.ZIP", "Two.zip", "éclair one.zip"}),
+            std::vector<std::size_t>({2, 1, 1, 1}));
   EXPECT_TRUE(IsFolder(AppFolder + "\\roms") && IsFolder(AppFolder + "\\roms\\"));
   EXPECT_FALSE(IsFolder(AppFolder + "\\roms\\two.zip"));
   EXPECT_TRUE(IsFile("roms\\two.zip")) << "relative to the working folder";
@@ -58,9 +63,8 @@ TEST_F(Files, NoPathIsTooOddToAskFor) {
   while (deep.size() < 100000) deep += "a/";
   for (const auto& name : {deep, AppFolder + "/" + deep, AppFolder + "/x.zip" + '\0' + "y"})
     EXPECT_FALSE(IsFile(name)) << name.size();
-  EXPECT_EQ(
-      FirstFolders({AppFolder}, {"x.zip", std::string("x.zip\0y", 7), "../none.zip", "X.ZIP"}),
-      std::vector<std::size_t>({0, 1, 1, 0}));
+  EXPECT_EQ(FoldersWith({AppFolder}, {"x.zip", std::string("x.zip\0y", 7), "../none.zip", "X.ZIP"}),
+            std::vector<std::size_t>({0, 1, 1, 0}));
   EXPECT_FALSE(FindCommand(deep + " -x") || FindCommand(std::string("x.zip\0 y", 8)));
   fs::permissions(AppFolder, fs::perms(0));
   {

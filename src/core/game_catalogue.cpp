@@ -75,15 +75,25 @@ void FindGameArchives() {
   for (std::size_t slot = 0; slot < kSearchedFolders && !RomPaths[slot].empty(); ++slot)
     folders.push_back(RomPaths[slot]);
   std::vector<std::string> archives;
-  archives.reserve(GameCatalog.size() - 1);
-  for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row)
+  archives.reserve(GameCatalog.size() - 2);
+  for (std::size_t row = 0; row + 2 < GameCatalog.size(); ++row)
     archives.push_back(GameCatalog[row].RomName + ".zip");
-  const auto found = platform::FirstFolders(folders, archives);
+  const auto found = platform::FoldersWith(folders, archives);
   for (std::size_t row = 0; row < found.size(); ++row) {
     auto& game = GameCatalog[row];
     game.Available = found[row] < folders.size();
     if (game.Available) game.RomFolder = static_cast<unsigned char>(found[row]);
   }
+}
+
+// The search may have passed over another spelling in an earlier folder: all that the list needs to
+// know is whether the archive is there, and this question is asked for one game only.
+std::size_t FolderOfArchive(const GameEntry& game) {
+  for (std::size_t slot = 0; game.Available && slot < game.RomFolder; ++slot) {
+    auto archive = RomPaths.at(slot) + "\\" + game.RomName + ".zip";
+    if (FileExists(archive)) return slot;
+  }
+  return game.RomFolder;
 }
 
 }  // namespace core

@@ -1,9 +1,12 @@
 // The emulator's games: its listing, and which of their archives are there.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "core/module1.h"
 
 namespace core {
 
@@ -17,6 +20,10 @@ void ParseGameListLine(std::string_view line);
 
 // Sets GameEntry.Available and GameEntry.RomFolder of every game.
 void FindGameArchives();
+
+// The index in RomPaths of the first folder that has an available game's archive in any spelling;
+// GameEntry.RomFolder of any other game.
+std::size_t FolderOfArchive(const GameEntry& game);
 
 // The title of the main window: program, emulator, version.
 std::string MainTitle();

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/emulator_contract.h"
+#include "core/game_catalogue.h"
 
 namespace launch {
 
@@ -12,8 +13,9 @@ void BuildLaunchRequest(const core::GameEntry& game) {
                                                    ".zip\" -input-system=rawinput"};
   const auto inputMethod = Profiles[1].InputMethod;
   if (inputMethod < kEndings.size())
-    LaunchRequest.CommandLine = std::string(core::kPlayCommand) + RomPaths.at(game.RomFolder) +
-                                "\\" + game.RomName + kEndings.at(inputMethod);
+    LaunchRequest.CommandLine = std::string(core::kPlayCommand) +
+                                RomPaths.at(core::FolderOfArchive(game)) + "\\" + game.RomName +
+                                kEndings.at(inputMethod);
   LaunchRequest.RomName = game.RomName;
 }
 

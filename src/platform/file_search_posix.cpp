@@ -89,8 +89,8 @@ class Folder {
 
 }  // namespace
 
-std::vector<std::size_t> FirstFolders(const std::vector<std::string>& folders,
-                                      const std::vector<std::string>& names) {
+std::vector<std::size_t> FoldersWith(const std::vector<std::string>& folders,
+                                     const std::vector<std::string>& names) {
   std::vector<std::size_t> first(names.size(), folders.size());
   std::vector<std::string> paths(folders.size());
   std::transform(folders.begin(), folders.end(), paths.begin(), SystemPath);
@@ -100,7 +100,7 @@ std::vector<std::size_t> FirstFolders(const std::vector<std::string>& folders,
   for (std::size_t place = 0; place < names.size(); ++place) {
     const auto& name = names[place];
     const bool isPlain = IsPlainName(name);
-    bool anywhereMissing = false;
+    std::vector<std::size_t> mayHaveIt;
     for (std::size_t folder = 0; folder < folders.size(); ++folder) {
       const auto spelled =
           isPlain ? opened[folder].isFile(name) : IsFile(folders[folder] + "\\" + name);
@@ -108,11 +108,11 @@ std::vector<std::size_t> FirstFolders(const std::vector<std::string>& folders,
         first[place] = folder;
         break;
       }
-      if (spelled) continue;
-      missing[folder].push_back(place);
-      anywhereMissing = true;
+      if (!spelled) mayHaveIt.push_back(folder);
     }
-    if (anywhereMissing) wanted.add(name, place);
+    if (first[place] < folders.size() || mayHaveIt.empty()) continue;
+    for (const auto folder : mayHaveIt) missing[folder].push_back(place);
+    wanted.add(name, place);
   }
   for (std::size_t folder = 0; folder < folders.size(); ++folder) {
     if (missing[folder].empty()) continue;

@@ -3,8 +3,8 @@
 
 namespace platform {
 
-std::vector<std::size_t> FirstFolders(const std::vector<std::string>& folders,
-                                      const std::vector<std::string>& names) {
+std::vector<std::size_t> FoldersWith(const std::vector<std::string>& folders,
+                                     const std::vector<std::string>& names) {
   std::vector<std::size_t> first;
   for (const auto& name : names) {
     std::size_t folder = 0;
