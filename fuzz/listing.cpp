@@ -39,6 +39,7 @@ void ParseAndCheck(std::string_view line) {
   Require(GameListHeaderSeen == (seen || separator), "only the separator starts the games");
   Require(GameCatalog.size() == rows + (game && rows < kMaxRows ? 1 : 0), "a game is a row");
   if (GameCatalog.size() > rows) CheckGame(GameCatalog[rows - 2], line);
+  Require(fuzz::IsUtf8(EmulatorVersion), "the version is UTF-8");
   if (banner)
     Require(EmulatorVersion.size() < line.size() && line.find(EmulatorVersion) != line.npos,
             "the version stands in the banner");

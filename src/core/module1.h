@@ -24,7 +24,7 @@ struct GameEntry {
   std::string Title;
   std::string RomName;
   bool Available = false;
-  unsigned char RomFolder = 0;  // index in RomPaths of the folder that holds the archive
+  unsigned char RomFolder = 0;  // index in RomPaths of a folder that holds the archive
 };
 
 struct PlayRecord {

@@ -20,12 +20,16 @@
 namespace platform {
 namespace {
 
-// As it was at the start: what the toolkit takes out of it while it starts on another thread would
-// be read half changed.
+// Environment and search path as they were at the start: the toolkit takes variables out while it
+// starts on another thread, and they would be read half changed.
 const std::vector<char*> kFirstEnvironment = [] {
   char** end = environ;
   while (*end) ++end;
   return std::vector<char*>(environ, end + 1);
+}();
+const std::string kFirstPath = [] {
+  const char* path = std::getenv("PATH");
+  return path ? path : "";
 }();
 
 void Check(bool success) {
@@ -39,8 +43,7 @@ bool IsForWindows(const std::string& program) {
 }
 
 std::optional<std::string> FindWine() {
-  const char* path = std::getenv("PATH");
-  for (const auto folder : base::Split(path ? path : "", ":"))
+  for (const auto folder : base::Split(kFirstPath, ":"))
     if (auto file = std::string(folder) + "/wine"; access(file.c_str(), X_OK) == 0) return file;
   return {};
 }

@@ -51,6 +51,7 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
 
 void Form1::Form_Load(std::future<std::optional<unsigned char>> loading) {
   base::Quietly([&] {
+    // Decoded while the fonts are loaded.
     auto snapshot =
         std::async(std::launch::async | std::launch::deferred, forms::Picture::DefaultSnapshot);
     icon_ = forms::Picture::ProgramIcon(imgIcon.box().width);
