@@ -1,5 +1,6 @@
 #include "core/game_catalogue.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -86,14 +87,19 @@ void FindGameArchives() {
   }
 }
 
+std::size_t FolderWith(const std::array<std::string, 5>& folders, const std::string& file) {
+  for (std::size_t slot = 0; slot < kSearchedFolders && !folders[slot].empty(); ++slot) {
+    auto path = folders[slot] + "\\" + file;
+    if (FileExists(path)) return slot;
+  }
+  return kSearchedFolders;
+}
+
 // The search may have passed over another spelling in an earlier folder: all that the list needs to
 // know is whether the archive is there, and this question is asked for one game only.
 std::size_t FolderOfArchive(const GameEntry& game) {
-  for (std::size_t slot = 0; game.Available && slot < game.RomFolder; ++slot) {
-    auto archive = RomPaths.at(slot) + "\\" + game.RomName + ".zip";
-    if (FileExists(archive)) return slot;
-  }
-  return game.RomFolder;
+  const std::size_t found = game.RomFolder;
+  return game.Available ? std::min(found, FolderWith(RomPaths, game.RomName + ".zip")) : found;
 }
 
 }  // namespace core

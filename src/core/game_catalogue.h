@@ -1,6 +1,7 @@
 // The emulator's games: its listing, and which of their archives are there.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -20,6 +21,10 @@ void ParseGameListLine(std::string_view line);
 
 // Sets GameEntry.Available and GameEntry.RomFolder of every game.
 void FindGameArchives();
+
+// The index of the first of the folders in which FileExists finds the file, or kSearchedFolders. An
+// empty entry ends the search.
+std::size_t FolderWith(const std::array<std::string, 5>& folders, const std::string& file);
 
 // The index in RomPaths of the first folder that has an available game's archive in any spelling;
 // GameEntry.RomFolder of any other game.

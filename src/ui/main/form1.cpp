@@ -61,7 +61,6 @@ void Form1::Form_Load(std::future<std::optional<unsigned char>> loading) {
   if (const auto message = loading.get()) return AbortWith(i18n::Msg(*message));
   base::Quietly([&] {
     SelectGamesFilter();
-    TickLanguage();
     ApplyLanguage();
   });
   centreOnScreen();

@@ -47,7 +47,6 @@ class Form1 : public forms::Form {
   const core::GameEntry& SelectedGame() const;
 
   // Menus and language.
-  void TickLanguage();
   void ApplyLanguage();
   void mLang_Click(int index);
   void ShowOptions();

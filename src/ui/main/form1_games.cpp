@@ -4,10 +4,10 @@
 
 #include "base/quietly.h"
 #include "base/text.h"
+#include "core/game_catalogue.h"
 #include "core/module1.h"
 #include "i18n/message_catalogue.h"
 #include "launch/play_launch.h"
-#include "launch/process_capture.h"
 #include "ui/main/form1.h"
 #include "ui/main/frm_gaming.h"
 
@@ -18,15 +18,10 @@ using forms::Picture;
 using i18n::Msg;
 using namespace Module1;
 
-// The first of the folders' files with this name and ending; empty if there is none. An empty entry
-// ends the search.
-std::string FindInFolders(const std::array<std::string, 5>& folders, const std::string& name,
-                          const char* ending) {
-  for (std::size_t slot = 0; slot < core::kSearchedFolders && !folders[slot].empty(); ++slot) {
-    auto candidate = folders[slot] + "\\" + name + ending;
-    if (launch::FileExists(candidate)) return candidate;
-  }
-  return {};
+// The first of the folders' files of this name; empty if there is none.
+std::string FindInFolders(const std::array<std::string, 5>& folders, const std::string& file) {
+  const auto slot = core::FolderWith(folders, file);
+  return slot < core::kSearchedFolders ? folders[slot] + "\\" + file : std::string();
 }
 
 std::string PlayTime(const std::string& seconds) {
@@ -88,7 +83,7 @@ void Form1::lstGames_Click() {
 void Form1::ShowGameSnapshot(int row) {
   base::Quietly([&] {
     const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
-    const auto file = FindInFolders(SnapPaths, name, ".jpg");
+    const auto file = FindInFolders(SnapPaths, name + ".jpg");
     const auto box = imgGames.box();
     imgGames.setPicture(file.empty() ? imgDefault.picture()
                                      : Picture::FromJpeg(file, box.width, box.height));
@@ -98,7 +93,7 @@ void Form1::ShowGameSnapshot(int row) {
 void Form1::ShowGameIcon(int row) {
   base::Quietly([&] {
     const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
-    const auto file = FindInFolders(IconPaths, name, ".ico");
+    const auto file = FindInFolders(IconPaths, name + ".ico");
     imgIcon.setPicture(file.empty() ? icon_ : Picture::FromIcon(file, imgIcon.box().width));
   });
 }

@@ -20,18 +20,14 @@ constexpr unsigned char kLanguageOfItem[] = {0, 2, 1};
 
 }  // namespace
 
-void Form1::TickLanguage() {
-  for (int item = 0; item < 3; ++item)
-    mLang[item].setChecked(kLanguageOfItem[item] == CurrentLanguage);
-}
-
 void Form1::mLang_Click(int index) {
   CurrentLanguage = kLanguageOfItem[index];
-  TickLanguage();
   ApplyLanguage();
 }
 
 void Form1::ApplyLanguage() {
+  for (int item = 0; item < 3; ++item)
+    mLang[item].setChecked(kLanguageOfItem[item] == CurrentLanguage);
   setTitle(core::MainTitle());
   const std::pair<forms::MenuItem&, unsigned char> items[] = {
       {mFile, 100},       {mLanguage, 101}, {mLang[0], 102},  {mLang[1], 164},
