@@ -11,7 +11,7 @@
 #include "config/config_reader.h"
 #include "config/config_writer.h"
 #include "core/module1.h"
-#include "core/startup.h"
+#include "startup/startup.h"
 
 namespace {
 
@@ -27,10 +27,10 @@ void Parse(benchmark::State& state) {
   const auto& text = Text();
   for (auto _ : state) {
     state.PauseTiming();
-    core::FillSharedState();
+    auto configuration = config::Defaults(Module1::AppFolder);
     state.ResumeTiming();
-    config::ParseConfigText(text);
-    if (Module1::Profiles.size() != bench::kGames + 1U) state.SkipWithError("not all read");
+    config::ParseConfigText(text, configuration);
+    if (configuration.Profiles.size() != bench::kGames + 1U) state.SkipWithError("not all read");
   }
 }
 BENCHMARK(Parse)->Name("ParseConfigText");

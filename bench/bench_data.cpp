@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "core/module1.h"
-#include "core/startup.h"
+#include "startup/startup.h"
 
 namespace bench {
 
@@ -24,7 +24,7 @@ std::string GameName(int game) { return "game" + std::to_string(1000 + game); }
 
 void FillState() {
   using namespace Module1;
-  core::FillSharedState();
+  startup::FillSharedState();
   for (int game = 0; game < kGames; ++game) {
     auto& entry = GameCatalog[GameCatalog.size() - 2];
     entry.RomName = GameName(game);
@@ -34,14 +34,18 @@ void FillState() {
     if (game == 0) continue;
     auto& profile = Profiles.emplace_back();
     profile.Name = entry.RomName;
-    for (std::size_t slot = 0; slot < core::kPerGameSlots; ++slot)
+    for (core::Slot slot = 0; slot < core::kPerGameSlots; ++slot)
       profile.Slots[slot].Value = std::to_string(slot + static_cast<std::size_t>(game));
   }
 }
 
-std::future<std::optional<unsigned char>> Loaded() {
-  std::promise<std::optional<unsigned char>> done;
-  done.set_value({});
+std::future<startup::Loaded> Loaded() {
+  std::promise<startup::Loaded> done;
+  startup::Loaded loaded;
+  loaded.configuration = config::Defaults(Module1::AppFolder);
+  loaded.configuration.Profiles = Module1::Profiles;
+  loaded.listing.GameCatalog = Module1::GameCatalog;
+  done.set_value(std::move(loaded));
   return done.get_future();
 }
 

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <future>
-#include <optional>
 #include <string>
+
+#include "startup/startup.h"
 
 namespace bench {
 
@@ -18,6 +19,6 @@ std::string GameName(int game);
 void FillState();
 
 // What the main window waits for before it shows: nothing more.
-std::future<std::optional<unsigned char>> Loaded();
+std::future<startup::Loaded> Loaded();
 
 }  // namespace bench

@@ -50,7 +50,7 @@ const Folders& FullOfOthers() {
 
 void FindAll(benchmark::State& state) {
   UseFolders(AllInTheLast());
-  for (auto _ : state) core::FindGameArchives();
+  for (auto _ : state) core::FindGameArchives(Module1::GameCatalog, Module1::RomPaths);
   if (!Module1::GameCatalog[0].Available) state.SkipWithError("not found");
 }
 BENCHMARK(FindAll)->Name("FindGameArchives, all there");
@@ -69,7 +69,7 @@ BENCHMARK(TestFiles)->Name("FindGameArchives, all there/bare file tests");
 
 void FindNone(benchmark::State& state) {
   UseFolders(FullOfOthers());
-  for (auto _ : state) core::FindGameArchives();
+  for (auto _ : state) core::FindGameArchives(Module1::GameCatalog, Module1::RomPaths);
 }
 BENCHMARK(FindNone)->Name("FindGameArchives, none there");
 

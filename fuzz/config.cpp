@@ -11,9 +11,9 @@
 #include "config/config_writer.h"
 #include "core/bindings.h"
 #include "core/module1.h"
-#include "core/option_catalogue.h"
-#include "core/startup.h"
+#include "core/profiles.h"
 #include "platform/code_page.h"
+#include "startup/startup.h"
 #include "support.h"
 
 namespace {
@@ -44,18 +44,20 @@ bool AreSame(const State& a, const State& b) {
 }
 
 State Read(std::string_view text) {
-  core::FillSharedState();
+  startup::FillSharedState();
   const auto defaults = Profiles[0];
-  config::ParseConfigText(text);
+  auto configuration = config::Defaults(AppFolder);
+  config::ParseConfigText(text, configuration);
+  config::Adopt(std::move(configuration));
   Require(GameListPref <= 1, "the filter is set");
   Require(Profiles.size() >= 2, "the first two rows stay");
-  for (std::size_t slot = 0; slot < core::kSlotCount; ++slot)
+  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot)
     Require(Profiles[0].Slots[slot].Value == defaults.Slots[slot].Value, "the defaults stay");
   for (const auto& profile : Profiles) Require(fuzz::IsUtf8(profile.Name), "names are UTF-8");
   return {};
 }
 
-bool IsCleared(const State& state, std::size_t slot) {
+bool IsCleared(const State& state, core::Slot slot) {
   return state.profiles[1].Slots[slot].Value == core::kNoBinding &&
          state.profiles[0].Slots[slot].Value != core::kNoBinding;
 }
@@ -64,7 +66,7 @@ bool IsCleared(const State& state, std::size_t slot) {
 State Expected(State state) {
   auto& global = state.profiles[1];
   global.Name = "Global";
-  for (std::size_t slot = 0; slot < core::kSlotCount; ++slot) {
+  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
     auto& value = global.Slots[slot].Value;
     const auto& standard = state.profiles[0].Slots[slot].Value;
     if (slot < core::kFirstInputSlot) {
@@ -75,7 +77,7 @@ State Expected(State state) {
     }
   }
   for (auto row = state.profiles.begin() + 2; row < state.profiles.end(); ++row)
-    for (auto slot = core::kPerGameSlots; slot < core::kSlotCount; ++slot)
+    for (core::Slot slot = core::kPerGameSlots; slot < core::kSlotCount; ++slot)
       row->Slots[slot].Value.clear();
   for (auto& list : state.paths) {
     list[4].clear();
@@ -100,8 +102,8 @@ using Values = std::array<std::string, core::kSlotCount>;
 Values ValuesInForce(unsigned char scope) {
   OptionScope = scope;
   Values values;
-  for (std::size_t slot = 0; slot < values.size(); ++slot)
-    values.at(slot) = core::EffectiveValue(static_cast<unsigned char>(slot));
+  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot)
+    values[slot] = core::EffectiveValue(slot);
   return values;
 }
 
@@ -113,7 +115,7 @@ void CompareValuesInForce(const State& before, const State& after) {
   Profiles = after.profiles;
   const auto now = ValuesInForce(core::kGlobalScope);
   const auto nowOfGame = ValuesInForce(0);
-  for (std::size_t slot = 0; slot < core::kSlotCount; ++slot) {
+  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
     const bool cleared = slot >= core::kFirstInputSlot && IsCleared(before, slot);
     Require(now[slot] == (cleared ? before.profiles[0].Slots[slot].Value : old[slot]),
             "the global value in force stays");
@@ -150,7 +152,7 @@ void fuzz::Examine(std::string_view bytes) {
   auto rewritten = config::ConfigText();
   Require(AreSame(again, Expected(state)), "all that was written comes back");
   bool cleared = false;
-  for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+  for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     cleared = cleared || IsCleared(state, slot);
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");
   CompareValuesInForce(state, again);

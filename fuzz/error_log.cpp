@@ -3,7 +3,7 @@
 
 #include "base/text.h"
 #include "core/module1.h"
-#include "launch/play_tracking.h"
+#include "launch/error_log.h"
 #include "platform/code_page.h"
 #include "support.h"
 

@@ -29,13 +29,14 @@ void CheckGame(const core::GameEntry& game, std::string_view line) {
   Require(fuzz::IsUtf8(game.RomName) && fuzz::IsUtf8(game.Title), "a game's texts are UTF-8");
 }
 
-void ParseAndCheck(std::string_view line) {
+void ParseAndCheck(std::string_view line, core::GameListing& listing) {
+  const auto& [EmulatorVersion, GameListHeaderSeen, GameCatalog] = listing;
   const auto rows = GameCatalog.size();
   const bool banner = base::ContainsIgnoringCase(line, core::kBanner);
   const bool separator = !banner && base::ContainsIgnoringCase(line, core::kSeparator);
   const bool game = !line.empty() && !banner && !separator && GameListHeaderSeen;
   const bool seen = GameListHeaderSeen;
-  core::ParseGameListLine(line);
+  core::ParseGameListLine(line, listing);
   Require(GameListHeaderSeen == (seen || separator), "only the separator starts the games");
   Require(GameCatalog.size() == rows + (game && rows < kMaxRows ? 1 : 0), "a game is a row");
   if (GameCatalog.size() > rows) CheckGame(GameCatalog[rows - 2], line);
@@ -49,13 +50,14 @@ void ParseAndCheck(std::string_view line) {
 
 void fuzz::Examine(std::string_view bytes) {
   static const TempApp app({"roms/game_a.zip"});
-  ResetSharedState();
-  RomPaths[0] = AppFolder + "\\ROMS";
+  core::GameListing listing;
+  auto& GameCatalog = listing.GameCatalog;
   const auto text = platform::DecodeCodePage(bytes);
-  for (const auto line : base::Split(text, base::kLineEnd)) ParseAndCheck(base::Trim(line));
+  for (const auto line : base::Split(text, base::kLineEnd))
+    ParseAndCheck(base::Trim(line), listing);
   for (auto row = GameCatalog.end() - 2; row != GameCatalog.end(); ++row)
     Require(row->RomName.empty() && row->Title.empty(), "the last two rows are empty");
-  core::FindGameArchives();
+  core::FindGameArchives(GameCatalog, {Module1::AppFolder + "\\ROMS"});
   for (const auto& game : GameCatalog)
     Require(!game.Available || base::FoldCase(game.RomName).ends_with("game_a"),
             "only the archive that is there is found");

@@ -6,10 +6,17 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "base/quietly.h"
 #include "core/module1.h"
 #include "platform/app_folder.h"
 #include "platform/open_address.h"
 #include "platform/settings_store.h"
+
+// A fault must not hide behind an edge.
+static const bool faultsEndTheRun = [] {
+  base::OnFault() = [](const std::string& what) { fuzz::Require(false, what.c_str()); };
+  return true;
+}();
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Examine({reinterpret_cast<const char*>(data), size});

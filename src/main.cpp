@@ -1,10 +1,10 @@
 #include <utility>
 
 #include "base/quietly.h"
-#include "config/loading.h"
 #include "core/module1.h"
 #include "platform/app_folder.h"
 #include "platform/forms/application.h"
+#include "startup/startup.h"
 #include "ui/main/form1.h"
 
 int main() {
@@ -13,8 +13,9 @@ int main() {
     // The emulator inherits it.
     platform::SetWorkingFolder(Module1::AppFolder);
   });
+  startup::FillSharedState();
   // Files and the emulator are waited for while the toolkit starts.
-  auto loading = config::StartLoading();
+  auto loading = startup::BeginLoading(Module1::AppFolder);
   forms::Application application;
   ui::Form1 form;
   form.Form_Load(std::move(loading));

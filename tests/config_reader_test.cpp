@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 
 #include "base/text.h"
-#include "core/startup.h"
+#include "startup/startup.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"
 
@@ -12,19 +12,16 @@ namespace {
 
 using namespace Module1;
 
-// No emulator stands in the folder, so that each reading ends with the message about that.
-constexpr unsigned char kNoEmulator = 3;
-
 class ConfigReader : public support::TempApp {
  protected:
   // Reads a file of this text, where "|" stands for CR LF. "bak" at the end of the state stands for
   // a copy of the file that was made.
   std::string load(const std::string& text) {
     const auto bytes = base::ReplaceIgnoringCase(text, "|", "\r\n");
-    core::FillSharedState();
+    startup::FillSharedState();
     std::filesystem::remove_all(path("Config"));
     write("Config/Kestrivane.ini", bytes);
-    EXPECT_EQ(LoadConfigFile(), kNoEmulator);
+    Adopt(LoadConfigFile(AppFolder));
     const std::string copy = "Config/Kestrivane.ini.bak";
     EXPECT_TRUE(!exists(copy) || read(copy) == bytes);
     return support::StateText() + (exists(copy) ? "bak" : "");
@@ -88,12 +85,12 @@ TEST_F(ConfigReader, WithoutAReadableFileTheDefaultBindingsHold) {
          std::filesystem::permissions(file, std::filesystem::perms(0));
        }}};
   for (const auto& [what, make] : rows) {
-    core::FillSharedState();
+    startup::FillSharedState();
     std::filesystem::remove_all(path("Config"));
     std::filesystem::create_directory(path("Config"));
     make();
     const support::Unprivileged rights;
-    EXPECT_EQ(LoadConfigFile(), kNoEmulator) << what;
+    Adopt(LoadConfigFile(AppFolder));
     const auto state = support::StateText();
     EXPECT_TRUE(state.starts_with("1.InputStart1=\"KEY_1,JOY1_BUTTON9\" ")) << what << state;
     EXPECT_TRUE(state.ends_with("1.InputAutoTrigger2=0 ")) << what << state;

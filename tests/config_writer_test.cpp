@@ -4,8 +4,8 @@
 #include "config/config_reader.h"
 #include "config/user_settings.h"
 #include "core/option_catalogue.h"
-#include "core/startup.h"
 #include "platform/code_page.h"
+#include "startup/startup.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"
 
@@ -64,11 +64,13 @@ class ConfigWriter : public support::TempApp {
   ConfigWriter() { std::filesystem::create_directory(path("Config")); }
 
   static std::string& value(std::size_t row, const char* name) {
-    return Profiles[row].Slots.at(static_cast<std::size_t>(core::OptionIndex(name))).Value;
+    return Profiles[row].Slots[core::OptionIndex(name)].Value;
   }
   // The state that the file stands for, with much beside it that the file does not hold.
   void fillState() {
-    ParseConfigText(base::ReplaceIgnoringCase(kFile, "\n", "\r\n") + "\r\n");
+    auto configuration = Defaults(AppFolder);
+    ParseConfigText(base::ReplaceIgnoringCase(kFile, "\n", "\r\n") + "\r\n", configuration);
+    Adopt(std::move(configuration));
     value(1, "Throttle") = "1";
     for (std::size_t slot = 31; slot < 126; ++slot) Profiles[1].Slots[slot].Value = "\"NONE\"";
     for (const auto* global : {"Crosshairs", "Vsync", "InputStart1"}) value(2, global) = "9";
@@ -81,8 +83,8 @@ TEST_F(ConfigWriter, WritesTheFormatByteForByteAndReadsItBack) {
   WriteConfigFile();
   EXPECT_EQ(read("Config/Kestrivane.ini"),
             platform::EncodeCodePage(base::ReplaceIgnoringCase(kFile, "\n", "\r\n")));
-  core::FillSharedState();
-  LoadConfigFile();
+  startup::FillSharedState();
+  Adopt(LoadConfigFile(AppFolder));
   EXPECT_EQ(support::StateText(),
             "1:Global 1.XResolution=800 1.FullScreen=1 1.FragmentShader=C:\\é\\f.glsl "
             "1.InputStart1=\"key_1,JOY1_BUTTON9\" 1.InputAutoTrigger=1 1.InputAutoTrigger2=0 "
@@ -116,7 +118,7 @@ TEST_F(ConfigWriter, DefaultsGiveInputLinesOnlyAndComeBack) {
   EXPECT_NE(text.find("****\r\n\r\nInputStart1 = \"KEY_1,JOY1_BUTTON9\"\r\n"), std::string::npos);
   EXPECT_FALSE(base::ContainsIgnoringCase(text, "NONE"));
   WriteConfigFile();
-  LoadConfigFile();
+  Adopt(LoadConfigFile(AppFolder));
   EXPECT_EQ(value(1, "InputCoin1"), "\"KEY_3,JOY1_BUTTON10\"");
   EXPECT_EQ(ConfigText(), text);
 }

@@ -8,8 +8,8 @@
 #include <csignal>
 
 #include "core/module1.h"
-#include "core/startup.h"
 #include "platform/process.h"
+#include "startup/startup.h"
 #include "support/temp_app.h"
 
 namespace platform {
@@ -118,11 +118,11 @@ TEST_F(Files, APipeIsNeitherReadNorWaitedFor) {
 TEST_F(Files, WorkingFoldersAreMadeUpToTheFirstFailure) {
   write("Snaps", "a file in the way");
   fs::create_directory(path("ROMS"));
-  core::EnsureFolders();
+  startup::EnsureFolders(AppFolder);
   EXPECT_EQ(read("Snaps"), "a file in the way");
   EXPECT_FALSE(exists("ROMs") || exists("Icons") || exists("Config"));
   fs::remove(path("Snaps"));
-  core::EnsureFolders();
+  startup::EnsureFolders(AppFolder);
   for (const auto* name : {"Snaps", "Icons", "Config"}) EXPECT_TRUE(exists(name)) << name;
 }
 

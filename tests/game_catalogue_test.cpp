@@ -25,20 +25,21 @@ TEST_F(GameCatalogue, TakesEachLineByItsRule) {
               {"a banner not at the start", {"xx " + banner + "0.3a)"}, "on 0.3a:"},
               {"a banner that ends outside ASCII", {banner + "1é»"}, "1é:"}};
   for (const auto& row : rows) {
-    ResetSharedState();
-    for (const auto& line : row.lines) ParseGameListLine(line);
-    auto catalogue = EmulatorVersion + ":";
-    for (std::size_t game = 0; game + 2 < GameCatalog.size(); ++game)
-      catalogue += " " + GameCatalog[game].RomName + "=" + GameCatalog[game].Title + ",";
+    GameListing listing;
+    for (const auto& line : row.lines) ParseGameListLine(line, listing);
+    auto catalogue = listing.EmulatorVersion + ":";
+    for (std::size_t game = 0; game + 2 < listing.GameCatalog.size(); ++game)
+      catalogue +=
+          " " + listing.GameCatalog[game].RomName + "=" + listing.GameCatalog[game].Title + ",";
     EXPECT_EQ(catalogue, row.catalogue) << row.what;
   }
 }
 
 TEST_F(GameCatalogue, StartTakesTheEmulatorAsItIs) {
-  constexpr unsigned char kSilentEmulator = 18;
+  constexpr auto kSilentEmulator = i18n::Message::EmulatorSilent;
   const struct {
     const char* fault;
-    std::optional<unsigned char> message;
+    std::optional<i18n::Message> message;
     const char* version;
     std::size_t games;
   } rows[] = {{"", {}, "0.3a", 41},
@@ -53,9 +54,8 @@ TEST_F(GameCatalogue, StartTakesTheEmulatorAsItIs) {
               {"log", {}, "0.3a", 41}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.fault);
-    ResetSharedState();
     addEmulator(row.fault);
-    EXPECT_EQ(LoadGameCatalog(), row.message);
+    EXPECT_EQ(load(), row.message);
     EXPECT_EQ(EmulatorVersion, row.version);
     EXPECT_EQ(GameCatalog.size(), row.games + 2);
     EXPECT_FALSE(exists("error.log"));
@@ -66,7 +66,7 @@ TEST_F(GameCatalogue, LogThatCantBeDeletedLeavesTheGames) {
   addEmulator();
   write("error.log", "");
   const support::Unprivileged rights;
-  EXPECT_FALSE(LoadGameCatalog());
+  EXPECT_FALSE(load());
   EXPECT_EQ(GameCatalog.size(), 43U);
 }
 
@@ -77,7 +77,7 @@ TEST_F(GameCatalogue, ArchivesAreTakenFromTheFirstFolderThatHasThem) {
   for (std::size_t row = 0; row < 4; ++row) GameCatalog[row].RomName = "abcd"[row];
   // Of each game the folder in which it was found last, with a dash ahead if it is gone.
   const auto found = [] {
-    FindGameArchives();
+    FindGameArchives(GameCatalog, RomPaths);
     std::string text;
     for (std::size_t row = 0; row < 4; ++row)
       text += (GameCatalog[row].Available ? "" : "-") + std::to_string(GameCatalog[row].RomFolder);

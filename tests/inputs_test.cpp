@@ -40,7 +40,7 @@ class Inputs : public support::OptionsTest {
     };
   }
   static const std::string& value(const char* option) {
-    return EffectiveValues.at(static_cast<std::size_t>(core::OptionIndex(option)));
+    return EffectiveValues[core::OptionIndex(option)];
   }
 };
 

@@ -31,7 +31,7 @@ TEST_F(MainStart, WindowShowsWhatWasLoaded) {
   addEmulator();
   const std::pair<std::string, const char*> starts[] = {
       {";GameListPref=1|;KVLLanguage=1|", "(Kestrivane 0.3a detectado) mLang(2) optGames(1) "},
-      {";GameListPref=0|;KVLLanguage=9|", "(Kestrivane 0.3a optGames(0) "}};
+      {";GameListPref=0|;KVLLanguage=9|", "(Kestrivane 0.3a detected) optGames(0) "}};
   for (const auto& [file, shown] : starts) {
     write("Config/Kestrivane.ini", base::ReplaceIgnoringCase(file, "|", "\r\n"));
     start();

@@ -1,4 +1,4 @@
-#include "core/option_catalogue.h"
+#include "core/profiles.h"
 
 #include <set>
 
@@ -20,7 +20,7 @@ TEST_F(OptionCatalogue, NoNameIsGivenTwice) {
 }
 
 TEST_F(OptionCatalogue, NarrowerScopeWins) {
-  constexpr unsigned char kThrottle = 2;  // default 1
+  constexpr Slot kThrottle = 2;  // default 1
   const struct {
     const char* what;
     unsigned char scope;

@@ -1,7 +1,8 @@
-#include "launch/play_tracking.h"
-
 #include "core/module1.h"
+#include "launch/error_log.h"
 #include "launch/play_launch.h"
+#include "launch/play_log.h"
+#include "launch/run_loop.h"
 #include "support/fake_clock.h"
 #include "support/temp_app.h"
 

@@ -4,8 +4,9 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <stdexcept>
 #include <utility>
+
+#include "base/failure.h"
 
 namespace base {
 namespace {
@@ -120,6 +121,28 @@ std::size_t CharCount(std::string_view text) {
   return chars;
 }
 
+bool IsUtf8(std::string_view text) {
+  while (!text.empty()) {
+    const auto lead = static_cast<unsigned char>(text.front());
+    const std::size_t length = lead < 0x80   ? 1
+                               : lead < 0xC2 ? 0
+                               : lead < 0xE0 ? 2
+                               : lead < 0xF0 ? 3
+                               : lead < 0xF5 ? 4
+                                             : 0;
+    if (length == 0 || text.size() < length) return false;
+    unsigned code = length == 1 ? lead : lead & (0x7FU >> length);
+    for (const char c : text.substr(1, length - 1)) {
+      if (!IsContinuation(c)) return false;
+      code = code << 6U | (static_cast<unsigned char>(c) & 0x3FU);
+    }
+    const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
+    if (overlong || (code >= 0xD800 && code <= 0xDFFF) || code > 0x10FFFF) return false;
+    text.remove_prefix(length);
+  }
+  return true;
+}
+
 std::optional<double> ToNumber(std::string_view text) {
   text = Trim(text);
   if (text.starts_with('+')) text.remove_prefix(1);
@@ -133,10 +156,10 @@ std::optional<double> ToNumber(std::string_view text) {
 
 int ToInteger(std::string_view text) {
   const auto number = ToNumber(text);
-  if (!number) throw std::invalid_argument("not a number");
+  if (!number) throw Failure("not a number");
   const double rounded = std::nearbyint(*number);
   if (rounded < std::numeric_limits<int>::min() || rounded > std::numeric_limits<int>::max())
-    throw std::out_of_range("number too large");
+    throw Failure("number too large");
   return static_cast<int>(rounded);
 }
 
@@ -145,7 +168,7 @@ unsigned char ToByte(std::string_view text) {
   unsigned char number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (text.empty() || error != std::errc() || end != text.data() + text.size())
-    throw std::invalid_argument("not a number from 0 to 255");
+    throw Failure("not a number from 0 to 255");
   return number;
 }
 

@@ -35,14 +35,16 @@ std::size_t OffsetOfChar(std::string_view text, std::size_t chars);
 
 std::size_t CharCount(std::string_view text);
 
+// Whether the text is well-formed UTF-8.
+bool IsUtf8(std::string_view text);
+
 // A plain decimal number, blanks around it allowed: sign, digits, fraction. Nothing for other text.
 std::optional<double> ToNumber(std::string_view text);
 
-// ToNumber rounded to an integer. Throws std::invalid_argument for no number, std::out_of_range
-// outside 32 bits.
+// ToNumber rounded to an integer. Fails for no number and outside 32 bits.
 int ToInteger(std::string_view text);
 
-// Decimal digits with blanks around them as a number from 0 to 255; throws for anything else.
+// Decimal digits with blanks around them as a number from 0 to 255; fails for anything else.
 unsigned char ToByte(std::string_view text);
 
 // `number` in decimal with at least `digits` digits.

@@ -1,185 +1,141 @@
 #include "config/config_reader.h"
 
-#include <algorithm>
 #include <array>
-#include <limits>
-#include <stdexcept>
 
+#include "base/failure.h"
 #include "base/quietly.h"
 #include "base/text.h"
 #include "core/emulator_contract.h"
-#include "core/game_catalogue.h"
-#include "core/module1.h"
 #include "core/option_catalogue.h"
-#include "launch/process_capture.h"
+#include "core/profiles.h"
 #include "platform/files.h"
 
 namespace config {
 namespace {
 
+using base::Failure;
 using base::ToByte;
-using namespace Module1;
 
-void TakePathList(std::string_view value, std::array<std::string, 5>& paths) {
+constexpr std::size_t kMaxLines = 32768;
+
+void TakePathList(std::string_view value, core::FolderList& paths) {
   std::size_t entry = 1;
-  for (const auto path : base::Split(value, "*")) paths.at(entry++) = path;
-}
-
-void TakePlayLog(std::string_view value) {
-  std::size_t row = 0;
-  for (const auto element : base::Split(value, "*")) {
-    auto& record = PlayLog.at(row++);
-    const auto fields = base::Split(element, ",");
-    record.GameId = fields.at(0);
-    record.PlayCount = fields.at(1);
-    record.PlaySeconds = fields.at(2);
+  for (const auto path : base::Split(value, "*")) {
+    if (entry == paths.size()) throw Failure("too many folders");
+    paths[entry++] = path;
   }
 }
 
-void TakeFilter(std::string_view value) {
-  const auto filter = ToByte(value);
-  if (filter <= 1) GameListPref = filter;
+void TakePlayLog(std::string_view value, core::PlayRecords& records) {
+  std::size_t row = 0;
+  for (const auto element : base::Split(value, "*")) {
+    if (row == records.size()) throw Failure("too many records");
+    auto& record = records[row++];
+    const auto fields = base::Split(element, ",");
+    std::string* const places[] = {&record.GameId, &record.PlayCount, &record.PlaySeconds};
+    for (std::size_t field = 0; field < std::size(places); ++field) {
+      if (field == fields.size()) throw Failure("too few fields");
+      *places[field] = fields[field];
+    }
+  }
 }
+
+struct Parse {
+  Configuration& configuration;
+  ParseResult& result;
+};
 
 struct CommentKey {
   std::string_view key;
-  void (*take)(std::string_view value, bool& bannerSeen);
+  void (*take)(std::string_view value, const Parse& to);
 };
 
 // The first key that a line contains decides, wherever in the line it stands.
 constexpr std::array<CommentKey, 8> kCommentKeys = {{
-    {";ROMpaths=", [](auto value, auto&) { TakePathList(value, RomPaths); }},
-    {";SNAPpaths=", [](auto value, auto&) { TakePathList(value, SnapPaths); }},
-    {";ICONpaths=", [](auto value, auto&) { TakePathList(value, IconPaths); }},
-    {";GameTimeLog=", [](auto value, auto&) { TakePlayLog(value); }},
-    {"Kestrivane UI®", [](auto, bool& bannerSeen) { bannerSeen = true; }},
-    {";InputMethod=", [](auto value, auto&) { Profiles[1].InputMethod = ToByte(value); }},
-    {";GameListPref=", [](auto value, auto&) { TakeFilter(value); }},
-    {";KVLLanguage=", [](auto value, auto&) { CurrentLanguage = ToByte(value); }},
+    {";ROMpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.RomPaths); }},
+    {";SNAPpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.SnapPaths); }},
+    {";ICONpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.IconPaths); }},
+    {";GameTimeLog=", [](auto value, auto& to) { TakePlayLog(value, to.configuration.PlayLog); }},
+    {"Kestrivane UI®", [](auto, auto& to) { to.result.bannerSeen = true; }},
+    {";InputMethod=",
+     [](auto value, auto& to) { to.configuration.Profiles[1].InputMethod = ToByte(value); }},
+    {";GameListPref=",
+     [](auto value, auto& to) {
+       if (const auto filter = ToByte(value); filter <= 1) to.configuration.GameListPref = filter;
+     }},
+    {";KVLLanguage=",
+     [](auto value, auto& to) { to.configuration.CurrentLanguage = ToByte(value); }},
 }};
 
-void TakeSectionHeader(std::string_view body, std::size_t opening) {
+void TakeSectionHeader(std::string_view body, std::size_t opening,
+                       std::vector<core::Profile>& profiles) {
   if (body != "[ Global ]") {
     // What is beyond saving shares one row, so that a hostile file can't fill the memory.
-    if (Profiles.size() <= core::kMaxProfiles)
-      Profiles.emplace_back();
+    if (profiles.size() <= core::kMaxProfiles)
+      profiles.emplace_back();
     else
-      Profiles.back() = {};
+      profiles.back() = {};
   }
   const auto closing = body.find(" ]");
-  if (closing == std::string_view::npos) throw std::invalid_argument("no closing bracket");
+  if (closing == std::string_view::npos) throw Failure("no closing bracket");
   // As many characters as stand before the closing bracket, less the two of an opening one in
   // column 1, wherever the opening one stands.
   const auto charsBefore = base::CharCount(body.substr(0, closing));
-  if (charsBefore < 2) throw std::invalid_argument("brackets in the wrong order");
+  if (charsBefore < 2) throw Failure("brackets in the wrong order");
   const auto name = body.substr(opening + 2);
-  Profiles.back().Name = base::Trim(name.substr(0, base::OffsetOfChar(name, charsBefore - 2)));
+  profiles.back().Name = base::Trim(name.substr(0, base::OffsetOfChar(name, charsBefore - 2)));
 }
 
 // What stands behind the "=" of an option line; empty unless there is exactly one.
 std::string_view ConfigValueOf(std::string_view body) {
-  const auto equals = body.find('=');
-  if (equals == std::string_view::npos || body.find('=', equals + 1) != std::string_view::npos)
-    return {};
-  return base::Trim(body.substr(equals + 1));
+  const auto pieces = base::Split(body, "=");
+  return pieces.size() == 2 ? base::Trim(pieces[1]) : std::string_view();
 }
 
-void TakeOption(std::string_view body) {
+void TakeOption(std::string_view body, core::Profile& profile) {
   const auto slot = core::OptionIndex(base::Trim(body.substr(0, body.find('='))));
-  if (slot >= 0) Profiles.back().Slots[static_cast<std::size_t>(slot)].Value = ConfigValueOf(body);
+  if (slot >= 0) profile.Slots[slot].Value = ConfigValueOf(body);
 }
 
-// The next place of one character in a text that is walked from front to back. Most lines hold
-// none, and learn so without being searched.
-class NextMark {
- public:
-  NextMark(std::string_view text, char mark) : text_(text), mark_(mark), at_(text.find(mark)) {}
-
-  // Its place in the line that takes these positions of the text, or npos.
-  std::size_t in(std::size_t begin, std::size_t end) {
-    if (at_ < begin) at_ = text_.find(mark_, begin);
-    return at_ < end ? at_ - begin : std::string_view::npos;
-  }
-
- private:
-  std::string_view text_;
-  char mark_;
-  std::size_t at_;
-};
-
-class Parser {
- public:
-  explicit Parser(std::string_view text)
-      : text_(text), comments_(text, ';'), banners_(text, '\xC2'), headers_(text, '[') {}
-
-  bool bannerSeen() const { return bannerSeen_; }
-
-  // All lines but the piece behind the last line end.
-  void takeLines() {
-    for (std::size_t begin = 0, end = 0;
-         (end = text_.find(base::kLineEnd, begin)) != std::string_view::npos;
-         begin = end + base::kLineEnd.size())
-      takeLine(begin, end);
-  }
-
- private:
-  void takeLine(std::size_t begin, std::size_t end) {
-    const auto line = text_.substr(begin, end - begin);
-    const auto comment = comments_.in(begin, end);
-    // Every comment key holds ";" and the banner "®".
-    if (comment != std::string_view::npos || banners_.in(begin, end) != std::string_view::npos) {
-      for (const auto& [key, take] : kCommentKeys)
-        if (base::ContainsIgnoringCase(line, key))
-          return take(line.substr(base::OffsetOfChar(line, key.size())), bannerSeen_);
-    }
-    const auto body = line.substr(0, comment);
-    if (body.find_first_not_of(' ') == std::string_view::npos) return;
-    const auto opening = headers_.in(begin, end) == std::string_view::npos ? std::string_view::npos
-                                                                           : body.find("[ ");
-    if (opening != std::string_view::npos)
-      TakeSectionHeader(body, opening);
-    else
-      TakeOption(body);
-  }
-
-  std::string_view text_;
-  NextMark comments_, banners_, headers_;
-  bool bannerSeen_ = false;
-};
-
-bool HasTooManyLines(std::string_view text) {
-  constexpr std::size_t kMaxLines = std::size_t{std::numeric_limits<short>::max()} + 1;
-  // Counting one character is quick, and there are at least as many as line ends.
-  if (static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r')) <= kMaxLines)
-    return false;
-  return base::Split(text, base::kLineEnd).size() > kMaxLines + 1;
+void TakeLine(std::string_view line, const Parse& to) {
+  for (const auto& [key, take] : kCommentKeys)
+    if (base::ContainsIgnoringCase(line, key))
+      return take(line.substr(base::OffsetOfChar(line, key.size())), to);
+  const auto body = line.substr(0, line.find(';'));
+  if (base::Trim(body).empty()) return;
+  auto& profiles = to.configuration.Profiles;
+  if (const auto opening = body.find("[ "); opening != std::string_view::npos)
+    TakeSectionHeader(body, opening, profiles);
+  else
+    TakeOption(body, profiles.back());
 }
 
 }  // namespace
 
-void ParseConfigText(std::string_view text) {
-  base::Quietly([&] {
-    if (HasTooManyLines(text)) throw std::length_error("too many lines");
-    Parser parser(text);
-    parser.takeLines();
-    if (parser.bannerSeen()) return;
-    const auto file = AppFolder + std::string(core::kConfigFile);
-    platform::CopyFileBytes(file, file + ".bak");
+ParseResult ParseConfigText(std::string_view text, Configuration& configuration) {
+  ParseResult result;
+  result.complete = base::Quietly([&] {
+    auto lines = base::Split(text, base::kLineEnd);
+    if (lines.size() < 2) return;
+    lines.pop_back();  // the piece behind the last line end
+    if (lines.size() > kMaxLines) throw Failure("too many lines");
+    for (const auto line : lines) TakeLine(line, {configuration, result});
   });
+  return result;
 }
 
-std::optional<unsigned char> LoadConfigFile() {
-  auto file = AppFolder + std::string(core::kConfigFile);
-  if (launch::FileExists(file)) {
-    std::string text;
-    if (base::Quietly([&] { text = platform::ReadText(file); }))
-      ParseConfigText(text);
-    else
-      core::ResetInputsToDefaults();
-  } else {
-    core::ResetInputsToDefaults();
+Configuration LoadConfigFile(const std::string& appFolder) {
+  auto configuration = Defaults(appFolder);
+  auto file = appFolder + std::string(core::kConfigFile);
+  std::string text;
+  if (!platform::FileExists(file) || !base::Quietly([&] { text = platform::ReadText(file); })) {
+    core::ResetInputsToDefaults(configuration.Profiles);
+    return configuration;
   }
-  return core::LoadGameCatalog();
+  const auto parse = ParseConfigText(text, configuration);
+  if (parse.complete && !parse.bannerSeen)
+    base::Quietly([&] { platform::CopyFileBytes(file, file + ".bak"); });
+  return configuration;
 }
 
 }  // namespace config

@@ -1,18 +1,24 @@
-// Reads Config\Kestrivane.ini into the shared state, once per program start.
+// Reads Config\Kestrivane.ini, once per program start.
 #pragma once
 
-#include <optional>
+#include <string>
 #include <string_view>
+
+#include "config/configuration.h"
 
 namespace config {
 
-// Reads the file, or takes the default bindings if there is none, and then loads the game
-// catalogue, whose answer it gives. A file that is there and can't be read still leads to default
-// bindings and the catalogue.
-std::optional<unsigned char> LoadConfigFile();
+// The file's configuration; the default bindings where there is no file or it can't be read.
+// Copies a file that another program wrote to Kestrivane.ini.bak.
+Configuration LoadConfigFile(const std::string& appFolder);
 
-// The whole file, each line followed by CR LF. A failure ends the parse quietly at its line; what
-// was stored up to then stays.
-void ParseConfigText(std::string_view text);
+struct ParseResult {
+  bool complete = false;  // no failure ended the parse
+  bool bannerSeen = false;
+};
+
+// Takes the whole file, each line followed by CR LF. A failure ends the parse quietly at its line;
+// what was stored up to then stays.
+ParseResult ParseConfigText(std::string_view text, Configuration& configuration);
 
 }  // namespace config

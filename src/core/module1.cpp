@@ -8,10 +8,6 @@ void ResetSharedState() {
   GameListPref = 0;
   CurrentLanguage = 0;
   GameCatalog.assign(2, {});
-  ResolutionList = {};
-  GameListHeaderSeen = false;
-  // Rows are large; room for all that can be saved spares moving them as the file is read.
-  Profiles.reserve(core::kMaxProfiles);
   Profiles.assign(2, {});
   LaunchRequest = {};
   InputChoice.clear();

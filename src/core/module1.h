@@ -8,17 +8,22 @@
 
 namespace core {
 
-inline constexpr std::size_t kSlotCount = 128;
-inline constexpr std::size_t kGeneralSlotCount = 30;
-inline constexpr std::size_t kFirstInputSlot = 30;
-inline constexpr std::size_t kPerGameSlots = 28;  // the first ones can differ for a game
-inline constexpr std::size_t kCrosshairsSlot = 28;
+using Slot = int;  // the number of an option
+
+inline constexpr Slot kSlotCount = 128;
+inline constexpr Slot kGeneralSlotCount = 30;
+inline constexpr Slot kFirstInputSlot = 30;
+inline constexpr Slot kPerGameSlots = 28;  // the first ones can differ for a game
+inline constexpr Slot kCrosshairsSlot = 28;
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref
 inline constexpr unsigned char kRawInput = 2;        // in Profile.InputMethod
 inline constexpr std::size_t kSearchedFolders = 4;   // of each list of folders
 inline constexpr std::size_t kMaxGames = 254;
 inline constexpr std::size_t kMaxProfiles = 255;
+
+// Entry 0 is the built-in folder; an empty entry ends the list.
+using FolderList = std::array<std::string, 5>;
 
 struct GameEntry {
   std::string Title;
@@ -33,6 +38,8 @@ struct PlayRecord {
   std::string PlaySeconds;
 };
 
+using PlayRecords = std::array<PlayRecord, 41>;
+
 struct OptionSlot {
   unsigned char Kind = 0;  // 0 input of player 1, 1 input of player 2, 3 general; row 0 only
   std::string Value;       // as the configuration file spells it; empty: not set here
@@ -40,15 +47,14 @@ struct OptionSlot {
 };
 
 struct Profile {
-  Profile() {}  // NOLINT: written out, it spares zeroing the large row before it is filled
   std::string Name;
   std::array<OptionSlot, kSlotCount> Slots;
   unsigned char InputMethod = 0;  // 0 DirectInput, 1 XInput, 2 Raw Input
 };
 
 struct Resolution {
-  short Width = 0;
-  short Height = 0;
+  int Width = 0;
+  int Height = 0;
 };
 
 struct LaunchOrder {
@@ -61,17 +67,21 @@ struct LaunchOrder {
 namespace Module1 {
 
 inline std::string AppFolder;
-inline std::array<std::string, 5> RomPaths, SnapPaths, IconPaths;
+inline core::FolderList RomPaths, SnapPaths, IconPaths;
 inline std::string EmulatorVersion;
 inline unsigned char GameListPref = 0;     // 0 all games, 1 only available; 9 while it is being set
 inline unsigned char CurrentLanguage = 0;  // 0 English, 1 Spanish, 2 Portuguese
 inline std::vector<core::GameEntry> GameCatalog;
-inline std::array<core::Resolution, 21> ResolutionList;
-inline bool GameListHeaderSeen = false;
+inline constexpr std::array<core::Resolution, 21> ResolutionList = {{
+    {496, 384},   {640, 480},   {800, 600},   {1024, 768},  {1152, 864},
+    {1280, 720},  {1280, 768},  {1280, 800},  {1280, 960},  {1280, 1024},
+    {1360, 768},  {1366, 768},  {1600, 900},  {1600, 1024}, {1600, 1200},
+    {1680, 1050}, {1920, 1080}, {1920, 1200}, {1920, 1440}, {2048, 1536},
+}};
 inline std::vector<core::Profile> Profiles;  // 0 Default, 1 Global, then one row a game
 inline core::LaunchOrder LaunchRequest;
 inline std::string InputChoice;
-inline std::array<core::PlayRecord, 41> PlayLog;
+inline core::PlayRecords PlayLog;
 inline std::string ErrorText;
 inline unsigned char OptionScope = 0;  // 254 the global options, else a row of GameCatalog
 inline bool OptionsSaved = false;

@@ -1,8 +1,6 @@
 #include "launch/process_capture.h"
 
 #include "base/quietly.h"
-#include "base/text.h"
-#include "platform/files.h"
 #include "platform/open_address.h"
 #include "platform/process.h"
 
@@ -12,16 +10,6 @@ std::string ShellExecuteCapture(const std::string& sCommandLine, bool bShowWindo
   std::string output;
   base::Quietly([&] { output = platform::CaptureOutput(sCommandLine, bShowWindow); });
   return output;
-}
-
-bool FileExists(std::string& FilePath) {
-  bool exists = false;
-  base::Quietly([&] {
-    if (FilePath.find("\\\\") != std::string::npos)
-      FilePath = base::ReplaceIgnoringCase(FilePath, "\\\\", "\\");
-    exists = platform::IsFile(FilePath);
-  });
-  return exists;
 }
 
 void OpenUrl(const std::string& address) {

@@ -8,10 +8,6 @@ namespace launch {
 // Runs a command to its end and gives what it wrote to standard output; empty on any failure.
 std::string ShellExecuteCapture(const std::string& sCommandLine, bool bShowWindow = true);
 
-// True when a file of that path exists. Every doubled backslash in the caller's text becomes a
-// single one, so that a folder that ends in one can be joined like any other.
-bool FileExists(std::string& FilePath);
-
 // Hands an address to the system's opener.
 void OpenUrl(const std::string& address);
 

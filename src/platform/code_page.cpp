@@ -133,19 +133,6 @@ void ForEachLine(std::string_view text, std::string_view endings, const Function
 
 }  // namespace
 
-bool IsWritableName(std::string_view name) {
-  while (!name.empty()) {
-    const auto code = TakeChar(name);
-    if (!code || *code < 0x20 || *code == '\\' || *code == '*' || *code == '"') return false;
-  }
-  return true;
-}
-
-bool IsWritableValue(std::string_view path) {
-  return path.find_first_of(";=") == std::string_view::npos &&
-         path.find("[ ") == std::string_view::npos;
-}
-
 std::string DecodeCodePage(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());

@@ -1,11 +1,19 @@
 #include "platform/files.h"
 
-#include <stdexcept>
-
+#include "base/quietly.h"
 #include "base/text.h"
 #include "platform/code_page.h"
 
 namespace platform {
+
+bool FileExists(std::string& FilePath) {
+  bool exists = false;
+  base::Quietly([&] {
+    FilePath = base::ReplaceIgnoringCase(FilePath, "\\\\", "\\");
+    exists = IsFile(FilePath);
+  });
+  return exists;
+}
 
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
   bool any = false;
@@ -14,7 +22,7 @@ void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
     any = true;
     DeleteFile(std::string(folder) + "\\" + name);
   }
-  if (!any) throw std::runtime_error("no such file");
+  if (!any) throw base::Failure("no such file");
 }
 
 void CopyFileBytes(std::string_view from, std::string_view to) { WriteBytes(to, ReadBytes(from)); }

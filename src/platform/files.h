@@ -1,6 +1,6 @@
 // Files and folders. Paths are UTF-8, with "\" or the system's separator, in any letter case: every
 // existing component is found ignoring case, the exact spelling first. Functions without a truth
-// value as result throw std::exception when the system refuses.
+// value as result fail when the system refuses.
 #pragma once
 
 #include <climits>
@@ -16,6 +16,10 @@ std::string SystemPath(std::string_view path);
 // True for a regular file, or a link to one.
 bool IsFile(std::string_view path);
 bool IsFolder(std::string_view path);
+
+// IsFile that reports no failure. Every doubled backslash in the caller's text becomes a single
+// one, so that a folder that ends in one can be joined like any other.
+bool FileExists(std::string& FilePath);
 
 // The names in a folder, sorted ignoring case, hidden ones included.
 std::vector<std::string> SubfolderNames(std::string_view folder);

@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <memory>
-#include <stdexcept>
-#include <system_error>
 #include <vector>
 
+#include "base/failure.h"
 #include "base/text.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -29,7 +29,7 @@ std::string WithSystemSeparators(std::string_view path) {
 FoundPath Find(std::string_view path) { return FindPath(WithSystemSeparators(path)); }
 
 void Check(bool success) {
-  if (!success) throw std::system_error(errno, std::generic_category());
+  if (!success) throw base::Failure(std::strerror(errno));
 }
 
 class OpenFile {
@@ -41,7 +41,7 @@ class OpenFile {
     struct stat status {};
     if (fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode)) {
       close(descriptor_);
-      throw std::runtime_error("not a regular file");
+      throw base::Failure("not a regular file");
     }
     waitForOthers((mode & O_ACCMODE) == O_RDONLY ? LOCK_SH : LOCK_EX);
     size_ = lseek(descriptor_, 0, SEEK_END);
@@ -115,7 +115,7 @@ std::vector<std::string> FileNames(std::string_view folder) {
 
 std::string ReadBytes(std::string_view path, long long most) {
   const OpenFile file(Find(path).path, O_RDONLY);
-  if (file.size() > most) throw std::length_error("file too large");
+  if (file.size() > most) throw base::Failure("file too large");
   std::string bytes(static_cast<std::size_t>(file.size()), '\0');
   std::size_t done = 0;
   while (done < bytes.size()) {
@@ -138,7 +138,7 @@ void WriteBytes(std::string_view path, std::string_view bytes) {
     if (const int error = posix_fallocate(file.descriptor(), 0, size); error != 0) {
       Check(found.status ? ftruncate(file.descriptor(), file.size()) == 0
                          : unlink(found.path.c_str()) == 0);
-      throw std::system_error(error, std::generic_category());
+      throw base::Failure(std::strerror(error));
     }
   }
   while (!bytes.empty()) {

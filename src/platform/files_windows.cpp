@@ -5,10 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 #include <system_error>
 #include <utility>
 
+#include "base/failure.h"
 #include "base/text.h"
 
 // The system's headers rename this one to suit their character set.
@@ -31,7 +31,8 @@ std::string ToText(const fs::path& path) {
 }
 
 void Check(bool success) {
-  if (!success) throw std::system_error(static_cast<int>(GetLastError()), std::system_category());
+  if (!success)
+    throw base::Failure(std::system_category().message(static_cast<int>(GetLastError())));
 }
 
 // The folder's names of regular files or of folders, sorted ignoring case.
@@ -122,9 +123,9 @@ void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
 void DeleteFile(std::string_view path) { Check(DeleteFileW(ToPath(path).c_str()) != 0); }
 
 std::string ReadBytes(std::string_view path, long long most) {
-  if (!IsFile(path)) throw std::runtime_error("not a regular file");
+  if (!IsFile(path)) throw base::Failure("not a regular file");
   if (fs::file_size(ToPath(path)) > static_cast<std::uintmax_t>(most))
-    throw std::length_error("file too large");
+    throw base::Failure("file too large");
   std::ifstream file;
   file.exceptions(std::ios::badbit | std::ios::failbit);
   file.open(ToPath(path), std::ios::binary);

@@ -9,10 +9,10 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
-#include <stdexcept>
-#include <system_error>
 
+#include "base/failure.h"
 #include "base/text.h"
 #include "platform/code_page.h"
 #include "platform/process.h"
@@ -33,7 +33,7 @@ const std::string kFirstPath = [] {
 }();
 
 void Check(bool success) {
-  if (!success) throw std::system_error(errno, std::generic_category());
+  if (!success) throw base::Failure(std::strerror(errno));
 }
 
 bool IsForWindows(const std::string& program) {
@@ -51,7 +51,7 @@ std::optional<std::string> FindWine() {
 // A command that this system can run; a program file for Windows is handed to wine if there is one.
 Command RunnableCommand(std::string_view commandLine) {
   auto command = FindCommand(commandLine);
-  if (!command) throw std::runtime_error("no such program");
+  if (!command) throw base::Failure("no such program");
   if (IsForWindows(command->program)) {
     if (auto wine = FindWine()) {
       command->arguments.insert(command->arguments.begin(), command->program);
@@ -86,7 +86,7 @@ pid_t Spawn(const Command& command, int output, short flags, char* const* enviro
       posix_spawn(&pid, command.program.c_str(), &actions, &attributes, words.data(), environment);
   posix_spawn_file_actions_destroy(&actions);
   posix_spawnattr_destroy(&attributes);
-  if (error != 0) throw std::system_error(error, std::generic_category());
+  if (error != 0) throw base::Failure(std::strerror(error));
   return pid;
 }
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/failure.h"
 #include "platform/code_page.h"
 #include "platform/process.h"
 
@@ -10,7 +11,8 @@ namespace platform {
 namespace {
 
 void Check(bool success) {
-  if (!success) throw std::system_error(static_cast<int>(GetLastError()), std::system_category());
+  if (!success)
+    throw base::Failure(std::system_category().message(static_cast<int>(GetLastError())));
 }
 
 class Handle {

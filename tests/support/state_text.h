@@ -17,7 +17,7 @@ inline std::string StateText() {
   for (std::size_t row = 1; row < Profiles.size(); ++row) {
     const auto number = std::to_string(row);
     if (row > 1 || !Profiles[row].Name.empty()) text += number + ":" + Profiles[row].Name + " ";
-    for (std::size_t slot = 0; slot < core::kSlotCount; ++slot)
+    for (core::Slot slot = 0; slot < core::kSlotCount; ++slot)
       if (const auto& value = Profiles[row].Slots[slot].Value; !value.empty())
         text += number + "." + Profiles[0].Slots[slot].Name + "=" + value + " ";
   }

@@ -6,8 +6,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "base/quietly.h"
 #include "core/module1.h"
-#include "core/startup.h"
 #include "platform/app_folder.h"
 
 namespace support {
@@ -46,14 +46,25 @@ TempApp::TempApp()
   fs::create_directory(Module1::AppFolder);
   platform::SetProgramFolder(Module1::AppFolder);
   platform::SetWorkingFolder(Module1::AppFolder);
-  core::FillSharedState();
+  startup::FillSharedState();
   fs::remove_all(settingsFile());
+  base::OnFault() = [](const std::string& what) {
+    ADD_FAILURE() << "a fault, not a failure: " << what;
+  };
 }
 
 TempApp::~TempApp() {
+  base::OnFault() = nullptr;
   platform::SetProgramFolder(oldProgramFolder_);
   fs::current_path(oldWorkingFolder_);
   fs::remove_all(root_);
+}
+
+std::optional<i18n::Message> TempApp::load() {
+  auto loaded = startup::BeginLoading(Module1::AppFolder).get();
+  const auto failure = loaded.failure;
+  startup::Adopt(std::move(loaded));
+  return failure;
 }
 
 fs::path TempApp::path(std::string_view name) { return fs::path(Module1::AppFolder) / name; }

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "startup/startup.h"
+
 namespace support {
 
 // A fresh AppFolder, whose path holds a blank and letters outside ASCII, as program and working
@@ -15,6 +17,9 @@ class TempApp : public testing::Test {
  protected:
   TempApp();
   ~TempApp() override;
+
+  // What a start loads, into the shared state; the message with which it would end.
+  static std::optional<i18n::Message> load();
 
   // Files by their names in AppFolder. Writing makes missing folders.
   static std::filesystem::path path(std::string_view name);

@@ -4,8 +4,8 @@
 #include <QTest>
 #include <cstdlib>
 
-#include "config/loading.h"
 #include "platform/forms/application.h"
+#include "startup/startup.h"
 
 namespace support {
 namespace {
@@ -46,7 +46,7 @@ UiTest::~UiTest() {
 
 void UiTest::start() {
   form = std::make_unique<ui::Form1>();
-  form->Form_Load(config::StartLoading());
+  form->Form_Load(startup::BeginLoading(Module1::AppFolder));
   ASSERT_EQ(QTest::qWaitForWindowActive(&window(), form->visible() ? 5000 : 0), form->visible());
 }
 

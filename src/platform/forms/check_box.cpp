@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <array>
 
+#include "base/failure.h"
 #include "platform/forms/native.h"
 
 namespace forms {
@@ -47,7 +48,8 @@ int CheckBox::value() const {
 }
 
 void CheckBox::setValue(int value) {
-  Native(widget())->setCheckState(kStates.at(static_cast<std::size_t>(value)));
+  if (value < 0 || value > 2) throw base::Failure("not a state");
+  Native(widget())->setCheckState(kStates[static_cast<std::size_t>(value)]);
 }
 
 }  // namespace forms

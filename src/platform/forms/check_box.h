@@ -13,7 +13,7 @@ class CheckBox : public Control {
   std::string caption() const;
   void setCaption(const std::string& caption);
   int value() const;
-  // Throws std::out_of_range for anything but 0, 1 and 2.
+  // Fails for anything but 0, 1 and 2.
   void setValue(int value);
 
   std::function<void()> onClick;

@@ -3,8 +3,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <stdexcept>
 
+#include "base/failure.h"
 #include "platform/forms/native.h"
 
 namespace forms {
@@ -41,7 +41,7 @@ std::string ComboBox::text() const { return Native(widget())->currentText().toSt
 int ComboBox::selectedRow() const { return Native(widget())->currentIndex(); }
 
 void ComboBox::select(int row) {
-  if (row < 0 || row >= count()) throw std::out_of_range("no such row");
+  if (row < 0 || row >= count()) throw base::Failure("no such row");
   Native(widget())->setCurrentIndex(row);
 }
 

@@ -17,7 +17,7 @@ class ComboBox : public Control {
   std::string text() const;  // of the selected row; empty for none
 
   int selectedRow() const;  // -1 for none
-  // Throws std::out_of_range for a row that is not there.
+  // Fails for a row that is not there.
   void select(int row);
   // Selects the row with exactly this text; false if there is none.
   bool selectText(const std::string& text);

@@ -3,7 +3,6 @@
 #include <QWidget>
 
 #include "base/quietly.h"
-#include "platform/code_page.h"
 #include "platform/files.h"
 
 namespace forms {
@@ -16,10 +15,9 @@ FileList::FileList(Container& parent, const char* name, const Box& box)
 void FileList::setPath(const std::string& folder) {
   folder_ = folder;
   clear();
-  if (!platform::IsWritableValue(folder)) return;
   base::Quietly([&] {
     for (const auto& name : platform::FileNames(folder))
-      if (platform::IsWritableName(name) && platform::IsWritableValue(name)) add(name);
+      if (!accepts || accepts(folder, name)) add(name);
   });
 }
 

@@ -4,8 +4,7 @@
 
 namespace forms {
 
-// The files of one folder whose paths an option can have as its value, sorted ignoring case. Enter
-// in it acts as a double click.
+// The files of one folder, sorted ignoring case. Enter in it acts as a double click.
 class FileList : public ListBox {
  public:
   FileList(Container& parent, const char* name, const Box& box);
@@ -13,6 +12,9 @@ class FileList : public ListBox {
   std::string path() const { return folder_; }
   // A folder that can't be read has no files.
   void setPath(const std::string& folder);
+
+  // Lists only what it accepts; everything where none is set.
+  std::function<bool(const std::string& folder, const std::string& name)> accepts;
 
  private:
   std::string folder_;

@@ -4,7 +4,6 @@
 #include <QTreeWidget>
 
 #include "base/quietly.h"
-#include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
 
@@ -46,19 +45,6 @@ QTreeWidgetItem* NewItem(const std::string& path, const std::string& name) {
   return item;
 }
 
-void ReadFolder(QTreeWidgetItem& item) {
-  if (item.data(0, kReadRole).toBool()) return;
-  item.setData(0, kReadRole, true);
-  QList<QTreeWidgetItem*> children;
-  base::Quietly([&] {
-    for (const auto& name : platform::SubfolderNames(PathOf(item)))
-      if (platform::IsWritableName(name))
-        children.append(NewItem(Joined(PathOf(item), name), name));
-  });
-  if (children.isEmpty()) item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicator);
-  item.addChildren(children);
-}
-
 QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder) {
   for (int row = 0; row < item.childCount(); ++row) {
     const auto path = PathOf(*item.child(row));
@@ -76,7 +62,19 @@ FolderTree::FolderTree(Container& parent, const char* name, const Box& box)
   tree->setUniformRowHeights(true);
   tree->setIndentation(12);
   QObject::connect(tree, &QTreeWidget::itemExpanded, tree,
-                   [](QTreeWidgetItem* item) { ReadFolder(*item); });
+                   [this](QTreeWidgetItem* item) { readFolder(*item); });
+}
+
+void FolderTree::readFolder(QTreeWidgetItem& item) const {
+  if (item.data(0, kReadRole).toBool()) return;
+  item.setData(0, kReadRole, true);
+  QList<QTreeWidgetItem*> children;
+  base::Quietly([&] {
+    for (const auto& name : platform::SubfolderNames(PathOf(item)))
+      if (!accepts || accepts(name)) children.append(NewItem(Joined(PathOf(item), name), name));
+  });
+  if (children.isEmpty()) item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicator);
+  item.addChildren(children);
 }
 
 std::string FolderTree::path() const {
@@ -91,7 +89,7 @@ void FolderTree::setPath(const std::string& root, const std::string& folder) {
   tree->addTopLevelItem(item);
   for (auto* next = item; next; next = ChildOnTheWay(*item, folder)) {
     item = next;
-    ReadFolder(*item);
+    readFolder(*item);
     item->setExpanded(true);
   }
   tree->setCurrentItem(item);

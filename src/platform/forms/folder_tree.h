@@ -2,10 +2,12 @@
 
 #include "platform/forms/control.h"
 
+class QTreeWidgetItem;
+
 namespace forms {
 
-// The folders below one root, hidden ones included, but for names that the configuration file can't
-// hold. They are read as they are opened; one that can't be read shows as empty.
+// The folders below one root, hidden ones included. They are read as they are opened; one that
+// can't be read shows as empty.
 class FolderTree : public Control {
  public:
   FolderTree(Container& parent, const char* name, const Box& box);
@@ -14,6 +16,12 @@ class FolderTree : public Control {
   std::string path() const;
   // Puts another root in place, and selects and shows `folder`, which lies in it.
   void setPath(const std::string& root, const std::string& folder);
+
+  // Shows only folders whose name it accepts; all where none is set.
+  std::function<bool(const std::string& name)> accepts;
+
+ private:
+  void readFolder(QTreeWidgetItem& item) const;
 };
 
 }  // namespace forms

@@ -7,9 +7,9 @@
 #include <QSignalBlocker>
 #include <QToolTip>
 #include <algorithm>
-#include <stdexcept>
 #include <vector>
 
+#include "base/failure.h"
 #include "base/text.h"
 #include "platform/forms/native.h"
 
@@ -93,7 +93,7 @@ NativeList* Native(QWidget* widget) { return static_cast<NativeList*>(widget); }
 
 QListWidgetItem& ItemAt(QWidget* widget, int row) {
   auto* item = Native(widget)->item(row);
-  if (!item) throw std::out_of_range("no such row");
+  if (!item) throw base::Failure("no such row");
   return *item;
 }
 

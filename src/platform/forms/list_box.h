@@ -9,7 +9,7 @@ namespace forms {
 enum class Sorting { No, IgnoringCase };
 
 // Rows of text, each with an integer that travels with it. At most one row is selected; only the
-// program can take the selection away. Rows that are not there throw std::out_of_range.
+// program can take the selection away. Rows that are not there are a failure.
 class ListBox : public Control {
  public:
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,

@@ -7,8 +7,8 @@
 #include <QPixmap>
 #include <cstdlib>
 #include <map>
-#include <stdexcept>
 
+#include "base/failure.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"
@@ -32,8 +32,8 @@ constexpr qsizetype kMostScans = 64;
 // The decoder would fill up what is missing of a file that was cut off.
 void CheckScans(const QByteArray& jpeg) {
   const QByteArray start("\xFF\xDA");
-  if (jpeg.count(start) > kMostScans) throw std::runtime_error("too many scans");
-  if (jpeg.indexOf("\xFF\xD9", jpeg.lastIndexOf(start)) < 0) throw std::runtime_error("cut off");
+  if (jpeg.count(start) > kMostScans) throw base::Failure("too many scans");
+  if (jpeg.indexOf("\xFF\xD9", jpeg.lastIndexOf(start)) < 0) throw base::Failure("cut off");
 }
 
 // Moves the reader to the frame whose width is nearest to the one asked for. The count in the file
@@ -83,10 +83,10 @@ Picture Picture::FromFile(const std::string& path, const char* format, int width
   const auto size = reader.size();
   if (size.width() > kLargestSide || size.height() > kLargestSide ||
       qint64{size.width()} * size.height() > kMostPixels)
-    throw std::runtime_error("picture too large");
+    throw base::Failure("picture too large");
   if (!isIcon) reader.setScaledSize(wanted);
   auto image = reader.read();
-  if (image.isNull()) throw std::runtime_error("not a picture");
+  if (image.isNull()) throw base::Failure("not a picture");
   const int logical = isIcon ? std::min(ToPixels(width), image.width()) : ToPixels(width);
   image.setDevicePixelRatio(static_cast<double>(image.width()) / logical);
   return Picture(std::make_shared<const Data>(Data{QPixmap::fromImage(std::move(image)), {}}));

@@ -2,8 +2,8 @@
 
 #include <QScrollBar>
 #include <QWheelEvent>
-#include <stdexcept>
 
+#include "base/failure.h"
 #include "platform/forms/native.h"
 
 namespace forms {
@@ -42,7 +42,7 @@ int ScrollBar::value() const { return Native(widget())->value(); }
 
 void ScrollBar::setValue(int value) {
   auto* bar = Native(widget());
-  if (value < bar->minimum() || value > bar->maximum()) throw std::out_of_range("outside the bar");
+  if (value < bar->minimum() || value > bar->maximum()) throw base::Failure("outside the bar");
   bar->setValue(value);
 }
 

@@ -12,7 +12,7 @@ class ScrollBar : public Control {
             int largeStep, int value);
 
   int value() const;
-  // Throws std::out_of_range outside the range.
+  // Fails outside the range.
   void setValue(int value);
 
   std::function<void()> onChange;

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "base/quietly.h"
-#include "base/text.h"
 #include "core/module1.h"
 #include "core/option_catalogue.h"
+#include "core/profiles.h"
 
 namespace ui {
 namespace {
@@ -16,14 +16,8 @@ constexpr int kLine = 255;
 
 }  // namespace
 
-int OptionNumber(const char* option) {
-  return base::ToInteger(
-      core::EffectiveValue(static_cast<unsigned char>(core::OptionIndex(option))));
-}
-
 void StageOption(const char* option, int value) {
-  Module1::StagedOptions.at(static_cast<std::size_t>(core::OptionIndex(option))) =
-      std::to_string(value);
+  Module1::StagedOptions[core::OptionIndex(option)] = std::to_string(value);
 }
 
 AdvancedBar::AdvancedBar(forms::Frame& frame, const AdvancedBarPlan& plan)
@@ -57,7 +51,7 @@ void AdvancedBar::barraD_Change() {
 
 void AdvancedBar::load() {
   base::Quietly([this] {
-    barraD_.setValue(std::clamp(OptionNumber(plan_.option), plan_.minimum, plan_.maximum));
+    barraD_.setValue(std::clamp(core::NumberInForce(plan_.option), plan_.minimum, plan_.maximum));
   });
 }
 

@@ -40,8 +40,7 @@ class AdvancedBar {
   forms::Label lblReferencia_, lblReferenciaEnd_;
 };
 
-// The value in force of an option as a number; throws for a text that is none.
-int OptionNumber(const char* option);
+// Leaves a value for the next save.
 void StageOption(const char* option, int value);
 
 }  // namespace ui

@@ -4,6 +4,7 @@
 
 #include "base/quietly.h"
 #include "core/module1.h"
+#include "core/profiles.h"
 
 namespace ui {
 namespace {
@@ -67,7 +68,7 @@ int frmFF::ForceFrame() { return Module1::AdvancedInputSystem == 0 ? 0 : 1; }
 void frmFF::Form_Load() {
   ShowFrame(Module1::AdvancedInputSystem);
   joystick_.load();
-  base::Quietly([this] { chkFF[ForceFrame()].setValue(OptionNumber(kForceFeedback)); });
+  base::Quietly([this] { chkFF[ForceFrame()].setValue(core::NumberInForce(kForceFeedback)); });
   for (const auto& bar : bars_)
     if (bar->frame() == ForceFrame() || bar->frame() == kKeyMouseFrame) bar->load();
   optADV[0].setFocus();

@@ -9,6 +9,7 @@
 namespace ui {
 namespace {
 
+using i18n::Message;
 using i18n::Msg;
 using namespace Module1;
 
@@ -92,8 +93,8 @@ frmInput2::frmInput2() : Form("frmInput2", forms::Border::FixedDialog, 6060, 193
 
 void frmInput2::Form_Load() {
   InputChoice.clear();
-  Label1.setCaption(Msg(160));
-  setTitle(Msg(161));
+  Label1.setCaption(Msg(Message::Keyboard));
+  setTitle(Msg(Message::ChooserTitle));
   const forms::Label* const labels[] = {&Label1, &Label2, &Label3};
   for (int row = 0; row < kRows; ++row) {
     for (const auto name : base::Split(kDevices[row].names, ","))

@@ -1,5 +1,7 @@
 #include "ui/main/form1.h"
 
+#include <utility>
+
 #include "base/quietly.h"
 #include "config/user_settings.h"
 #include "i18n/message_catalogue.h"
@@ -49,16 +51,16 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   mAbout.onClick = [this] { mAbout_Click(); };
 }
 
-void Form1::Form_Load(std::future<std::optional<unsigned char>> loading) {
+void Form1::Form_Load(std::future<startup::Loaded> loading) {
   base::Quietly([&] {
-    // Decoded while the fonts are loaded.
-    auto snapshot =
-        std::async(std::launch::async | std::launch::deferred, forms::Picture::DefaultSnapshot);
     icon_ = forms::Picture::ProgramIcon(imgIcon.box().width);
+    imgDefault.setPicture(forms::Picture::DefaultSnapshot());
     prepareToShow();
-    imgDefault.setPicture(snapshot.get());
   });
-  if (const auto message = loading.get()) return AbortWith(i18n::Msg(*message));
+  auto loaded = loading.get();
+  const auto failure = loaded.failure;
+  startup::Adopt(std::move(loaded));
+  if (failure) return AbortWith(i18n::Msg(*failure));
   base::Quietly([&] {
     SelectGamesFilter();
     ApplyLanguage();
@@ -82,7 +84,8 @@ void Form1::Form_KeyPress(int keyCode) {
 void Form1::mExit_Click() { forms::EndProgram()(0); }
 
 void Form1::AbortWith(const std::string& message) {
-  forms::MsgBox(message, forms::Buttons::Ok, forms::BoxIcon::Critical, i18n::Msg(2));
+  forms::MsgBox(message, forms::Buttons::Ok, forms::BoxIcon::Critical,
+                i18n::Msg(i18n::Message::ErrorTitle));
   Aborting = true;
   forms::EndProgram()(1);
 }

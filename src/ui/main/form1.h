@@ -2,7 +2,6 @@
 #pragma once
 
 #include <future>
-#include <optional>
 
 #include "core/module1.h"
 #include "platform/forms/command_button.h"
@@ -12,6 +11,7 @@
 #include "platform/forms/list_box.h"
 #include "platform/forms/menu_item.h"
 #include "platform/forms/option_button.h"
+#include "startup/startup.h"
 
 namespace ui {
 
@@ -21,9 +21,8 @@ class Form1 : public forms::Form {
  public:
   Form1();
 
-  // Shows the window once the shared state is filled, or ends the program with the message that
-  // comes instead.
-  void Form_Load(std::future<std::optional<unsigned char>> loading);
+  // Takes over what was loaded and shows the window, or ends the program with a message instead.
+  void Form_Load(std::future<startup::Loaded> loading);
   // Lists the games of the selected filter and selects the first one.
   void RefreshGameList();
 

@@ -15,14 +15,9 @@ namespace ui {
 namespace {
 
 using forms::Picture;
+using i18n::Message;
 using i18n::Msg;
 using namespace Module1;
-
-// The first of the folders' files of this name; empty if there is none.
-std::string FindInFolders(const std::array<std::string, 5>& folders, const std::string& file) {
-  const auto slot = core::FolderWith(folders, file);
-  return slot < core::kSearchedFolders ? folders[slot] + "\\" + file : std::string();
-}
 
 std::string PlayTime(const std::string& seconds) {
   int number = 0;
@@ -46,7 +41,7 @@ void Form1::SelectGamesFilter() {
 void Form1::RefreshGameList() {
   imgIcon.setPicture(icon_);
   imgGames.setPicture(imgDefault.picture());
-  lblGameTitle.setCaption(Msg(1));
+  lblGameTitle.setCaption(Msg(Message::NoGamesAvailable));
   lblTP.setCaption({});
   lstGames.clear();
 
@@ -64,7 +59,8 @@ void Form1::RefreshGameList() {
     cmdConfGame.setEnabled(false);
     return;
   }
-  lblInfo.setCaption(" " + std::to_string(count) + Msg(count == 1 ? 17 : 0));
+  lblInfo.setCaption(" " + std::to_string(count) +
+                     Msg(count == 1 ? Message::GameListed : Message::GamesListed));
   lstGames.setAccessibleName(lblInfo.caption());
   lstGames.select(0);
   cmdConfGame.setEnabled(true);
@@ -83,7 +79,7 @@ void Form1::lstGames_Click() {
 void Form1::ShowGameSnapshot(int row) {
   base::Quietly([&] {
     const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
-    const auto file = FindInFolders(SnapPaths, name + ".jpg");
+    const auto file = core::FirstFileIn(SnapPaths, name + ".jpg");
     const auto box = imgGames.box();
     imgGames.setPicture(file.empty() ? imgDefault.picture()
                                      : Picture::FromJpeg(file, box.width, box.height));
@@ -93,7 +89,7 @@ void Form1::ShowGameSnapshot(int row) {
 void Form1::ShowGameIcon(int row) {
   base::Quietly([&] {
     const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
-    const auto file = FindInFolders(IconPaths, name + ".ico");
+    const auto file = core::FirstFileIn(IconPaths, name + ".ico");
     imgIcon.setPicture(file.empty() ? icon_ : Picture::FromIcon(file, imgIcon.box().width));
   });
 }
@@ -108,7 +104,8 @@ void Form1::ShowPlayStats() {
     count = record.PlayCount;
     seconds = record.PlaySeconds;
   }
-  lblTP.setCaption(Msg(5) + count + "\r\n" + Msg(6) + PlayTime(seconds));
+  lblTP.setCaption(Msg(Message::PlayCount) + count + "\r\n" + Msg(Message::PlayTime) +
+                   PlayTime(seconds));
 }
 
 void Form1::optGames_Click(int index) {

@@ -10,10 +10,15 @@
 
 namespace ui {
 
+using i18n::Message;
 using i18n::Msg;
 using namespace Module1;
 
 namespace {
+
+std::string MainTitle() {
+  return "Kestrivane UI®  (Kestrivane " + EmulatorVersion + Msg(Message::Detected);
+}
 
 // The menu's order is not that of the languages' numbers.
 constexpr unsigned char kLanguageOfItem[] = {0, 2, 1};
@@ -28,19 +33,30 @@ void Form1::mLang_Click(int index) {
 void Form1::ApplyLanguage() {
   for (int item = 0; item < 3; ++item)
     mLang[item].setChecked(kLanguageOfItem[item] == CurrentLanguage);
-  setTitle(core::MainTitle());
-  const std::pair<forms::MenuItem&, unsigned char> items[] = {
-      {mFile, 100},       {mLanguage, 101}, {mLang[0], 102},  {mLang[1], 164},
-      {mLang[2], 103},    {mUIcolor, 104},  {mBlack, 105},    {mWhite, 106},
-      {mWindows, 107},    {mExit, 108},     {mTools, 109},    {mConfig, 110},
-      {mClearNVRAM, 111}, {mHelp, 112},     {mHomepage, 113}, {mAbout, 114}};
-  for (const auto& [item, number] : items) item.setCaption(Msg(number));
-  cmdPlay.setCaption(Msg(115));
-  optGames[0].setCaption(Msg(116));
-  optGames[1].setCaption(Msg(117));
-  cmdConfGame.setCaption(Msg(118));
-  imgGames.setAccessibleName(Msg(162));
-  imgIcon.setAccessibleName(Msg(163));
+  setTitle(MainTitle());
+  const std::pair<forms::MenuItem&, Message> items[] = {{mFile, Message::File},
+                                                        {mLanguage, Message::Language},
+                                                        {mLang[0], Message::English},
+                                                        {mLang[1], Message::Portuguese},
+                                                        {mLang[2], Message::Spanish},
+                                                        {mUIcolor, Message::UiColor},
+                                                        {mBlack, Message::Black},
+                                                        {mWhite, Message::White},
+                                                        {mWindows, Message::Windows},
+                                                        {mExit, Message::Exit},
+                                                        {mTools, Message::Tools},
+                                                        {mConfig, Message::Options},
+                                                        {mClearNVRAM, Message::ClearNvrams},
+                                                        {mHelp, Message::Help},
+                                                        {mHomepage, Message::Homepage},
+                                                        {mAbout, Message::About}};
+  for (const auto& [item, message] : items) item.setCaption(Msg(message));
+  cmdPlay.setCaption(Msg(Message::Play));
+  optGames[0].setCaption(Msg(Message::AllGames));
+  optGames[1].setCaption(Msg(Message::OnlyAvailable));
+  cmdConfGame.setCaption(Msg(Message::ConfigureTitle));
+  imgGames.setAccessibleName(Msg(Message::Snapshots));
+  imgIcon.setAccessibleName(Msg(Message::Icons));
   RefreshGameList();
   lstGames.setFocus();
 }
@@ -55,7 +71,7 @@ void Form1::mConfig_Click() {
   OptionScope = core::kGlobalScope;
   ShowOptions();
   if (!OptionsSaved) return;
-  core::FindGameArchives();
+  core::FindGameArchives(GameCatalog, RomPaths);
   RefreshGameList();
   OptionsSaved = false;
 }

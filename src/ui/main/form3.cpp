@@ -7,6 +7,7 @@
 namespace ui {
 namespace {
 
+using i18n::Message;
 using i18n::Msg;
 
 constexpr forms::Colour kBlue{0, 0, 255};
@@ -33,9 +34,9 @@ Form3::Form3() : Form("Form3", forms::Border::None, 4680, 3090) {
 
 void Form3::Form_Load() {
   Label4.setCaption("v" + std::to_string(core::kMajor) + "." + std::to_string(core::kMinor) + " (" +
-                    Msg(16) + " " + base::PaddedNumber(core::kRevision, 3) + ")");
+                    Msg(Message::Build) + " " + base::PaddedNumber(core::kRevision, 3) + ")");
   Image1.setPicture(forms::Picture::ProgramIcon(Image1.box().width));
-  lblCredits.setCaption(Msg(99));
+  lblCredits.setCaption(Msg(Message::Credits));
 }
 
 }  // namespace ui

@@ -20,9 +20,9 @@ Form4::Form4() : Form("Form4", forms::Border::FixedDialog, 10950, 7290) {
 }
 
 void Form4::Form_Load() {
-  setTitle(i18n::Msg(150));
+  setTitle(i18n::Msg(i18n::Message::ErrorReportTitle));
   tbxError.setText(Module1::ErrorText);
-  tbxError.setAccessibleName(i18n::Msg(150));
+  tbxError.setAccessibleName(i18n::Msg(i18n::Message::ErrorReportTitle));
 }
 
 void Form4::Form_KeyPress(int keyCode) {

@@ -6,8 +6,10 @@
 #include "core/emulator_contract.h"
 #include "core/module1.h"
 #include "i18n/message_catalogue.h"
-#include "launch/play_tracking.h"
-#include "launch/process_capture.h"
+#include "launch/error_log.h"
+#include "launch/play_log.h"
+#include "launch/run_loop.h"
+#include "platform/files.h"
 #include "platform/forms/application.h"
 #include "ui/main/form1.h"
 #include "ui/main/form4.h"
@@ -15,6 +17,7 @@
 namespace ui {
 namespace {
 
+using i18n::Message;
 using i18n::Msg;
 
 constexpr forms::Colour kWhite{255, 255, 255};
@@ -29,7 +32,7 @@ frmGaming::frmGaming(Form1& main)
   setColours(kWhite, kBlack);
   lblGameTitle.setWordWrap(true);
   imgIcon.setRole(forms::Role::Picture);
-  imgIcon.setAccessibleName(Msg(163));
+  imgIcon.setAccessibleName(Msg(Message::Icons));
   lblInfo.setBorder(true);
   Label2.setWordWrap(true);
   Label2.setBackColour(kBlack);
@@ -39,10 +42,11 @@ frmGaming::frmGaming(Form1& main)
 }
 
 std::string frmGaming::KeysText() const {
-  constexpr std::pair<unsigned char, const char*> kKeys[] = {
-      {153, ":  ALT + R "},  {154, ":  ALT + P "},   {155, ":  F5 / F6 / F7 "},
-      {156, ":  F9 / F10 "}, {157, ":  F11 / F12 "}, {158, ":  ALT + I "},
-      {159, ":  ALT + T "}};
+  constexpr std::pair<Message, const char*> kKeys[] = {
+      {Message::KeyReset, ":  ALT + R "},         {Message::KeyPause, ":  ALT + P "},
+      {Message::KeyState, ":  F5 / F6 / F7 "},    {Message::KeyMusicVolume, ":  F9 / F10 "},
+      {Message::KeySoundVolume, ":  F11 / F12 "}, {Message::KeyCrosshairs, ":  ALT + I "},
+      {Message::KeyFrameLimit, ":  ALT + T "}};
   std::string text;
   for (const auto& [message, key] : kKeys)
     text += (text.empty() ? "" : "\r\n") + Msg(message) + key;
@@ -53,8 +57,8 @@ void frmGaming::Form_Activate() {
   using namespace Module1;
   lblGameTitle.setCaption(main_.lblGameTitle.caption());
   imgIcon.setPicture(main_.imgIcon.picture());
-  Label1.setCaption(Msg(151));
-  Label2.setCaption(Msg(152));
+  Label1.setCaption(Msg(Message::GamingTime));
+  Label2.setCaption(Msg(Message::InGameKeys));
   lblInfo.setCaption(KeysText());
   StartTime = platform::TheClock().now();
   launch::RunAndWait(LaunchRequest.CommandLine, [this] {
@@ -64,7 +68,7 @@ void frmGaming::Form_Activate() {
   setCloseRefused(false);
   launch::UpdatePlayLog(StartTime);
   auto log = AppFolder + "\\" + std::string(core::kErrorLog);
-  if (launch::FileExists(log)) {
+  if (platform::FileExists(log)) {
     if (launch::ReadErrorLog())
       ShowReport();
     else

@@ -3,7 +3,7 @@
 #include "i18n/message_catalogue.h"
 #include "platform/forms/message_box.h"
 #include "ui/input/frm_input2.h"
-#include "ui/options/form2.h"
+#include "ui/input/input_page.h"
 
 namespace ui {
 
@@ -15,26 +15,26 @@ constexpr int kDeleteKey = 46;
 
 }  // namespace
 
-void Form2::lstInput_Click(int index) {
+void InputPage::lstInput_Click(int index) {
   const int row = lstInput[index].selectedRow();
   for (int other = 0; other < kColumns; ++other)
     if (other != index) lstInput[other].select(row);
 }
 
-void Form2::lstInput_Scroll(int index) {
+void InputPage::lstInput_Scroll(int index) {
   const int row = lstInput[index].topRow();
   for (int other = 0; other < kColumns; ++other)
     if (other != index) lstInput[other].setTopRow(row);
 }
 
-void Form2::lstInput_DblClick(int index) {
+void InputPage::lstInput_DblClick(int index) {
   const int row = lstInput[index].selectedRow();
   if (index == 0 || row < 0) return;
   if (core::IsNumeric(lstInput[1].text(row)) && index != 1) return;
   const bool numeric = core::IsNumeric(lstInput[index].text(row));
   if (numeric) {
-    switch (forms::MsgBox(i18n::Msg(15), forms::Buttons::YesNoCancel, forms::BoxIcon::None,
-                          lstInput[0].text(row))) {
+    switch (forms::MsgBox(i18n::Msg(i18n::Message::EnableQuestion), forms::Buttons::YesNoCancel,
+                          forms::BoxIcon::None, lstInput[0].text(row))) {
       case forms::Answer::Yes:
         InputChoice = "1";
         break;
@@ -46,33 +46,35 @@ void Form2::lstInput_DblClick(int index) {
     }
   } else {
     frmInput2 chooser;
-    chooser.centreOver(*this);
-    chooser.showModal(*this);
+    chooser.centreOver(form_);
+    chooser.showModal(form_);
   }
   if (InputChoice.empty()) return;
   lstInput[index].setText(row, InputChoice);
   if (numeric)
-    EffectiveValues.at(static_cast<std::size_t>(lstInput[0].itemData(row))) = InputChoice;
+    ValueOfRow(row) = InputChoice;
   else
     RebuildValue(row);
 }
 
-void Form2::lstInput_KeyDown(int index, int keyCode) {
+void InputPage::lstInput_KeyDown(int index, int keyCode) {
   const int row = lstInput[index].selectedRow();
   if (index == 0 || keyCode != kDeleteKey || row < 0) return;
   if (core::IsNumeric(lstInput[1].text(row))) {
     // A numeric row goes back to its off state and stays numeric.
     if (index != 1) return;
     lstInput[1].setText(row, "0");
-    EffectiveValues.at(static_cast<std::size_t>(lstInput[0].itemData(row))) = "0";
+    ValueOfRow(row) = "0";
     return;
   }
   lstInput[index].setText(row, {});
   RebuildValue(row);
 }
 
-void Form2::RebuildValue(int row) {
-  EffectiveValues.at(static_cast<std::size_t>(lstInput[0].itemData(row))) =
+std::string& InputPage::ValueOfRow(int row) { return EffectiveValues[lstInput[0].itemData(row)]; }
+
+void InputPage::RebuildValue(int row) {
+  ValueOfRow(row) =
       core::ValueOf({lstInput[1].text(row), lstInput[2].text(row), lstInput[3].text(row)});
 }
 

@@ -1,13 +1,20 @@
-// The folders page: the user's folders, the shader files, and the choice of such a file.
+#include "ui/options/folders_page.h"
+
+#include <algorithm>
+#include <vector>
+
 #include "base/quietly.h"
 #include "base/text.h"
+#include "config/writable_names.h"
 #include "core/option_catalogue.h"
+#include "core/profiles.h"
 #include "i18n/message_catalogue.h"
+#include "platform/forms/form.h"
 #include "platform/forms/message_box.h"
-#include "ui/options/form2.h"
 
 namespace ui {
 
+using i18n::Message;
 using i18n::Msg;
 using namespace Module1;
 
@@ -15,13 +22,20 @@ namespace {
 
 constexpr int kFirstShaderList = 3;
 constexpr int kMaxFolders = 3;
+constexpr core::FolderList* kFolderLists[kFirstShaderList] = {&RomPaths, &SnapPaths, &IconPaths};
+constexpr const char* kShaders[] = {"FragmentShader", "VertexShader"};
 constexpr forms::FontStyle kHint{7.5, true};  // fits the list in every language
 constexpr forms::Colour kRed{255, 0, 0};
 
 }  // namespace
 
-void Form2::WireFolders() {
+FoldersPage::FoldersPage(forms::Frame& frame) : frame_(frame) {
   File1.setVisible(false);
+  Dir1.accepts = config::IsWritableName;
+  File1.accepts = [](const std::string& folder, const std::string& name) {
+    return config::IsWritableName(name) && config::IsWritableValue(folder) &&
+           config::IsWritableValue(name);
+  };
   Drive1.selectFor(AppFolder);
   Dir1.setPath(Drive1.drive(), AppFolder);
   Drive1.onChange = [this] { Drive1_Change(); };
@@ -34,14 +48,13 @@ void Form2::WireFolders() {
     cmdRemovePath[index].onClick = [this, index] { cmdRemovePath_Click(index); };
     order.insert(order.end(), {&cmdAddPath[index], &cmdRemovePath[index], &lstFolders[index]});
   }
-  setTabOrder(order);
+  forms::Form::setTabOrder(order);
 }
 
-void Form2::FillFolderLists() {
-  const std::array<std::string, 5>* const tables[] = {&RomPaths, &SnapPaths, &IconPaths};
+void FoldersPage::Fill() {
   for (std::size_t slot = 1; slot <= kMaxFolders; ++slot) {
     for (int index = 0; index < kFirstShaderList; ++index) {
-      const auto& folder = tables[index]->at(slot);
+      const auto& folder = (*kFolderLists[index])[slot];
       if (folder.empty()) continue;
       lstFolders[index].add(folder);
       cmdRemovePath[index].setEnabled(true);
@@ -49,10 +62,8 @@ void Form2::FillFolderLists() {
       if (slot == kMaxFolders) cmdAddPath[index].setEnabled(false);
     }
   }
-  const char* const shaders[] = {"FragmentShader", "VertexShader"};
   for (int index = kFirstShaderList; index < kLists; ++index) {
-    const auto slot = core::OptionIndex(shaders[index - kFirstShaderList]);
-    const auto value = core::EffectiveValue(static_cast<unsigned char>(slot));
+    const auto value = core::ValueInForce(kShaders[index - kFirstShaderList]);
     if (value.empty()) continue;
     lstFolders[index].add(base::ReplaceIgnoringCase(value, "\"", ""));
     lstFolders[index].select(0);
@@ -61,21 +72,29 @@ void Form2::FillFolderLists() {
   }
 }
 
-void Form2::Drive1_Change() { Dir1.setPath(Drive1.drive(), Drive1.drive()); }
+void FoldersPage::HideFolders() {
+  for (int index = 0; index < kFirstShaderList; ++index) {
+    forms::Control* const controls[] = {&Label1[index], &lstFolders[index], &cmdAddPath[index],
+                                        &cmdRemovePath[index]};
+    for (auto* control : controls) control->setVisible(false);
+  }
+}
 
-void Form2::lstFolders_Click(int index) {
+void FoldersPage::Drive1_Change() { Dir1.setPath(Drive1.drive(), Drive1.drive()); }
+
+void FoldersPage::lstFolders_Click(int index) {
   auto& list = lstFolders[index];
   list.setToolTip(list.text(list.selectedRow()));
 }
 
-void Form2::cmdAddPath_Click(int index) {
+void FoldersPage::cmdAddPath_Click(int index) {
   if (index < kFirstShaderList)
     AddFolder(index);
   else
     StartFileChoice(index);
 }
 
-void Form2::AddFolder(int index) {
+void FoldersPage::AddFolder(int index) {
   auto& list = lstFolders[index];
   const int row = list.add(Dir1.path());
   if (list.count() >= kMaxFolders) cmdAddPath[index].setEnabled(false);
@@ -84,11 +103,12 @@ void Form2::AddFolder(int index) {
   list.setFocus();
 }
 
-void Form2::StartFileChoice(int index) {
+void FoldersPage::StartFileChoice(int index) {
   File1.setPath(Dir1.path());
   File1.setAccessibleName(Label1[index].caption());
   if (File1.count() == 0) {
-    forms::MsgBox(Msg(8), forms::Buttons::Ok, forms::BoxIcon::Exclamation, "Oops!");
+    forms::MsgBox(Msg(Message::FolderIsEmpty), forms::Buttons::Ok, forms::BoxIcon::Exclamation,
+                  "Oops!");
     return;
   }
   ShaderTarget = index;
@@ -98,14 +118,14 @@ void Form2::StartFileChoice(int index) {
   list.setFont(kHint);
   list.setTextColour(kRed);
   list.clear();
-  list.add(Msg(7));
+  list.add(Msg(Message::ShaderHint));
   SetFolderPageEnabled(false);
   File1.setVisible(true);
   File1.select(0);
   File1.setFocus();
 }
 
-void Form2::File1_DblClick() {
+void FoldersPage::File1_DblClick() {
   auto& list = lstFolders[ShaderTarget];
   const auto folder = File1.path();
   const auto* const separator = folder.ends_with('\\') || folder.ends_with('/') ? "" : "\\";
@@ -119,14 +139,12 @@ void Form2::File1_DblClick() {
   File1.setVisible(false);
 }
 
-void Form2::SetFolderPageEnabled(bool state) {
+void FoldersPage::SetFolderPageEnabled(bool state) {
   Dir1.setVisible(state);
   Drive1.setVisible(state);
-  cmdSave.setEnabled(state);
-  btnCancel.setEnabled(state);
+  if (onEnable) onEnable(state);
   for (int index = 0; index < kLists; ++index) {
     const auto entry = static_cast<std::size_t>(index);
-    optOPT[index].setEnabled(state);
     if (!state) {
       SavedAddEnabled[entry] = cmdAddPath[index].enabled();
       SavedRemoveEnabled[entry] = cmdRemovePath[index].enabled();
@@ -139,7 +157,7 @@ void Form2::SetFolderPageEnabled(bool state) {
   }
 }
 
-void Form2::cmdRemovePath_Click(int index) {
+void FoldersPage::cmdRemovePath_Click(int index) {
   auto& list = lstFolders[index];
   const bool removed = base::Quietly([&] {
     const int row = list.selectedRow();
@@ -150,8 +168,40 @@ void Form2::cmdRemovePath_Click(int index) {
       list.select(row <= 1 ? 0 : row - 1);
     cmdAddPath[index].setEnabled(true);
   });
-  if (!removed) forms::MsgBox(Msg(9), forms::Buttons::Ok, forms::BoxIcon::Critical, "Error");
+  if (!removed)
+    forms::MsgBox(Msg(Message::SelectAnItem), forms::Buttons::Ok, forms::BoxIcon::Critical,
+                  "Error");
   list.setFocus();
+}
+
+void FoldersPage::StoreFolders() const {
+  for (int index = 0; index < kFirstShaderList; ++index) {
+    auto& table = *kFolderLists[index];
+    std::fill(table.begin() + 1, table.begin() + 4, std::string());
+    for (int row = 0; row < lstFolders[index].count(); ++row)
+      table.at(static_cast<std::size_t>(row) + 1) = lstFolders[index].text(row);
+  }
+}
+
+void FoldersPage::StageShaders() const {
+  for (int index = kFirstShaderList; index < kLists; ++index) {
+    const auto& list = lstFolders[index];
+    StagedOptions[core::OptionIndex(kShaders[index - kFirstShaderList])] =
+        list.count() > 0 ? '"' + list.text(0) + '"' : std::string();
+  }
+}
+
+void FoldersPage::ApplyLanguage() {
+  Label1[1].setCaption(Msg(Message::Snapshots));
+  Label1[2].setCaption(Msg(Message::Icons));
+  Drive1.setAccessibleName(Msg(Message::FoldersPage));
+  Dir1.setAccessibleName(Msg(Message::FoldersPage));
+  for (int index = 0; index < kLists; ++index) {
+    const auto caption = Label1[index].caption();
+    lstFolders[index].setAccessibleName(caption);
+    cmdAddPath[index].setAccessibleName(caption + " +");
+    cmdRemovePath[index].setAccessibleName(caption + " -");
+  }
 }
 
 }  // namespace ui

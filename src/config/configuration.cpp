@@ -1,0 +1,28 @@
+#include "config/configuration.h"
+
+#include <utility>
+
+#include "core/option_catalogue.h"
+
+namespace config {
+
+Configuration Defaults(const std::string& appFolder) {
+  Configuration configuration;
+  configuration.RomPaths[0] = appFolder + "\\roms";
+  configuration.SnapPaths[0] = appFolder + "\\snaps";
+  configuration.IconPaths[0] = appFolder + "\\icons";
+  configuration.Profiles = {core::DefaultProfile(), core::Profile()};
+  return configuration;
+}
+
+void Adopt(Configuration configuration) {
+  Module1::RomPaths = std::move(configuration.RomPaths);
+  Module1::SnapPaths = std::move(configuration.SnapPaths);
+  Module1::IconPaths = std::move(configuration.IconPaths);
+  Module1::Profiles = std::move(configuration.Profiles);
+  Module1::PlayLog = std::move(configuration.PlayLog);
+  Module1::GameListPref = configuration.GameListPref;
+  Module1::CurrentLanguage = configuration.CurrentLanguage;
+}
+
+}  // namespace config

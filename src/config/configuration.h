@@ -1,0 +1,25 @@
+// What the configuration file says, as a value with the names of the shared state.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/module1.h"
+
+namespace config {
+
+struct Configuration {
+  core::FolderList RomPaths, SnapPaths, IconPaths;
+  std::vector<core::Profile> Profiles;
+  core::PlayRecords PlayLog;
+  unsigned char GameListPref = 0;
+  unsigned char CurrentLanguage = 0;
+};
+
+// What holds without a configuration file, but for the bindings of all games.
+Configuration Defaults(const std::string& appFolder);
+
+// Moves all of it into the shared state.
+void Adopt(Configuration configuration);
+
+}  // namespace config

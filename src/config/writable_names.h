@@ -1,0 +1,17 @@
+// What the configuration file can hold of names and paths.
+#pragma once
+
+#include <string_view>
+
+namespace config {
+
+// Whether a file or folder of this name can be named in the file: UTF-8 without control characters,
+// backslash, asterisk and double quote, which separate or enclose names and paths there on every
+// system.
+bool IsWritableName(std::string_view name);
+
+// Whether a path of such names can also be an option's value there: the rest of the line, or of the
+// file, would be read as something else behind ";", a second "=" and "[ ".
+bool IsWritableValue(std::string_view path);
+
+}  // namespace config

@@ -1,0 +1,56 @@
+#include "launch/play_log.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+#include "base/failure.h"
+#include "base/quietly.h"
+#include "base/text.h"
+#include "config/user_settings.h"
+#include "core/module1.h"
+
+namespace launch {
+namespace {
+
+using namespace Module1;
+
+constexpr long long kLongestUncountedPlay = 20;
+
+// Fails where the sum leaves the 32 bits that the figures are read back in.
+int Sum(int figure, long long more) {
+  if (more > std::numeric_limits<int>::max() - std::max(figure, 0))
+    throw base::Failure("figure too large");
+  return static_cast<int>(figure + more);
+}
+
+// Adds the play to the rows of the game, or to the first free row; false if there is neither.
+bool CountPlay(const std::string& game, long long seconds) {
+  bool counted = false;
+  for (auto& record : PlayLog) {
+    if (record.GameId.empty()) {
+      if (!counted) record = {game, "1", std::to_string(seconds)};
+      return true;
+    }
+    if (record.GameId != game) continue;
+    counted = true;
+    // Both figures must be numbers before either changes.
+    const auto plays = Sum(base::ToInteger(record.PlayCount), 1);
+    const auto total = Sum(base::ToInteger(record.PlaySeconds), seconds);
+    record.PlayCount = std::to_string(plays);
+    record.PlaySeconds = std::to_string(total);
+  }
+  return counted;
+}
+
+}  // namespace
+
+void UpdatePlayLog(platform::Moment start) {
+  base::Quietly([&] {
+    const auto seconds = platform::SecondsSince(start);
+    if (seconds <= kLongestUncountedPlay) return;
+    if (CountPlay(LaunchRequest.RomName, seconds)) config::SaveUserSettings();
+  });
+}
+
+}  // namespace launch

@@ -1,0 +1,83 @@
+#include "startup/startup.h"
+
+#include <utility>
+
+#include "base/quietly.h"
+#include "config/config_reader.h"
+#include "core/emulator_contract.h"
+#include "launch/process_capture.h"
+#include "platform/files.h"
+
+namespace startup {
+namespace {
+
+struct WorkingFolder {
+  const char* tested;
+  const char* created;
+};
+
+constexpr WorkingFolder kWorkingFolders[] = {
+    {"\\roms", "\\ROMs"}, {"\\snaps", "\\Snaps"}, {"\\icons", "\\Icons"}, {"\\config", "\\Config"}};
+
+void DeleteStrayErrorLog(const std::string& appFolder) {
+  auto log = appFolder + "\\" + std::string(core::kErrorLog);
+  if (platform::FileExists(log)) platform::DeleteFile(log);
+}
+
+// Runs the emulator and finds the archives of its games. Fails with a message where the emulator is
+// missing or lists nothing; any other failure ends the step quietly.
+void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
+  auto emulator = appFolder + std::string(core::kEmulatorFile);
+  if (!platform::FileExists(emulator)) {
+    loaded.failure = i18n::Message::EmulatorMissing;
+    return;
+  }
+  auto listing = core::ParseGameListing(
+      launch::ShellExecuteCapture(appFolder + std::string(core::kListingCommand), false));
+  if (!listing) {
+    loaded.failure = i18n::Message::EmulatorSilent;
+    return;
+  }
+  loaded.listing = std::move(*listing);
+  base::Quietly([&] {
+    DeleteStrayErrorLog(appFolder);
+    core::FindGameArchives(loaded.listing.GameCatalog, loaded.configuration.RomPaths);
+  });
+}
+
+Loaded Load(const std::string& appFolder) {
+  Loaded loaded;
+  base::Quietly([&] {
+    EnsureFolders(appFolder);
+    loaded.configuration = config::LoadConfigFile(appFolder);
+    LoadGameCatalog(appFolder, loaded);
+  });
+  return loaded;
+}
+
+}  // namespace
+
+void EnsureFolders(const std::string& appFolder) {
+  base::Quietly([&] {
+    for (const auto& folder : kWorkingFolders)
+      if (!platform::IsFolder(appFolder + folder.tested))
+        platform::MakeFolder(appFolder + folder.created);
+  });
+}
+
+std::future<Loaded> BeginLoading(std::string appFolder) {
+  return std::async(std::launch::async | std::launch::deferred, Load, std::move(appFolder));
+}
+
+void FillSharedState() {
+  Module1::ResetSharedState();
+  config::Adopt(config::Defaults(Module1::AppFolder));
+}
+
+void Adopt(Loaded loaded) {
+  config::Adopt(std::move(loaded.configuration));
+  Module1::EmulatorVersion = std::move(loaded.listing.EmulatorVersion);
+  Module1::GameCatalog = std::move(loaded.listing.GameCatalog);
+}
+
+}  // namespace startup

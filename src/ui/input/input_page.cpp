@@ -1,0 +1,153 @@
+#include "ui/input/input_page.h"
+
+#include <utility>
+
+#include "base/text.h"
+#include "core/profiles.h"
+#include "i18n/message_catalogue.h"
+#include "ui/advanced/frm_ff.h"
+#include "ui/options/restoring.h"
+
+namespace ui {
+
+using i18n::Message;
+using i18n::Msg;
+using namespace Module1;
+
+namespace {
+
+constexpr core::Slot kFirstRestoredSlot = core::kCrosshairsSlot;
+
+struct Group {
+  core::Slot first, last;
+  Message caption;
+};
+
+// By the index of optTypeInputs.
+constexpr Group kGroupsOfInputs[] = {{30, 63, Message::Basics},
+                                     {110, 127, Message::Gun},
+                                     {64, 81, Message::Race},
+                                     {82, 109, Message::Others}};
+constexpr int kGun = 1;
+constexpr int kOthers = 3;
+
+}  // namespace
+
+InputPage::InputPage(forms::Frame& frame, forms::Form& form, const forms::Form& main)
+    : frame_(frame), form_(form), main_(main) {
+  for (const auto* item : {"DirectInput", "XInput", "Raw Input"}) cmbInputType.add(item);
+  cmbInputType.onClick = [this] { cmbInputType_Click(); };
+  lblAdvOpts.makeLink();
+  lblLoadDefaults.makeLink();
+  lblAdvOpts.onClick = [this] { lblAdvOpts_Click(); };
+  lblLoadDefaults.onClick = [this] { lblLoadDefaults_Click(); };
+  optTypeInputs[0].select();
+  optPlayer[0].select();
+  for (auto& group : optTypeInputs) group.onClick = [this] { FillInputLists(); };
+  for (auto& player : optPlayer) player.onClick = [this] { FillInputLists(); };
+  for (int column = 0; column < kColumns; ++column) {
+    auto& list = lstInput[column];
+    if (column + 1 < kColumns) list.hideScrollBar();
+    list.onClick = [this, column] { lstInput_Click(column); };
+    list.onScroll = [this, column] { lstInput_Scroll(column); };
+    list.onDblClick = [this, column] { lstInput_DblClick(column); };
+    list.onKeyDown = [this, column](int keyCode) { lstInput_KeyDown(column, keyCode); };
+  }
+}
+
+void InputPage::LoadBindings() {
+  for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+    EffectiveValues[slot] = Profiles[1].Slots[slot].Value;
+  const auto crosshairs = core::EffectiveValue(core::kCrosshairsSlot);
+  EffectiveValues[core::kCrosshairsSlot] = crosshairs;
+}
+
+void InputPage::StoreBindings() {
+  for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+    Profiles[1].Slots[slot].Value = EffectiveValues[slot];
+  Profiles[1].Slots[core::kCrosshairsSlot].Value = EffectiveValues[core::kCrosshairsSlot];
+}
+
+void InputPage::FillInputLists() {
+  for (auto& list : lstInput) list.clear();
+  int group = 0;
+  while (group < kOthers && !optTypeInputs[group].selected()) ++group;
+  const int player = optPlayer[0].selected() ? 0 : 1;
+  for (auto slot = kGroupsOfInputs[group].first; slot <= kGroupsOfInputs[group].last; ++slot) {
+    const auto& option = Profiles[0].Slots[slot];
+    if (option.Kind != player) continue;
+    AddInputRow(base::ReplaceIgnoringCase(option.Name, "Input", ""), slot,
+                core::CellsOf(EffectiveValues[slot]));
+  }
+  if (group == kGun)
+    AddInputRow("Show Crosshairs", core::kCrosshairsSlot,
+                {EffectiveValues[core::kCrosshairsSlot], {}, {}});
+  for (auto& list : lstInput) list.setTopRow(0);
+}
+
+void InputPage::AddInputRow(const std::string& name, core::Slot slot,
+                            const core::BindingCells& cells) {
+  lstInput[0].setItemData(lstInput[0].add(name), slot);
+  for (int column = 1; column < kColumns; ++column) {
+    const int row = lstInput[column].add(cells[static_cast<std::size_t>(column) - 1]);
+    lstInput[column].describe(row, name);
+  }
+}
+
+void InputPage::cmbInputType_Click() {
+  // One game's options leave the bindings of all games alone.
+  if (OptionScope == core::kGlobalScope) {
+    if (inputSystem() == core::kRawInput)
+      ApplyRawInputNames();
+    else
+      ClearRawInputNames();
+  }
+  Profiles[0].InputMethod = static_cast<unsigned char>(inputSystem());
+  FillInputLists();
+}
+
+void InputPage::ApplyRawInputNames() {
+  for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+    EffectiveValues[slot] =
+        core::WithDeviceNumbers(EffectiveValues[slot], Profiles[0].Slots[slot].Kind + 1);
+}
+
+void InputPage::ClearRawInputNames() {
+  for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+    EffectiveValues[slot] = core::WithoutDeviceNumbers(EffectiveValues[slot]);
+}
+
+void InputPage::lblLoadDefaults_Click() {
+  if (!AskForDefaults()) return;
+  core::ResetInputsToDefaults(Profiles);
+  for (auto slot = kFirstRestoredSlot; slot < core::kSlotCount; ++slot)
+    EffectiveValues[slot] = Profiles[1].Slots[slot].Value;
+  if (inputSystem() == core::kRawInput) ApplyRawInputNames();
+  FillInputLists();
+}
+
+void InputPage::lblAdvOpts_Click() {
+  if (inputSystem() < 0) return;
+  AdvancedInputSystem = static_cast<unsigned char>(inputSystem());
+  frmFF advanced;
+  advanced.centreOver(main_);
+  advanced.showModal(form_);
+}
+
+void InputPage::ApplyLanguage() {
+  for (int group = 0; group < kGroups; ++group)
+    optTypeInputs[group].setCaption(Msg(kGroupsOfInputs[group].caption));
+  Label11.setCaption(Msg(Message::Player));
+  Label8[0].setCaption(Msg(Message::Action));
+  for (int column = 1; column < kColumns; ++column)
+    Label8[column].setCaption(Msg(Message::Button) + std::to_string(column));
+  lblLoadDefaults.setCaption(Msg(Message::RestoreInputs));
+  lblAdvOpts.setCaption(Msg(Message::AdvancedOptions));
+  for (auto& player : optPlayer)
+    player.setAccessibleName(Label11.caption() + " " + player.caption());
+  cmbInputType.setAccessibleName(Msg(Message::InputPage));
+  for (int column = 0; column < kColumns; ++column)
+    lstInput[column].setAccessibleName(Label8[column].caption());
+}
+
+}  // namespace ui

@@ -1,0 +1,38 @@
+#include "ui/options/machine_page.h"
+
+#include "i18n/message_catalogue.h"
+
+namespace ui {
+
+using i18n::Message;
+using i18n::Msg;
+
+MachinePage::MachinePage(forms::Frame& frame) : frame_(frame) {
+  Label6.setWordWrap(true);
+  hslPPC.onChange = [this] { hslPPC_Change(); };
+}
+
+std::vector<OptionControl> MachinePage::options() {
+  auto multiThreaded = ForOption("MultiThreaded", chkMulti);
+  // An emulator too old to know the option must not find it in its file.
+  multiThreaded.staged = [this] {
+    return chkMulti.enabled() ? std::to_string(chkMulti.value()) : std::string();
+  };
+  return {multiThreaded, ForOption("PowerPCFrequency", hslPPC)};
+}
+
+void MachinePage::DisableWhatOldEmulatorsLack() {
+  chkMulti.setEnabled(false);
+  Label6.setEnabled(false);
+}
+
+void MachinePage::hslPPC_Change() { lblPPC.setCaption(std::to_string(hslPPC.value()) + " MHz"); }
+
+void MachinePage::ApplyLanguage() {
+  Label2.setCaption(Msg(Message::PpcFrequency));
+  chkMulti.setCaption(Msg(Message::MultiThreading));
+  Label6.setCaption(Msg(Message::MultiThreadingText));
+  hslPPC.setAccessibleName(Label2.caption());
+}
+
+}  // namespace ui
