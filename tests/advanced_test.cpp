@@ -40,12 +40,13 @@ TEST_F(Advanced, PagesFollowTheInputSystem) {
 TEST_F(Advanced, OddValuesGoToTheNearestEndOrLeaveTheBar) {
   startWith(
       "ForceFeedback = 1|DirectInputConstForceMax = 900|DirectInputFrictionMax = x|"
-      "DirectInputVibrateMax = 7|InputKeySensitivity = -3|InputMouseXDeadZone = 99|");
+      "DirectInputVibrateMax = 7|DirectInputSelfCenterMax = 99999999999|InputKeySensitivity = "
+      "-3|InputMouseXDeadZone = 99|");
   options([](QWidget& window) {
     advanced(window, [](QWidget& dialog) {
       EXPECT_TRUE(get<QCheckBox>(dialog, "chkFF(0)").isChecked());
-      const std::pair<int, const char*> values[] = {{0, "200 %"}, {1, "0 %"}, {2, "0 %"},
-                                                    {3, "7 %"},   {10, "1"},  {9, "50"},
+      const std::pair<int, const char*> values[] = {{0, "200 %"}, {1, "200 %"}, {2, "0 %"},
+                                                    {3, "7 %"},   {10, "1"},    {9, "50"},
                                                     {8, "99 %"},  {4, "0 %"}};
       for (const auto& [bar, text] : values)
         EXPECT_EQ(textOf(dialog, ("lblValue(" + std::to_string(bar) + ")").c_str()), text);
@@ -55,8 +56,14 @@ TEST_F(Advanced, OddValuesGoToTheNearestEndOrLeaveTheBar) {
   EXPECT_EQ(StagedOptions[17], "");
 }
 
-TEST_F(Advanced, OkWaitsForTheNextSave) {
-  startWith("DirectInputConstForceMax = 150|XInputVibrateMax = 20|");
+TEST_F(Advanced, OkWaitsForTheNextSaveOfAllGames) {
+  const std::string game = "[ a ]|DirectInputConstForceMax = 7|InputKeySensitivity = 8|";
+  startWith("DirectInputConstForceMax = 150|XInputVibrateMax = 20|" + game);
+  options([](QWidget& window) {
+    advanced(window, [](QWidget& dialog) { press(dialog, "btnCancel"); });
+    save(window);
+  });
+  EXPECT_EQ(saved(), "DirectInputConstForceMax = 150|XInputVibrateMax = 20|" + game);
   options([](QWidget& window) {
     advanced(window, [](QWidget& dialog) {
       press(dialog, "chkFF(0)");
@@ -71,10 +78,16 @@ TEST_F(Advanced, OkWaitsForTheNextSave) {
     press(window, "btnCancel");
   });
   EXPECT_EQ(StagedOptions[22], "") << "the other system's options are left alone";
+  gameOptions(0, save);
+  EXPECT_EQ(saved(), "DirectInputConstForceMax = 150|XInputVibrateMax = 20|" + game);
   options(save);
-  EXPECT_EQ(saved(),
-            "ForceFeedback = 1|DirectInputConstForceMax = 120|XInputVibrateMax = 20|"
-            "InputKeySensitivity = 100|");
+  const std::string all =
+      "ForceFeedback = 1|DirectInputConstForceMax = 120|XInputVibrateMax = 20|"
+      "InputKeySensitivity = 100|";
+  EXPECT_EQ(saved(), all + game);
+  EXPECT_EQ(StagedOptions[17], "") << "stored once";
+  gameOptions(1, save);
+  EXPECT_EQ(saved(), all + game + "[ b ]|");
 }
 
 TEST_F(Advanced, RawInputStagesTheHiddenForces) {

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "config/config_reader.h"
 #include "config/user_settings.h"
+#include "config/writable_names.h"
 #include "core/option_catalogue.h"
 #include "platform/code_page.h"
 #include "startup/startup.h"
@@ -109,6 +110,50 @@ TEST_F(ConfigWriter, AFailureLeavesTheOldFile) {
   std::filesystem::remove_all(path("Config"));
   WriteConfigFile();
   EXPECT_FALSE(exists("Config"));
+}
+
+TEST_F(ConfigWriter, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
+  const std::string file = "Config/Kestrivane.ini", copy = file + ".unread";
+  const auto load = [&](const std::string& bytes, bool readable = true) {
+    startup::FillSharedState();
+    write(file, bytes);
+    std::filesystem::permissions(path(file), std::filesystem::perms(readable ? 0666 : 0));
+    const support::Unprivileged rights;
+    Adopt(LoadConfigFile(AppFolder));
+  };
+  for (const bool readable : {true, false}) {
+    const std::string bytes = readable ? "Vsync = 0\r\n;InputMethod=x\r\n[ a ]\r\n" : "Vsync = 0";
+    load(bytes, readable);
+    EXPECT_FALSE(exists(copy)) << "nothing was written yet";
+    {
+      const support::Unprivileged rights;
+      WriteConfigFile();
+    }
+    EXPECT_EQ(read(file), bytes) << "no right to write, or none to read what would be lost";
+    std::filesystem::permissions(path(file), std::filesystem::perms(0666));
+    WriteConfigFile();
+    EXPECT_EQ(read(copy), bytes);
+    EXPECT_EQ(read(file), platform::EncodeCodePage(ConfigText()));
+    write(copy, "mine");
+    WriteConfigFile();
+    EXPECT_EQ(read(copy), "mine") << "once";
+    std::filesystem::remove(path(copy));
+  }
+
+  std::string sections;
+  for (int game = 0; game < 254; ++game) sections += "[ g" + std::to_string(game) + " ]\r\n";
+  load(sections);
+  Profiles.pop_back();
+  WriteConfigFile();
+  EXPECT_EQ(read(file), sections) << "the state never held the whole file";
+}
+
+TEST_F(ConfigWriter, KnowsTheGamesThatTheFileCantGiveBack) {
+  for (const auto* name : {"game_a", "a b", "[a]", "ñ", "É®", "global", "a=b", "a\"b"})
+    EXPECT_TRUE(IsWritableGame(name)) << name;
+  for (const auto* name : {"a;b", "a ]", "]", "a*b", "a,b", "Global", "", " a", "a ", "a\tb",
+                           "a\nb", "Kestrivane UI®", ";ROMpaths=a"})
+    EXPECT_FALSE(IsWritableGame(name)) << name;
 }
 
 TEST_F(ConfigWriter, DefaultsGiveInputLinesOnlyAndComeBack) {

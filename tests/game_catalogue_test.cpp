@@ -62,12 +62,17 @@ TEST_F(GameCatalogue, StartTakesTheEmulatorAsItIs) {
   }
 }
 
-TEST_F(GameCatalogue, LogThatCantBeDeletedLeavesTheGames) {
-  addEmulator();
+TEST_F(GameCatalogue, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
+  addGames("a");
+  write("roms/a.zip", "");
   write("error.log", "");
-  const support::Unprivileged rights;
-  EXPECT_FALSE(load());
-  EXPECT_EQ(GameCatalog.size(), 43U);
+  std::filesystem::permissions(path("."), std::filesystem::perms(0555));
+  {
+    const support::Unprivileged rights;
+    EXPECT_FALSE(load());
+  }
+  std::filesystem::permissions(path("."), std::filesystem::perms(0755));
+  EXPECT_TRUE(GameCatalog[0].Available);
 }
 
 TEST_F(GameCatalogue, ArchivesAreTakenFromTheFirstFolderThatHasThem) {

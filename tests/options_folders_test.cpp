@@ -72,8 +72,8 @@ TEST_F(OptionsFolders, TreeOffersWhatCanBeSavedAndOpensOneFolderAtATime) {
 TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
   startWith(";ROMpaths=/r|");
   for (const auto* name :
-       {"shaders/b.fs", "shaders/.A.fs", "empty/nothing/x", "empty/not text \xFF.fs",
-        "empty/a=b.fs", "empty/a;b.fs", "empty/a[ b.fs"})
+       {"shaders/b.fs", "shaders/.A.fs", "empty/nothing/x", "shaders/.not text \xFF.fs",
+        "shaders/a=b.fs", "shaders/a;b.fs", "shaders/a[ b.fs", "shaders/my kestrivane ui®.fs"})
     write(name, "");
   options([](QWidget& window) {
     page(window, 4);
@@ -98,7 +98,16 @@ TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
     EXPECT_FALSE(get(window, "cmdSave").isEnabled() || get(window, "btnCancel").isEnabled());
     auto& files = get<QListWidget>(window, "File1");
     EXPECT_EQ(files.currentItem()->text(), ".A.fs");
-    clickRow(files, 1, true);
+    std::string choices;
+    for (int row = 0; row < files.count(); ++row)
+      choices += (files.item(row)->flags() == Qt::NoItemFlags ? "-" : "") +
+                 files.item(row)->text().toStdString() + "|";
+    EXPECT_EQ(
+        choices,
+        ".A.fs|-.not text \xEF\xBF\xBD.fs|-a;b.fs|-a=b.fs|-a[ b.fs|b.fs|-my kestrivane ui®.fs|");
+    clickRow(files, 2, true);
+    EXPECT_EQ(folders(window, 3), "<-- Select the Shader file with double clic|");
+    clickRow(files, 5, true);
     EXPECT_EQ(folders(window, 3), AppFolder + "/shaders\\b.fs*|");
     EXPECT_EQ(enabled(window, "cmdAddPath"), "11101");
     save(window);

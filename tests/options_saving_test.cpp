@@ -91,6 +91,36 @@ TEST_F(OptionsSaving, OldEmulatorGetsNoThreads) {
   }
 }
 
+TEST_F(OptionsSaving, WhatTheLoadingDidNotReachStaysAsItWas) {
+  const std::string global =
+      "FullScreen = 1|FragmentShader = \"/s\"|SoundVolume = 150|MusicVolume = 7|Balance = 3|";
+  const std::string game = "[ a ]|Throttle = 0|SoundVolume = 160|Balance = 4|";
+  const std::string folders = ";ROMpaths=/r|;SNAPpaths=/s|;InputMethod=1|";
+  startWith(global + game + folders);
+  options(save);
+  EXPECT_EQ(saved(), global + game + folders);
+  gameOptions(0, [](QWidget& window) {
+    EXPECT_EQ(window.windowTitle(), "   Options:   A");
+    EXPECT_TRUE(get(window, "lblGameDef").isVisible());
+    EXPECT_FALSE(get(window, "optOPT(2)").isVisible());
+    press(window, "chkFlipStereo");
+    type(window, "hslBalance", Qt::Key_End);
+    save(window);
+  });
+  EXPECT_EQ(saved(), global + "[ a ]|Throttle = 0|SoundVolume = 160|FlipStereo = 1|Balance = 100|" +
+                         folders);
+}
+
+TEST_F(OptionsSaving, AGameThatTheFileCantNameKeepsNothing) {
+  addGames("'a;b' b");
+  startWith("");
+  gameOptions(0, [](QWidget& window) {
+    press(window, "chkFlipStereo");
+    save(window);
+  });
+  EXPECT_EQ(saved(), "");
+}
+
 TEST_F(OptionsSaving, CustomSizeTakesDigitsAndIsKeptAsTyped) {
   const struct {
     const char *typed, *pasted, *taken, *file;  // no digits return to the default

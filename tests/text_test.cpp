@@ -22,7 +22,7 @@ TEST(Text, NumbersOfAnyOtherFormAreRefused) {
   EXPECT_EQ(ToByte(" 255 "), 255);
   for (const auto* text : {"", "256", "-1", "+1", "1.0", "x", "\t1"})
     EXPECT_ANY_THROW(ToByte(text)) << text;
-  EXPECT_FALSE(ToNumber(std::string(400, '9')));
+  EXPECT_LT(ToNumber("-" + std::string(400, '9')), -1e300) << "a number all the same";
 }
 
 }  // namespace

@@ -150,7 +150,9 @@ std::optional<double> ToNumber(std::string_view text) {
   if (digits.find_first_not_of("0123456789.") != std::string_view::npos) return {};
   double number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return {};
+  if (end != text.data() + text.size() || error == std::errc::invalid_argument) return {};
+  // Too many digits for the type.
+  if (error != std::errc()) return text.starts_with('-') ? -HUGE_VAL : HUGE_VAL;
   return number;
 }
 

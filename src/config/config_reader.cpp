@@ -56,7 +56,7 @@ constexpr std::array<CommentKey, 8> kCommentKeys = {{
     {";SNAPpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.SnapPaths); }},
     {";ICONpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.IconPaths); }},
     {";GameTimeLog=", [](auto value, auto& to) { TakePlayLog(value, to.configuration.PlayLog); }},
-    {"Kestrivane UI®", [](auto, auto& to) { to.result.bannerSeen = true; }},
+    {kBanner, [](auto, auto& to) { to.result.bannerSeen = true; }},
     {";InputMethod=",
      [](auto value, auto& to) { to.configuration.Profiles[1].InputMethod = ToByte(value); }},
     {";GameListPref=",
@@ -128,13 +128,18 @@ Configuration LoadConfigFile(const std::string& appFolder) {
   auto configuration = Defaults(appFolder);
   auto file = appFolder + std::string(core::kConfigFile);
   std::string text;
-  if (!platform::FileExists(file) || !base::Quietly([&] { text = platform::ReadText(file); })) {
+  if (!platform::FileExists(file)) {
     core::ResetInputsToDefaults(configuration.Profiles);
-    return configuration;
-  }
-  const auto parse = ParseConfigText(text, configuration);
-  if (parse.complete && !parse.bannerSeen)
+  } else if (!base::Quietly([&] { text = platform::ReadText(file); })) {
+    core::ResetInputsToDefaults(configuration.Profiles);
+    configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
+  } else if (const auto parse = ParseConfigText(text, configuration); !parse.complete) {
+    configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
+  } else if (!parse.bannerSeen) {
     base::Quietly([&] { platform::CopyFileBytes(file, file + ".bak"); });
+  }
+  if (configuration.Profiles.size() > core::kMaxProfiles)
+    configuration.ConfigFileHeld = core::FileHeld::FirstRowsOnly;
   return configuration;
 }
 

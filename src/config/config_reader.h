@@ -8,6 +8,9 @@
 
 namespace config {
 
+// What a file of ours says in its head, and no other does.
+inline constexpr std::string_view kBanner = "Kestrivane UI®";
+
 // The file's configuration; the default bindings where there is no file or it can't be read.
 // Copies a file that another program wrote to Kestrivane.ini.bak.
 Configuration LoadConfigFile(const std::string& appFolder);

@@ -5,10 +5,12 @@
 
 namespace config {
 
-// The whole file as text. Throws if Profiles has more rows than the format can count.
+// The whole file as text. Fails if Profiles has more rows than the format can count, or had to
+// leave some of the file's out.
 std::string ConfigText();
 
-// Writes the file. A failure is quiet and leaves the file on disk as it was.
+// Writes the file. What a failure kept from being read is copied to Kestrivane.ini.unread first. A
+// failure is quiet and leaves the file on disk as it was.
 void WriteConfigFile();
 
 }  // namespace config

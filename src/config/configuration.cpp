@@ -23,6 +23,7 @@ void Adopt(Configuration configuration) {
   Module1::PlayLog = std::move(configuration.PlayLog);
   Module1::GameListPref = configuration.GameListPref;
   Module1::CurrentLanguage = configuration.CurrentLanguage;
+  Module1::ConfigFileHeld = configuration.ConfigFileHeld;
 }
 
 }  // namespace config

@@ -14,6 +14,7 @@ struct Configuration {
   core::PlayRecords PlayLog;
   unsigned char GameListPref = 0;
   unsigned char CurrentLanguage = 0;
+  core::FileHeld ConfigFileHeld = core::FileHeld::Whole;
 };
 
 // What holds without a configuration file, but for the bindings of all games.

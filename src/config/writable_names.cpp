@@ -3,19 +3,34 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "config/config_reader.h"
 
 namespace config {
+namespace {
+
+bool IsControl(char c) { return c >= 0 && c < 0x20; }
+
+}  // namespace
 
 bool IsWritableName(std::string_view name) {
-  const auto separates = [](char c) {
-    return (c >= 0 && c < 0x20) || c == '\\' || c == '*' || c == '"';
-  };
+  const auto separates = [](char c) { return IsControl(c) || c == '\\' || c == '*' || c == '"'; };
   return base::IsUtf8(name) && std::ranges::none_of(name, separates);
 }
 
 bool IsWritableValue(std::string_view path) {
   return path.find_first_of(";=") == std::string_view::npos &&
-         path.find("[ ") == std::string_view::npos;
+         path.find("[ ") == std::string_view::npos && !base::ContainsIgnoringCase(path, kBanner);
+}
+
+bool IsWritableGame(const std::string& romName) {
+  if (romName.empty() || std::ranges::any_of(romName, IsControl)) return false;
+  auto read = Defaults({});
+  const auto result =
+      ParseConfigText("[ " + romName + " ]\r\n;GameTimeLog=" + romName + ",1,2\r\n", read);
+  const auto& play = read.PlayLog[0];
+  return result.complete && !result.bannerSeen && read.Profiles.size() == 3 &&
+         read.Profiles[2].Name == romName && play.GameId == romName && play.PlayCount == "1" &&
+         play.PlaySeconds == "2" && read.PlayLog[1].GameId.empty();
 }
 
 }  // namespace config

@@ -1,6 +1,7 @@
 // What the configuration file can hold of names and paths.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace config {
@@ -11,7 +12,12 @@ namespace config {
 bool IsWritableName(std::string_view name);
 
 // Whether a path of such names can also be an option's value there: the rest of the line, or of the
-// file, would be read as something else behind ";", a second "=" and "[ ".
+// file, would be read as something else behind ";", a second "=" and "[ ", and the whole line with
+// the program's name in it.
 bool IsWritableValue(std::string_view path);
+
+// Whether a game of this short name can have a section and a play record of its own: they must read
+// back as that game's.
+bool IsWritableGame(const std::string& romName);
 
 }  // namespace config

@@ -12,6 +12,7 @@ void ResetSharedState() {
   LaunchRequest = {};
   InputChoice.clear();
   PlayLog.fill({});
+  ConfigFileHeld = core::FileHeld::Whole;
   ErrorText.clear();
   OptionScope = 0;
   OptionsSaved = false;

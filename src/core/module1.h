@@ -13,7 +13,8 @@ using Slot = int;  // the number of an option
 inline constexpr Slot kSlotCount = 128;
 inline constexpr Slot kGeneralSlotCount = 30;
 inline constexpr Slot kFirstInputSlot = 30;
-inline constexpr Slot kPerGameSlots = 28;  // the first ones can differ for a game
+inline constexpr Slot kPerGameSlots = 28;       // the first ones can differ for a game
+inline constexpr Slot kFirstAdvancedSlot = 16;  // of those that frmFF edits, up to 27
 inline constexpr Slot kCrosshairsSlot = 28;
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref
@@ -52,6 +53,9 @@ struct Profile {
   unsigned char InputMethod = 0;  // 0 DirectInput, 1 XInput, 2 Raw Input
 };
 
+// How much of the configuration file the state holds.
+enum class FileHeld { Whole, UpToAFailure, FirstRowsOnly };
+
 struct Resolution {
   int Width = 0;
   int Height = 0;
@@ -82,6 +86,7 @@ inline std::vector<core::Profile> Profiles;  // 0 Default, 1 Global, then one ro
 inline core::LaunchOrder LaunchRequest;
 inline std::string InputChoice;
 inline core::PlayRecords PlayLog;
+inline core::FileHeld ConfigFileHeld = core::FileHeld::Whole;
 inline std::string ErrorText;
 inline unsigned char OptionScope = 0;  // 254 the global options, else a row of GameCatalog
 inline bool OptionsSaved = false;

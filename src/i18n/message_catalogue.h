@@ -95,7 +95,7 @@ enum class Message : unsigned char {
   GameOptionsTitle = 170,
   RestoreOptions,
   AdvancedOptions,
-  Vsync,
+  Vsync
 };
 
 // The text in the current language, blanks included; English for a language that is not one of the

@@ -8,6 +8,7 @@
 #include "base/quietly.h"
 #include "base/text.h"
 #include "config/user_settings.h"
+#include "config/writable_names.h"
 #include "core/module1.h"
 
 namespace launch {
@@ -24,12 +25,15 @@ int Sum(int figure, long long more) {
   return static_cast<int>(figure + more);
 }
 
-// Adds the play to the rows of the game, or to the first free row; false if there is neither.
+// Adds the play to the rows of the game, or to the first free row; false if there is neither, or
+// the file could not give a new record back.
 bool CountPlay(const std::string& game, long long seconds) {
   bool counted = false;
   for (auto& record : PlayLog) {
     if (record.GameId.empty()) {
-      if (!counted) record = {game, "1", std::to_string(seconds)};
+      if (counted) return true;
+      if (!config::IsWritableGame(game)) return false;
+      record = {game, "1", std::to_string(seconds)};
       return true;
     }
     if (record.GameId != game) continue;

@@ -19,9 +19,12 @@ struct WorkingFolder {
 constexpr WorkingFolder kWorkingFolders[] = {
     {"\\roms", "\\ROMs"}, {"\\snaps", "\\Snaps"}, {"\\icons", "\\Icons"}, {"\\config", "\\Config"}};
 
+// One that can't be deleted stays; the next play reports what it says.
 void DeleteStrayErrorLog(const std::string& appFolder) {
-  auto log = appFolder + "\\" + std::string(core::kErrorLog);
-  if (platform::FileExists(log)) platform::DeleteFile(log);
+  base::Quietly([&] {
+    auto log = appFolder + "\\" + std::string(core::kErrorLog);
+    if (platform::FileExists(log)) platform::DeleteFile(log);
+  });
 }
 
 // Runs the emulator and finds the archives of its games. Fails with a message where the emulator is
@@ -39,10 +42,8 @@ void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
     return;
   }
   loaded.listing = std::move(*listing);
-  base::Quietly([&] {
-    DeleteStrayErrorLog(appFolder);
-    core::FindGameArchives(loaded.listing.GameCatalog, loaded.configuration.RomPaths);
-  });
+  DeleteStrayErrorLog(appFolder);
+  core::FindGameArchives(loaded.listing.GameCatalog, loaded.configuration.RomPaths);
 }
 
 Loaded Load(const std::string& appFolder) {

@@ -15,10 +15,20 @@ FileList::FileList(Container& parent, const char* name, const Box& box)
 void FileList::setPath(const std::string& folder) {
   folder_ = folder;
   clear();
+  firstChoice_ = -1;
   base::Quietly([&] {
-    for (const auto& name : platform::FileNames(folder))
-      if (!accepts || accepts(folder, name)) add(name);
+    for (const auto& name : platform::FileNames(folder)) {
+      const int row = add(name);
+      if (canBeChosen && !canBeChosen(folder, name))
+        disable(row);
+      else if (firstChoice_ < 0)
+        firstChoice_ = row;
+    }
   });
+}
+
+void FileList::selectFirst() {
+  if (firstChoice_ >= 0) select(firstChoice_);
 }
 
 }  // namespace forms

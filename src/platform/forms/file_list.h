@@ -13,11 +13,15 @@ class FileList : public ListBox {
   // A folder that can't be read has no files.
   void setPath(const std::string& folder);
 
-  // Lists only what it accepts; everything where none is set.
-  std::function<bool(const std::string& folder, const std::string& name)> accepts;
+  // Selects the first file that can be chosen, if there is one.
+  void selectFirst();
+
+  // Files that it refuses are listed, but can't be chosen.
+  std::function<bool(const std::string& folder, const std::string& name)> canBeChosen;
 
  private:
   std::string folder_;
+  int firstChoice_ = -1;
 };
 
 }  // namespace forms

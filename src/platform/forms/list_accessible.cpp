@@ -32,7 +32,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
     state.selectable = state.focusable = true;
     state.selected = item()->isSelected();
     state.focused = list_->hasFocus() && list_->currentRow() == row_;
-    state.disabled = !list_->isEnabled();
+    state.disabled = !list_->isEnabled() || item()->flags() == Qt::NoItemFlags;
     state.offscreen = !list_->viewport()->rect().intersects(list_->visualItemRect(item()));
     return state;
   }
@@ -56,7 +56,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   QStringList actionNames() const override { return {pressAction()}; }
   // Later, since what it opens may stay for long and the caller waits.
   void doAction(const QString& name) override {
-    if (name != pressAction() || !isValid() || !list_->isEnabled()) return;
+    if (name != pressAction() || !isValid() || state().disabled) return;
     const auto press = [list = list_.data(), row = row_] {
       if (!list->item(row)) return;
       list->setCurrentRow(row);

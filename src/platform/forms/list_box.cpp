@@ -71,7 +71,8 @@ class NativeList : public RingedView<QListWidget> {
     if (again) Raise(list_.onClick);
   }
   void mouseDoubleClickEvent(QMouseEvent* event) override {
-    if (auto* item = itemAt(event->pos()); item && event->button() == Qt::LeftButton)
+    auto* item = itemAt(event->pos());
+    if (item && item->flags() != Qt::NoItemFlags && event->button() == Qt::LeftButton)
       Q_EMIT itemDoubleClicked(item);
   }
   void keyPressEvent(QKeyEvent* event) override {
@@ -148,6 +149,11 @@ void ListBox::setText(int row, const std::string& text) {
 void ListBox::describe(int row, const std::string& text) {
   const QSignalBlocker quiet(widget());
   ItemAt(widget(), row).setData(Qt::AccessibleDescriptionRole, ToQString(text));
+}
+
+void ListBox::disable(int row) {
+  const QSignalBlocker quiet(widget());
+  ItemAt(widget(), row).setFlags(Qt::NoItemFlags);
 }
 
 int ListBox::count() const { return Native(widget())->count(); }

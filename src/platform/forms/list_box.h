@@ -23,6 +23,9 @@ class ListBox : public Control {
   // What assistive technology tells of a row besides its text.
   void describe(int row, const std::string& text);
 
+  // The row stays, but neither the user nor assistive technology can choose it.
+  void disable(int row);
+
   int count() const;
   std::string text(int row) const;
   int itemData(int row) const;

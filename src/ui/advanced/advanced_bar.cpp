@@ -1,8 +1,10 @@
 #include "ui/advanced/advanced_bar.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/quietly.h"
+#include "base/text.h"
 #include "core/module1.h"
 #include "core/option_catalogue.h"
 #include "core/profiles.h"
@@ -51,7 +53,10 @@ void AdvancedBar::barraD_Change() {
 
 void AdvancedBar::load() {
   base::Quietly([this] {
-    barraD_.setValue(std::clamp(core::NumberInForce(plan_.option), plan_.minimum, plan_.maximum));
+    const auto number = base::ToNumber(core::ValueInForce(plan_.option));
+    if (number)
+      barraD_.setValue(
+          static_cast<int>(std::lround(std::clamp<double>(*number, plan_.minimum, plan_.maximum))));
   });
 }
 

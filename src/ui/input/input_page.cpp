@@ -16,8 +16,6 @@ using namespace Module1;
 
 namespace {
 
-constexpr core::Slot kFirstRestoredSlot = core::kCrosshairsSlot;
-
 struct Group {
   core::Slot first, last;
   Message caption;
@@ -120,8 +118,7 @@ void InputPage::ClearRawInputNames() {
 void InputPage::lblLoadDefaults_Click() {
   if (!AskForDefaults()) return;
   core::ResetInputsToDefaults(Profiles);
-  for (auto slot = kFirstRestoredSlot; slot < core::kSlotCount; ++slot)
-    EffectiveValues[slot] = Profiles[1].Slots[slot].Value;
+  LoadBindings();
   if (inputSystem() == core::kRawInput) ApplyRawInputNames();
   FillInputLists();
 }

@@ -6,7 +6,6 @@
 #include "base/quietly.h"
 #include "base/text.h"
 #include "config/writable_names.h"
-#include "core/option_catalogue.h"
 #include "core/profiles.h"
 #include "i18n/message_catalogue.h"
 #include "platform/forms/form.h"
@@ -32,7 +31,7 @@ constexpr forms::Colour kRed{255, 0, 0};
 FoldersPage::FoldersPage(forms::Frame& frame) : frame_(frame) {
   File1.setVisible(false);
   Dir1.accepts = config::IsWritableName;
-  File1.accepts = [](const std::string& folder, const std::string& name) {
+  File1.canBeChosen = [](const std::string& folder, const std::string& name) {
     return config::IsWritableName(name) && config::IsWritableValue(folder) &&
            config::IsWritableValue(name);
   };
@@ -70,6 +69,7 @@ void FoldersPage::Fill() {
     cmdAddPath[index].setEnabled(false);
     cmdRemovePath[index].setEnabled(true);
   }
+  filled_ = true;
 }
 
 void FoldersPage::HideFolders() {
@@ -121,11 +121,12 @@ void FoldersPage::StartFileChoice(int index) {
   list.add(Msg(Message::ShaderHint));
   SetFolderPageEnabled(false);
   File1.setVisible(true);
-  File1.select(0);
+  File1.selectFirst();
   File1.setFocus();
 }
 
 void FoldersPage::File1_DblClick() {
+  if (File1.selectedRow() < 0) return;
   auto& list = lstFolders[ShaderTarget];
   const auto folder = File1.path();
   const auto* const separator = folder.ends_with('\\') || folder.ends_with('/') ? "" : "\\";
@@ -176,19 +177,23 @@ void FoldersPage::cmdRemovePath_Click(int index) {
 
 void FoldersPage::StoreFolders() const {
   for (int index = 0; index < kFirstShaderList; ++index) {
+    if (!speaks(index)) continue;
     auto& table = *kFolderLists[index];
-    std::fill(table.begin() + 1, table.begin() + 4, std::string());
+    std::fill(table.begin() + 1, table.begin() + 1 + kMaxFolders, std::string());
     for (int row = 0; row < lstFolders[index].count(); ++row)
-      table.at(static_cast<std::size_t>(row) + 1) = lstFolders[index].text(row);
+      table[static_cast<std::size_t>(row) + 1] = lstFolders[index].text(row);
   }
 }
 
-void FoldersPage::StageShaders() const {
+std::vector<std::pair<const char*, std::string>> FoldersPage::StagedShaders() const {
+  std::vector<std::pair<const char*, std::string>> staged;
   for (int index = kFirstShaderList; index < kLists; ++index) {
     const auto& list = lstFolders[index];
-    StagedOptions[core::OptionIndex(kShaders[index - kFirstShaderList])] =
-        list.count() > 0 ? '"' + list.text(0) + '"' : std::string();
+    if (speaks(index))
+      staged.emplace_back(kShaders[index - kFirstShaderList],
+                          list.count() > 0 ? '"' + list.text(0) + '"' : std::string());
   }
+  return staged;
 }
 
 void FoldersPage::ApplyLanguage() {

@@ -4,6 +4,8 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/forms/command_button.h"
 #include "platform/forms/drive_list.h"
@@ -24,8 +26,9 @@ class FoldersPage {
   void Fill();
   // One game's options have no folders of their own.
   void HideFolders();
+  // What a save makes of the lists; those that were never filled nor touched are left out.
   void StoreFolders() const;
-  void StageShaders() const;
+  std::vector<std::pair<const char*, std::string>> StagedShaders() const;
   void ApplyLanguage();
 
   // While a shader file is being chosen the rest of the dialog is locked.
@@ -42,8 +45,10 @@ class FoldersPage {
   void Drive1_Change();
   void lstFolders_Click(int index);
   void SetFolderPageEnabled(bool state);
+  bool speaks(int index) const { return filled_ || lstFolders[index].count() > 0; }
 
   forms::Frame& frame_;
+  bool filled_ = false;
   int ShaderTarget = 0;
   std::array<bool, kLists> SavedAddEnabled{};
   std::array<bool, kLists> SavedRemoveEnabled{};

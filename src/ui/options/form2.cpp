@@ -57,12 +57,15 @@ Form2::Form2(const forms::Form& main)
 }
 
 void Form2::Form_Load() {
+  // Whatever comes of the loading: one game's options must not be taken for those of all.
+  if (!isGlobal()) ShowAsOneGame();
   bool inList = false;
   base::Quietly([&] {
     FillControls();
     inList = video_.SelectResolution();
   });
   if (!inList) base::Quietly([this] { video_.FillCustomResolution(); });
+  for (auto& control : options_) control.stagedAtFirst = control.staged();
   ApplyOptionsLanguage();
   optOPT[0].setFocus();
 }
@@ -70,10 +73,13 @@ void Form2::Form_Load() {
 void Form2::FillControls() {
   video_.FillResolutions();
   InputPage::LoadBindings();
-  for (const auto& control : options_) control.load(core::NumberInForce(control.option));
+  for (auto& control : options_) {
+    control.load(core::NumberInForce(control.option));
+    control.loaded = true;
+  }
   DisableWhatOldEmulatorsLack();
   folders_.Fill();
-  ApplyScope();
+  SelectInputSystem();
   if (input_.inputSystem() < 0) input_.SelectInputSystem(0);
   input_.FillInputLists();
 }
@@ -85,20 +91,22 @@ void Form2::DisableWhatOldEmulatorsLack() {
   machine_.DisableWhatOldEmulatorsLack();
 }
 
-void Form2::ApplyScope() {
-  if (isGlobal()) {
-    setTitle(Msg(Message::GlobalOptionsTitle));
-    input_.SelectInputSystem(Profiles[1].InputMethod);
-    return;
-  }
+void Form2::ShowAsOneGame() {
   setTitle(Msg(Message::GameOptionsTitle) + game().Title);
   optOPT[2].setVisible(false);
   optOPT[4].setLeft(optOPT[3].box().left);
   optOPT[3].setLeft(optOPT[2].box().left);
   folders_.HideFolders();
   lblGameDef.setVisible(true);
-  if (const auto rows = core::RowsOfGame(game().RomName); !rows.empty())
+}
+
+void Form2::SelectInputSystem() {
+  if (isGlobal()) {
+    setTitle(Msg(Message::GlobalOptionsTitle));
+    input_.SelectInputSystem(Profiles[1].InputMethod);
+  } else if (const auto rows = core::RowsOfGame(game().RomName); !rows.empty()) {
     input_.SelectInputSystem(Profiles[rows.back()].InputMethod);
+  }
 }
 
 void Form2::ApplyOptionsLanguage() {

@@ -30,7 +30,8 @@ class Form2 : public forms::Form {
   void Form_Load();
   void FillControls();
   void DisableWhatOldEmulatorsLack();
-  void ApplyScope();
+  void ShowAsOneGame();
+  void SelectInputSystem();
   void ApplyOptionsLanguage();
   void optOPT_Click(int index);
   void btnCancel_Click();
@@ -39,9 +40,9 @@ class Form2 : public forms::Form {
 
   // Saving and restoring.
   void cmdSave_Click();
-  void StageOptions() const;
-  void StoreOptions() const;
-  static core::Profile& RowInHand();
+  std::vector<core::Slot> StageOptions() const;
+  void StoreOptions(const std::vector<core::Slot>& staged) const;
+  static core::Profile* RowInHand();
   void lblGameDef_Click();
 
   // The frames come first: what is built later lies above them.
