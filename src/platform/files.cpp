@@ -15,12 +15,18 @@ bool FileExists(std::string& FilePath) {
   return exists;
 }
 
+std::string Joined(std::string_view folder, std::string_view name) {
+  std::string path(folder);
+  if (!path.ends_with('\\') && !path.ends_with('/')) path += '\\';
+  return path.append(name);
+}
+
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
   bool any = false;
   for (const auto& name : FileNames(folder)) {
     if (!base::FoldCase(name).ends_with(ending)) continue;
     any = true;
-    DeleteFile(std::string(folder) + "\\" + name);
+    DeleteFile(Joined(folder, name));
   }
   if (!any) throw base::Failure("no such file");
 }

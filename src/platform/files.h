@@ -10,6 +10,9 @@
 
 namespace platform {
 
+// The path of what has this name in a folder, with one separator between them.
+std::string Joined(std::string_view folder, std::string_view name);
+
 // The path in the system's spelling; components that don't exist stay as given.
 std::string SystemPath(std::string_view path);
 
