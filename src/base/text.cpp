@@ -121,25 +121,30 @@ std::size_t CharCount(std::string_view text) {
   return chars;
 }
 
-bool IsUtf8(std::string_view text) {
-  while (!text.empty()) {
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC2 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF5 ? 4
-                                             : 0;
-    if (length == 0 || text.size() < length) return false;
-    unsigned code = length == 1 ? lead : lead & (0x7FU >> length);
-    for (const char c : text.substr(1, length - 1)) {
-      if (!IsContinuation(c)) return false;
-      code = code << 6U | (static_cast<unsigned char>(c) & 0x3FU);
-    }
-    const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
-    if (overlong || (code >= 0xD800 && code <= 0xDFFF) || code > 0x10FFFF) return false;
-    text.remove_prefix(length);
+std::optional<char32_t> TakeChar(std::string_view& text) {
+  const auto lead = static_cast<unsigned char>(text.front());
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
+  if (length == 0 || text.size() < length) return {};
+  char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if ((byte & 0xC0U) != 0x80U) return {};
+    code = code << 6U | (byte & 0x3FU);
   }
+  const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
+  if (overlong || (code >= 0xD800 && code <= 0xDFFF) || code > 0x10FFFF) return {};
+  text.remove_prefix(length);
+  return code;
+}
+
+bool IsUtf8(std::string_view text) {
+  while (!text.empty())
+    if (!TakeChar(text)) return false;
   return true;
 }
 

@@ -35,7 +35,10 @@ std::size_t OffsetOfChar(std::string_view text, std::size_t chars);
 
 std::size_t CharCount(std::string_view text);
 
-// Whether the text is well-formed UTF-8.
+// Takes the first character off a text that is not empty. Nothing, and the text as it was, where it
+// does not begin with well-formed UTF-8.
+std::optional<char32_t> TakeChar(std::string_view& text);
+
 bool IsUtf8(std::string_view text);
 
 // A plain decimal number, blanks around it allowed: sign, digits, fraction. Nothing for other text.
