@@ -24,7 +24,7 @@ bool HasZero(std::string_view text) { return text.find('\0') != text.npos; }
 
 void fuzz::Examine(std::string_view bytes) {
   static const TempApp app(
-      {"Kestrivane.exe", "a b.exe", "sub/Run.exe", "sub dir/a", "plain", "folder.exe/x"});
+      {"Kestrivane.exe", "a.exe", "a b.exe", "sub/Run.exe", "sub dir/a", "plain", "folder.exe/x"});
   const auto command = platform::FindCommand(bytes);
   if (!command) return;
 

@@ -4,10 +4,12 @@
 #include "core/module1.h"
 #include "platform/app_folder.h"
 #include "platform/forms/application.h"
+#include "platform/program_start.h"
 #include "startup/startup.h"
 #include "ui/main/form1.h"
 
 int main() {
+  platform::PrepareProgram();
   base::Quietly([] {
     Module1::AppFolder = platform::ProgramFolder();
     // The emulator inherits it.

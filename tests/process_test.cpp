@@ -1,12 +1,16 @@
 #include "platform/process.h"
 
+#include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <thread>
 
 #include "core/module1.h"
 #include "launch/process_capture.h"
+#include "platform/program_start.h"
 #include "support/temp_app.h"
 
 namespace {
@@ -41,8 +45,10 @@ TEST_F(Process, CommandLineIsCutIntoProgramAndArguments) {
                {path("ROMs/My Game.zip").string(), "-input-system=xinput"}},
               {"  kestrivane   a\"b  c\"d  \"\" ", "Kestrivane.exe", {"ab  cd", ""}},
               {"\"" + AppFolder + "\\two words\\tool\" x", "two words/Tool.exe", {"x"}},
-              // The shortest text that names a program wins.
+              // The longest piece that names a program wins.
+              {AppFolder + "\\two words\\tool x", "two words/Tool.exe", {"x"}},
               {AppFolder + "\\two words x", "two.exe", {"words", "x"}},
+              {"two  words", "two.exe", {"words"}},
               {AppFolder + "\\missing.exe -print-games", "", {}},
               {"sh -c true", "", {}},
               {"", "", {}}};
@@ -70,7 +76,7 @@ TEST_F(Process, CaptureGivesStandardOutputAsTextIfThereIsAny) {
     EXPECT_EQ(capture(program), "") << program;
 }
 
-TEST_F(Process, CaptureTakesALongOutputWholeAndDoesNotWaitForAGrandchild) {
+TEST_F(Process, CaptureTakesMuchOutputAndDoesNotWaitForAGrandchild) {
   const auto start = std::chrono::steady_clock::now();
   for (const std::string fault : {"flood", "killed", "grandchild"}) {
     addEmulator(fault);
@@ -78,6 +84,9 @@ TEST_F(Process, CaptureTakesALongOutputWholeAndDoesNotWaitForAGrandchild) {
     EXPECT_EQ(output.size() > 4194304, fault == "flood") << fault;
     EXPECT_TRUE(output.ends_with("Nimblewick's Parade\r\n")) << fault;
   }
+  writeProgram("long.exe", "head -c 40000000 /dev/zero; echo > end");
+  EXPECT_EQ(capture("long.exe").size(), 16U << 20U);
+  EXPECT_TRUE(exists("end"));
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
 }
 
@@ -89,6 +98,53 @@ TEST_F(Process, StartedProgramIsNeitherHeldUpByItsOutputNorTiedToUs) {
   EXPECT_NE(read("session"), std::to_string(getsid(0)) + "\n");
   writeProgram("tool.exe", "kill -9 $$");
   EXPECT_NE(run("tool"), 0);
+}
+
+// Does the step in a child process, which must end by itself then.
+template <class Step>
+pid_t Fork(const Step& step) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  alarm(30);
+  _exit(step());
+}
+
+int StatusOf(pid_t child) {
+  int status = -1;
+  waitpid(child, &status, 0);
+  return status;
+}
+
+TEST_F(Process, AListingEndsWithUsAndAPlayDoesNot) {
+  writeProgram("hang.exe", "echo $$ > new; mv new pid; exec sleep 30");
+  prctl(PR_SET_CHILD_SUBREAPER, 1);
+  for (const bool play : {false, true}) {
+    fs::remove(path("pid"));
+    const auto us = Fork([&] {
+      if (play)
+        run("hang");
+      else
+        capture("hang.exe");
+      return 0;
+    });
+    while (!exists("pid")) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    kill(us, SIGTERM);
+    StatusOf(us);
+    const auto emulator = std::stoi(read("pid"));
+    if (play) kill(emulator, SIGINT);
+    EXPECT_EQ(StatusOf(emulator), play ? SIGINT : SIGKILL);
+  }
+}
+
+TEST_F(Process, AProgramWithoutStandardHandlesRunsOthersAndWithstandsItsOutputsEnd) {
+  writeProgram("tool.exe", "echo out; kill -PIPE $$; echo the signal is ignored");
+  EXPECT_EQ(StatusOf(Fork([&] {
+              for (const int standard : {0, 1, 2}) close(standard);
+              platform::PrepareProgram();
+              for (const int signal : {SIGPIPE, SIGXFSZ}) raise(signal);
+              return capture("tool.exe") == "out\r\n" ? 0 : 1;
+            })),
+            0);
 }
 
 }  // namespace

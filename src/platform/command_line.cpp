@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <utility>
 
 #include "base/text.h"
@@ -22,11 +23,8 @@ std::optional<std::string> FindProgram(std::string name) {
     if (!IsFile(name)) return {};
     return SystemPath(name);
   }
-  for (auto path : {ProgramFolder(), std::string(".")}) {
-    path += '/';
-    path += name;
-    if (IsFile(path)) return SystemPath(path);
-  }
+  for (const auto& folder : {ProgramFolder(), std::string(".")})
+    if (const auto path = Joined(folder, name); IsFile(path)) return SystemPath(path);
   return {};
 }
 
@@ -70,12 +68,14 @@ std::optional<Command> FindCommand(std::string_view commandLine) {
     return MakeCommand(std::move(*program),
                        end == std::string_view::npos ? "" : line.substr(end + 1));
   }
-  for (auto end = line.find(' ');; end = line.find(' ', end + 1)) {
+  for (auto end = std::min(line.size(), kLongestProgram); end > 0 && end != std::string_view::npos;
+       end = line.find_last_of(' ', end - 1)) {
+    const bool isPieceEnd = end == line.size() || line[end] == ' ';
+    if (!isPieceEnd || line[end - 1] == ' ') continue;
     if (auto program = FindProgram(std::string(line.substr(0, end))))
-      return MakeCommand(std::move(*program),
-                         end == std::string_view::npos ? "" : line.substr(end));
-    if (end == std::string_view::npos || end > kLongestProgram) return {};
+      return MakeCommand(std::move(*program), line.substr(end));
   }
+  return {};
 }
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 // program. No shell sees it.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,14 +15,15 @@ struct Command {
   std::vector<std::string> arguments;
 };
 
-// Finds the program of a command line. Without quotes the text up to each blank is tried in turn
-// until a file of that name exists, ".exe" added where the name has no ending; a bare name is
-// looked for in the program's own folder, then in the working folder. Arguments that are paths come
-// in the system's spelling. Nothing if there is no such program.
+// Finds the program of a command line. Without quotes it is the longest piece up to a blank that
+// names a file, so that none planted on the way to it can run. ".exe" is added where the name has
+// no ending; a bare name is looked for in the program's own folder, then in the working folder.
+// Arguments that are paths come in the system's spelling. Nothing if there is no such program.
 std::optional<Command> FindCommand(std::string_view commandLine);
 
-// Runs the command to its end, without time limit, and gives all that it wrote to standard output,
-// as text. Standard error is dropped. Throws if it can't be started.
+// Runs the command to its end, without time limit, and gives the first 16 MB that it wrote to
+// standard output, as text. Standard error is dropped. Our end is also the command's. Throws if it
+// can't be started.
 std::string CaptureOutput(std::string_view commandLine, bool showWindow);
 
 inline constexpr int kStillActive = 259;
@@ -32,9 +34,7 @@ class StartedProcess {
   // Starts the command minimised and without focus, where the system knows that; its output goes
   // nowhere. Throws if it can't be started.
   explicit StartedProcess(std::string_view commandLine);
-#ifdef _WIN32
   ~StartedProcess();
-#endif
   StartedProcess(const StartedProcess&) = delete;
   StartedProcess& operator=(const StartedProcess&) = delete;
 
@@ -42,11 +42,8 @@ class StartedProcess {
   int ExitStatus();
 
  private:
-#ifdef _WIN32
-  void* handle_ = nullptr;
-#else
-  int pid_ = 0;
-#endif
+  struct Native;
+  std::unique_ptr<Native> native_;
   int status_ = kStillActive;
 };
 

@@ -1,36 +1,28 @@
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/ioctl.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
+#include <csignal>
 #include <cstring>
 #include <fstream>
+#include <vector>
 
 #include "base/failure.h"
-#include "base/text.h"
 #include "platform/code_page.h"
+#include "platform/environment_posix.h"
 #include "platform/process.h"
 
 namespace platform {
 namespace {
 
-// Environment and search path as they were at the start: the toolkit takes variables out while it
-// starts on another thread, and they would be read half changed.
-const std::vector<char*> kFirstEnvironment = [] {
-  char** end = environ;
-  while (*end) ++end;
-  return std::vector<char*>(environ, end + 1);
-}();
-const std::string kFirstPath = [] {
-  const char* path = std::getenv("PATH");
-  return path ? path : "";
-}();
+constexpr std::size_t kMostOutput = 16U << 20U;
+constexpr const char* kNothing = "/dev/null";
 
 void Check(bool success) {
   if (!success) throw base::Failure(std::strerror(errno));
@@ -42,52 +34,13 @@ bool IsForWindows(const std::string& program) {
   return start[0] == 'M' && start[1] == 'Z';
 }
 
-std::optional<std::string> FindWine() {
-  for (const auto folder : base::Split(kFirstPath, ":"))
-    if (auto file = std::string(folder) + "/wine"; access(file.c_str(), X_OK) == 0) return file;
-  return {};
-}
-
-// A command that this system can run; a program file for Windows is handed to wine if there is one.
-Command RunnableCommand(std::string_view commandLine) {
-  auto command = FindCommand(commandLine);
-  if (!command) throw base::Failure("no such program");
-  if (IsForWindows(command->program)) {
-    if (auto wine = FindWine()) {
-      command->arguments.insert(command->arguments.begin(), command->program);
-      command->program = *wine;
-    }
-  }
-  return *command;
-}
-
-// Starts the command with nothing at its standard input and error. `output` is the descriptor for
-// its standard output, or -1 for none.
-pid_t Spawn(const Command& command, int output, short flags, char* const* environment) {
-  std::vector<char*> words;
-  words.push_back(const_cast<char*>(command.program.c_str()));
-  for (const auto& argument : command.arguments)
-    words.push_back(const_cast<char*>(argument.c_str()));
-  words.push_back(nullptr);
-
-  posix_spawn_file_actions_t actions;
-  posix_spawnattr_t attributes;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawnattr_init(&attributes);
-  posix_spawnattr_setflags(&attributes, flags);
-  posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-  if (output >= 0)
-    posix_spawn_file_actions_adddup2(&actions, output, 1);
-  else
-    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-  posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
-  pid_t pid = 0;
-  const int error =
-      posix_spawn(&pid, command.program.c_str(), &actions, &attributes, words.data(), environment);
-  posix_spawn_file_actions_destroy(&actions);
-  posix_spawnattr_destroy(&attributes);
-  if (error != 0) throw base::Failure(std::strerror(error));
-  return pid;
+// True once the child has ended.
+bool HasEnded(pid_t pid, bool wait) {
+  pid_t answer = 0;
+  do {
+    answer = waitpid(pid, nullptr, wait ? 0 : WNOHANG);
+  } while (answer < 0 && errno == EINTR);
+  return answer != 0;
 }
 
 class Pipe {
@@ -107,70 +60,141 @@ class Pipe {
     ends_[1] = -1;
   }
 
-  // Appends one read of at most `limit` bytes; false at the end of the stream.
-  bool readInto(std::string& bytes, std::size_t limit) const {
-    std::array<char, 65536> buffer;  // NOLINT: filled by read
-    const auto count = read(ends_[0], buffer.data(), std::min(limit, buffer.size()));
-    if (count < 0 && errno == EINTR) return true;
+  // Reads once; how many bytes, 0 at the end of the stream.
+  std::size_t readInto(char* buffer, std::size_t size) const {
+    ssize_t count = 0;
+    do {
+      count = read(ends_[0], buffer, size);
+    } while (count < 0 && errno == EINTR);
     Check(count >= 0);
-    bytes.append(buffer.data(), static_cast<std::size_t>(count));
-    return count > 0;
+    return static_cast<std::size_t>(count);
   }
 
  private:
   std::array<int, 2> ends_{-1, -1};
 };
 
-// True once the child has ended.
-bool HasEnded(pid_t pid, bool wait) {
-  pid_t answer = 0;
-  do {
-    answer = waitpid(pid, nullptr, wait ? 0 : WNOHANG);
-  } while (answer < 0 && errno == EINTR);
-  return answer != 0;
+void Replace(int descriptor, const char* file) {
+  const int opened = open(file, O_RDWR);
+  if (opened == descriptor) return;
+  dup2(opened, descriptor);
+  close(opened);
 }
 
-// What the pipe holds at this moment; whoever else writes to it is not waited for.
-void DrainInto(std::string& bytes, const Pipe& pipe) {
-  int left = 0;
-  if (ioctl(pipe.readEnd(), FIONREAD, &left) != 0) return;
-  const auto wanted = bytes.size() + static_cast<std::size_t>(left);
-  while (bytes.size() < wanted && pipe.readInto(bytes, wanted - bytes.size())) {
+enum class Lifetime { endsWithUs, itsOwn };
+
+// What the child does before it becomes the program; returns if it can't. Between fork and exec
+// only plain system calls are safe.
+void BecomeProgram(char* const* words, bool forWindows, int output, Lifetime lifetime,
+                   pid_t parent) {
+  if (lifetime == Lifetime::endsWithUs) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) return;
+  } else {
+    setsid();
   }
+  Replace(STDIN_FILENO, kNothing);
+  if (output >= 0)
+    dup2(output, STDOUT_FILENO);
+  else
+    Replace(STDOUT_FILENO, kNothing);
+  Replace(STDERR_FILENO, kNothing);
+  std::signal(SIGPIPE, SIG_DFL);
+  std::signal(SIGXFSZ, SIG_DFL);
+  if (forWindows) execvp(words[0], words);
+  execv(words[1], words + 1);
 }
+
+// Starts the program of a command line with nothing at its standard input and error; one for
+// Windows is handed to wine if there is one. `output` is the descriptor for its standard output, or
+// -1 for none.
+pid_t Start(std::string_view commandLine, int output, Lifetime lifetime, char** environment) {
+  const auto command = FindCommand(commandLine);
+  if (!command) throw base::Failure("no such program");
+  std::string wine = "wine";
+  std::vector<char*> words = {wine.data(), const_cast<char*>(command->program.c_str())};
+  for (const auto& argument : command->arguments)
+    words.push_back(const_cast<char*>(argument.c_str()));
+  words.push_back(nullptr);
+
+  const bool forWindows = IsForWindows(command->program);
+  const auto parent = getpid();
+  Pipe failure;
+  const pid_t child = fork();
+  Check(child >= 0);
+  if (child == 0) {
+    environ = environment;
+    BecomeProgram(words.data(), forWindows, output, lifetime, parent);
+    const int error = errno;
+    _exit(write(failure.writeEnd(), &error, sizeof error) == sizeof error ? 127 : 126);
+  }
+  failure.closeWriteEnd();
+  int error = 0;
+  if (failure.readInto(reinterpret_cast<char*>(&error), sizeof error) == 0) return child;
+  HasEnded(child, true);
+  throw base::Failure(std::strerror(error));
+}
+
+// What a program writes to the pipe; what is beyond the limit is read and dropped.
+class Output {
+ public:
+  // Reads once, at most `most` bytes; how many, 0 at the end of the stream.
+  std::size_t take(const Pipe& pipe, std::size_t most) {
+    std::array<char, 65536> buffer;  // NOLINT: filled by read
+    const auto count = pipe.readInto(buffer.data(), std::min(most, buffer.size()));
+    kept_.append(buffer.data(), std::min(count, kMostOutput - kept_.size()));
+    return count;
+  }
+  // Takes what the pipe holds at this moment; whoever else writes to it is not waited for.
+  void takeRest(const Pipe& pipe) {
+    int size = 0;
+    if (ioctl(pipe.readEnd(), FIONREAD, &size) != 0) return;
+    auto left = static_cast<std::size_t>(size);
+    for (std::size_t count = 1; left > 0 && count > 0; left -= count) count = take(pipe, left);
+  }
+  const std::string& kept() const { return kept_; }
+
+ private:
+  std::string kept_;
+};
 
 }  // namespace
 
 std::string CaptureOutput(std::string_view commandLine, bool /*showWindow*/) {
-  const auto command = RunnableCommand(commandLine);
   Pipe pipe;
-  const pid_t child = Spawn(command, pipe.writeEnd(), 0, kFirstEnvironment.data());
+  const pid_t child = Start(commandLine, pipe.writeEnd(), Lifetime::endsWithUs, FirstEnvironment());
   pipe.closeWriteEnd();
   constexpr int kLookAfterMs = 20;
-  std::string bytes;
+  Output output;
   for (;;) {
     pollfd waiting{pipe.readEnd(), POLLIN, 0};
     const bool readable = poll(&waiting, 1, kLookAfterMs) > 0;
     // The pipe may stay open in a process that the child has left behind.
     if (HasEnded(child, false)) {
-      DrainInto(bytes, pipe);
+      output.takeRest(pipe);
       break;
     }
-    if (readable && !pipe.readInto(bytes, std::string::npos)) {
+    if (readable && output.take(pipe, kMostOutput) == 0) {
       HasEnded(child, true);
       break;
     }
   }
-  return DecodeCodePage(bytes);
+  return DecodeCodePage(output.kept());
 }
 
+struct StartedProcess::Native {
+  pid_t pid;
+};
+
 StartedProcess::StartedProcess(std::string_view commandLine)
-    : pid_(Spawn(RunnableCommand(commandLine), -1, POSIX_SPAWN_SETSID, environ)) {}
+    : native_(new Native{Start(commandLine, -1, Lifetime::itsOwn, environ)}) {}
+
+StartedProcess::~StartedProcess() = default;
 
 int StartedProcess::ExitStatus() {
   if (status_ != kStillActive) return status_;
   int status = 0;
-  const auto answer = waitpid(pid_, &status, WNOHANG);
+  const auto answer = waitpid(native_->pid, &status, WNOHANG);
   if (answer == 0 || (answer < 0 && errno == EINTR)) return kStillActive;
   status_ = answer > 0 && WIFEXITED(status) ? WEXITSTATUS(status) : 1;
   return status_;
