@@ -1,11 +1,9 @@
 #include "platform/files.h"
 #include "platform/file_search.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <chrono>
-#include <csignal>
 
 #include "core/module1.h"
 #include "platform/process.h"
@@ -88,24 +86,6 @@ TEST_F(Files, ThatHaveJustComeOrGoneAreSeen) {
     fs::remove(path("ROMs/game.zip"));
     EXPECT_FALSE(IsFile(name));
   }
-}
-
-TEST_F(Files, WritingReplacesTheWholeContentOrNothing) {
-  write("a.txt", "a long old content");
-  WriteBytes(AppFolder + "\\A.TXT", "new");
-  EXPECT_EQ(read("a.txt"), "new");
-  // A limit on the size of files stands for a full disk.
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limit{};
-  getrlimit(RLIMIT_FSIZE, &limit);
-  const rlimit full{4096, limit.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &full);
-  const std::string large(100000, 'x');
-  EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\a.txt", large));
-  EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\b.txt", large));
-  setrlimit(RLIMIT_FSIZE, &limit);
-  EXPECT_EQ(read("a.txt"), "new");
-  EXPECT_FALSE(exists("b.txt"));
 }
 
 TEST_F(Files, APipeIsNeitherReadNorWaitedFor) {

@@ -38,17 +38,20 @@ void DeleteFilesEndingIn(std::string_view folder, std::string_view ending);
 // Copies the bytes; an existing target is replaced.
 void CopyFileBytes(std::string_view from, std::string_view to);
 
-// The bytes of a regular file. Throws for one of more than `most` bytes.
+// The bytes of a regular file. Throws for one of more than `most` bytes, and rather than give a
+// part of it.
 std::string ReadBytes(std::string_view path, long long most = LLONG_MAX);
 
-// Writes the whole content in place. The old content stands when the file can't be opened or the
-// disk has no room for the new one.
+// Makes these bytes, a text, the file's whole content, in place. Whatever interrupts it short of a
+// kill within its one write, the file has the old text or the new one, empty lines behind it at
+// most. The old text stands when there is no room for the new one, or another program keeps the
+// file. Returns when the disk has it all.
 void WriteBytes(std::string_view path, std::string_view bytes);
 
-// A file of single-byte text as UTF-8. A line ends at CR or CR LF, and each ends in CR LF here.
+// A file of text, decoded by DecodeLines.
 std::string ReadText(std::string_view path);
 
-// UTF-8 text into a single-byte file.
+// Text into a file by EncodeCodePage and WriteBytes.
 void WriteText(std::string_view path, std::string_view text);
 
 }  // namespace platform

@@ -9,13 +9,12 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <fstream>
 #include <vector>
 
-#include "base/failure.h"
 #include "platform/code_page.h"
 #include "platform/environment_posix.h"
+#include "platform/posix_failure.h"
 #include "platform/process.h"
 
 namespace platform {
@@ -23,10 +22,6 @@ namespace {
 
 constexpr std::size_t kMostOutput = 16U << 20U;
 constexpr const char* kNothing = "/dev/null";
-
-void Check(bool success) {
-  if (!success) throw base::Failure(std::strerror(errno));
-}
 
 bool IsForWindows(const std::string& program) {
   std::array<char, 2> start{};

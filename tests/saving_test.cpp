@@ -1,0 +1,149 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+
+#include "base/failure.h"
+#include "core/module1.h"
+#include "platform/files.h"
+#include "support/fake_clock.h"
+#include "support/temp_app.h"
+
+namespace {
+
+constexpr int kKill = 0;
+
+// The system call of a save that fails, counted from 1, and what it leaves in errno.
+struct {
+  int call = 0, error = 0, calls = 0;
+} fault;
+
+template <class... Arguments>
+long Call(long number, Arguments... arguments) {
+  if (++fault.calls != fault.call) return syscall(number, arguments...);
+  if (fault.error == kKill) _exit(0);
+  errno = fault.error;
+  return -1;
+}
+
+}  // namespace
+
+// Those of the library, for this whole program.
+extern "C" {
+int flock(int file, int lock) noexcept { return static_cast<int>(Call(SYS_flock, file, lock)); }
+int fallocate(int file, int mode, off_t at, off_t size) {
+  return static_cast<int>(Call(SYS_fallocate, file, mode, at, size));
+}
+int ftruncate(int file, off_t size) noexcept {
+  return static_cast<int>(Call(SYS_ftruncate, file, size));
+}
+ssize_t pwrite(int file, const void* bytes, size_t size, off_t at) {
+  return Call(SYS_pwrite64, file, bytes, size, at);
+}
+int fdatasync(int file) { return static_cast<int>(Call(SYS_fdatasync, file)); }
+int fsync(int file) { return static_cast<int>(Call(SYS_fsync, file)); }
+}
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+using Module1::AppFolder;
+
+class Saving : public support::TempApp {
+ protected:
+  // Saves, in a child process if it is to be killed; how many of its system calls were made.
+  int save(const std::string& text, int call, int error) const {
+    fault = {call, error, 0};
+    if (call > 0 && error == kKill) {
+      const pid_t child = fork();
+      if (child == 0) WriteBytes(file, text);
+      if (child == 0) _exit(0);
+      waitpid(child, nullptr, 0);
+    } else {
+      try {
+        WriteBytes(file, text);
+      } catch (const base::Failure&) {
+        EXPECT_GT(call, 0);
+      }
+    }
+    fault.call = 0;
+    return fault.calls;
+  }
+  // What a reader makes of the file, whatever empty lines stand at its end.
+  std::string saved() const {
+    if (!exists("a.ini")) return "none";
+    auto text = ReadText(file);
+    return text.erase(text.find_last_not_of("\r\n") + 1);
+  }
+
+  const std::string file = AppFolder + "\\a.ini";
+};
+
+TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNew) {
+  const std::string old = "old\r\n\r\nlines", longer(20000, 'x'), shorter = "new", odd = "odd!";
+  for (const auto& text : {longer, shorter, odd, std::string("new\r\n\r\nlines")}) {
+    write("a.ini", old);
+    const int calls = save(text, 0, 0);
+    EXPECT_EQ(read("a.ini"), text);
+    EXPECT_EQ(calls, text.size() > old.size() ? 6 : text.size() < old.size() ? 7 : 5);
+    for (int call = 1; call <= calls; ++call)
+      for (const int error : {kKill, EIO, ENOSPC, EOPNOTSUPP, EINTR}) {
+        SCOPED_TRACE(text.substr(0, 5) + std::to_string(call) + "/" + std::to_string(error));
+        write("a.ini", old);
+        save(text, call, error);
+        EXPECT_TRUE(saved() == old || saved() == text) << saved();
+        fs::remove(path("a.ini"));
+        save(text, call, error);
+        EXPECT_TRUE(saved() == "none" || saved() == text || (error == kKill && saved().empty()));
+        fs::remove(path("a.ini"));
+      }
+  }
+}
+
+TEST_F(Saving, WithoutRoomNothingChanges) {
+  write("a.ini", "old");
+  fs::create_symlink("target.ini", path("link.ini"));
+  // A limit on the size of files stands for a full disk.
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const rlimit full{4096, limit.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  for (const auto* name : {"\\a.ini", "\\b.ini", "\\link.ini"})
+    EXPECT_THROW(WriteBytes(AppFolder + name, std::string(5000, 'x')), base::Failure);
+  setrlimit(RLIMIT_FSIZE, &limit);
+  EXPECT_EQ(read("a.ini"), "old");
+  EXPECT_FALSE(exists("b.ini") || exists("target.ini"));
+  EXPECT_TRUE(fs::is_symlink(path("link.ini")));
+  WriteBytes(AppFolder + "\\link.ini", "new");
+  EXPECT_EQ(read("target.ini"), "new");
+}
+
+TEST_F(Saving, AnotherProgramsFileIsReadAndAfterASecondNotWritten) {
+  support::FakeClock clock;
+  write("a.ini", "old");
+  const int other = open(path("a.ini").c_str(), O_RDWR);
+  flock(other, LOCK_EX);
+  EXPECT_THROW(WriteBytes(file, "new"), base::Failure);
+  EXPECT_EQ(clock.sleeps.size(), 199U);
+  EXPECT_EQ(ReadBytes(file), "old");
+  clock.onSleep = [&] { flock(other, LOCK_UN); };
+  flock(other, LOCK_EX);
+  WriteBytes(file, "new");
+  EXPECT_EQ(ReadBytes(file), "new");
+
+  // One that has to be asked before anyone else may open the file.
+  std::signal(SIGIO, SIG_IGN);
+  ASSERT_EQ(fcntl(other, F_SETLEASE, F_WRLCK), 0);
+  clock.onSleep = [&] { fcntl(other, F_SETLEASE, F_UNLCK); };
+  EXPECT_EQ(ReadBytes(file), "new");
+  close(other);
+}
+
+}  // namespace
+}  // namespace platform
