@@ -86,6 +86,7 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
       {"a good end in capitals", head + "so: PROGRAM TERMINATED NORMALLY.", false, ""},
       {"a good end in the header", "Program terminated normally.\r\n" + head, true, "7\r\n"},
       {"a report", head + "  one \r\ntw\xF6\r\n  ", true, "one \r\ntwö\r\n  \r\n"},
+      {"lines of LF", "1\n2\n3\n4\n5\n6\n7\none\ntwo", true, "one\r\ntwo\r\n"},
       {"lines of CR", "1\r2\r3\r4\r5\r6\r7\rone\n\rtwo", true, "one\n\r\ntwo\r\n"},
       {"seven lines", head, true, ""},
       {"an empty file", "", true, ""}};
@@ -97,6 +98,15 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
     EXPECT_FALSE(exists("error.log")) << row.what;
   }
   EXPECT_FALSE(ReadErrorLog()) << "none there";
+  const std::string_view end = "Program terminated normally.";
+  for (const std::size_t goodEnd : {0U, 1048560U, 3000000U}) {
+    auto log = head + std::string(3000000, 'x') + "\r\n";
+    if (goodEnd > 0) log.replace(goodEnd, end.size(), end);
+    write("error.log", log);
+    EXPECT_EQ(ReadErrorLog(), goodEnd == 0) << "the good end stands at " << goodEnd;
+    EXPECT_EQ(ErrorText.size(), 1048576U + 5);
+    EXPECT_TRUE(ErrorText.ends_with("x\r\n...")) << "a long report is cut";
+  }
   write("error.log", "a report that would be one");
   const support::Unprivileged rights;
   EXPECT_FALSE(ReadErrorLog()) << "can't be deleted";

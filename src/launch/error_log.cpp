@@ -1,37 +1,115 @@
 #include "launch/error_log.h"
 
+#include <algorithm>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "base/quietly.h"
 #include "base/text.h"
 #include "core/emulator_contract.h"
 #include "core/module1.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 
 namespace launch {
 namespace {
 
-using namespace Module1;
+constexpr std::size_t kPiece = std::size_t{1} << 20U;
+constexpr std::size_t kMostShown = std::size_t{1} << 20U;
 
-std::string LogText() {
-  const auto* const separator = AppFolder.ends_with('\\') || AppFolder.ends_with('/') ? "" : "\\";
-  const auto file = AppFolder + separator + std::string(core::kErrorLog);
-  const auto text = platform::ReadText(file);
-  std::size_t at = 0;
-  for (int line = 0; line < core::kErrorLogHeaderLines && at < text.size(); ++line)
-    at = text.find(base::kLineEnd, at) + base::kLineEnd.size();
-  platform::DeleteFile(file);
-  return text.substr(at);
+// Hands over the file piece by piece, until the taker has enough.
+void ReadPieces(const std::string& file, const std::function<bool(std::string_view)>& takesMore) {
+  long long from = 0;
+  for (;;) {
+    const auto piece = platform::ReadPiece(file, from, kPiece);
+    if (piece.empty() || !takesMore(piece)) return;
+    from += static_cast<long long>(piece.size());
+  }
 }
+
+// Another system's lines have no CR at all.
+char LineEndIn(const std::string& file) {
+  char lineEnd = '\n';
+  ReadPieces(file, [&](std::string_view piece) {
+    if (piece.find('\r') != std::string_view::npos) lineEnd = '\r';
+    return lineEnd == '\n';
+  });
+  return lineEnd;
+}
+
+// What a log of any size comes to, fed piece by piece.
+class Report {
+ public:
+  explicit Report(char lineEnd) : lineEnd_(lineEnd) {}
+
+  void take(std::string_view piece) {
+    if (skipNext_ && piece.starts_with('\n')) piece.remove_prefix(1);
+    skipNext_ = false;
+    while (headerLines_ < core::kErrorLogHeaderLines && !piece.empty()) {
+      const auto end = piece.find(lineEnd_);
+      if (end == std::string_view::npos) return;
+      ++headerLines_;
+      piece.remove_prefix(end + 1);
+      if (lineEnd_ != '\r') continue;
+      skipNext_ = piece.empty();
+      if (piece.starts_with('\n')) piece.remove_prefix(1);
+    }
+    if (headerLines_ < core::kErrorLogHeaderLines) return;
+    lookForGoodEnd(piece);
+    const auto room = std::min(kMostShown - shown_.size(), piece.size());
+    shown_ += piece.substr(0, room);
+    cut_ = cut_ || room < piece.size();
+  }
+
+  bool endedWell() const { return endedWell_; }
+
+  // The report as text. A log that is too long ends in "..." on a line of its own.
+  std::string text() const {
+    auto bytes = std::string_view(shown_);
+    // A character in halves would cost the last line its encoding.
+    constexpr std::size_t kLongestChar = 4;
+    const auto whole = bytes.size() - std::min(bytes.size(), kLongestChar);
+    if (cut_)
+      while (bytes.size() > whole && static_cast<unsigned char>(bytes.back()) >= 0x80)
+        bytes.remove_suffix(1);
+    // One line end ahead tells how the lines end, wherever the others are.
+    const auto lines = platform::DecodeLines(lineEnd_ + std::string(bytes));
+    return lines.substr(base::kLineEnd.size()) + (cut_ ? "..." : "");
+  }
+
+ private:
+  void lookForGoodEnd(std::string_view piece) {
+    // The end of the piece before may hold the beginning.
+    seam_ += piece.substr(0, core::kGoodEnd.size());
+    endedWell_ = endedWell_ || base::ContainsIgnoringCase(seam_, core::kGoodEnd) ||
+                 base::ContainsIgnoringCase(piece, core::kGoodEnd);
+    if (piece.size() > core::kGoodEnd.size())
+      seam_ = piece.substr(piece.size() - core::kGoodEnd.size());
+  }
+
+  char lineEnd_;
+  int headerLines_ = 0;
+  bool skipNext_ = false;  // the line feed of a line end that two pieces share
+  std::string shown_, seam_;
+  bool endedWell_ = false;
+  bool cut_ = false;
+};
 
 }  // namespace
 
 bool ReadErrorLog() {
   bool failed = false;
   base::Quietly([&] {
-    const auto text = LogText();
-    if (base::ContainsIgnoringCase(text, core::kGoodEnd)) return;
-    ErrorText = base::Trim(text);
+    const auto file = platform::Joined(Module1::AppFolder, core::kErrorLog);
+    Report report(LineEndIn(file));
+    ReadPieces(file, [&](std::string_view piece) {
+      report.take(piece);
+      return true;
+    });
+    platform::DeleteFile(file);
+    if (report.endedWell()) return;
+    Module1::ErrorText = base::Trim(report.text());
     failed = true;
   });
   return failed;

@@ -42,6 +42,9 @@ void CopyFileBytes(std::string_view from, std::string_view to);
 // part of it.
 std::string ReadBytes(std::string_view path, long long most = LLONG_MAX);
 
+// At most `most` bytes of a regular file from this place on; none behind its end.
+std::string ReadPiece(std::string_view path, long long from, std::size_t most);
+
 // Makes these bytes, a text, the file's whole content, in place. Whatever interrupts it short of a
 // kill within its one write, the file has the old text or the new one, empty lines behind it at
 // most. The old text stands when there is no room for the new one, or another program keeps the

@@ -83,4 +83,14 @@ std::string ReadBytes(std::string_view path, long long most) {
   return bytes;
 }
 
+std::string ReadPiece(std::string_view path, long long from, std::size_t most) {
+  const OpenFile file(Find(path).path, O_RDONLY);
+  std::string bytes(most, '\0');
+  const auto count = Patiently(
+      [&] { return pread(file.descriptor(), bytes.data(), most, static_cast<off_t>(from)); });
+  Check(count >= 0);
+  bytes.resize(static_cast<std::size_t>(count));
+  return bytes;
+}
+
 }  // namespace platform

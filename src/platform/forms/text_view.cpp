@@ -16,8 +16,18 @@ TextView::TextView(Container& parent, const char* name, const Box& box, const Fo
   edit->setProperty("takesEnter", true);
 }
 
+// The toolkit's time for a line grows with the square of its length, so that endless ones are
+// shown as several.
 void TextView::setText(const std::string& text) {
-  static_cast<QPlainTextEdit*>(widget())->setPlainText(ToQString(text));
+  constexpr qsizetype kLongestLine = 4000;
+  QString shown;
+  for (auto line : ToQString(text).tokenize(u'\n')) {
+    for (; line.size() > kLongestLine; line = line.mid(kLongestLine))
+      shown += line.first(kLongestLine).toString() + u'\n';
+    shown += line.toString() + u'\n';
+  }
+  shown.chop(1);
+  static_cast<QPlainTextEdit*>(widget())->setPlainText(shown);
 }
 
 }  // namespace forms
