@@ -41,14 +41,18 @@ TEST_F(Files, AreFoundInAnySpelling) {
     if (!*file) continue;
     EXPECT_EQ(fs::path(SystemPath(AppFolder + name)).filename(), path(file).filename()) << name;
   }
-  EXPECT_EQ(FoldersWith({AppFolder + "\\ROMS\\loop"},
-                        {"Two.zip", "link.zip", "circle.zip", "folder.zip", "loop"}),
+  EXPECT_EQ(FirstFolderOfEach({"Two.zip", "link.zip", "circle.zip", "folder.zip", "loop"},
+                              {AppFolder + "\\ROMS\\loop"}),
             std::vector<std::size_t>({0, 1, 1, 1, 1}));
+  // An exact spelling in a later folder is no better than another one in an earlier.
   const std::vector<std::string> folders = {AppFolder + "\\none", AppFolder, AppFolder + "\\roms"};
   write("TWO.ZIP", "");
   write("Éclair one.zip", "");
-  EXPECT_EQ(FoldersWith(folders, {"two.zip", "TWO.ZIP", "Two.zip", "éclair one.zip"}),
-            std::vector<std::size_t>({2, 1, 1, 1}));
+  fs::create_directory(path("three.zip"));
+  for (const auto* name : {"Three.ZIP", "ROMs/three.zip", "ROMs/FOUR.zip"}) write(name, "");
+  EXPECT_EQ(FirstFolderOfEach({"two.zip", "éclair one.zip", "Three.ZIP", "three.zip", "four.zip"},
+                              folders),
+            std::vector<std::size_t>({1, 1, 1, 2, 2}));
   EXPECT_TRUE(IsFolder(AppFolder + "\\roms") && IsFolder(AppFolder + "\\roms\\"));
   EXPECT_FALSE(IsFolder(AppFolder + "\\roms\\two.zip"));
   EXPECT_TRUE(IsFile("roms\\two.zip")) << "relative to the working folder";
@@ -61,8 +65,9 @@ TEST_F(Files, NoPathIsTooOddToAskFor) {
   while (deep.size() < 100000) deep += "a/";
   for (const auto& name : {deep, AppFolder + "/" + deep, AppFolder + "/x.zip" + '\0' + "y"})
     EXPECT_FALSE(IsFile(name)) << name.size();
-  EXPECT_EQ(FoldersWith({AppFolder}, {"x.zip", std::string("x.zip\0y", 7), "../none.zip", "X.ZIP"}),
-            std::vector<std::size_t>({0, 1, 1, 0}));
+  EXPECT_EQ(
+      FirstFolderOfEach({"x.zip", std::string("x.zip\0y", 7), "../none.zip", "X.ZIP"}, {AppFolder}),
+      std::vector<std::size_t>({0, 1, 1, 0}));
   EXPECT_FALSE(FindCommand(deep + " -x") || FindCommand(std::string("x.zip\0 y", 8)));
   fs::permissions(AppFolder, fs::perms(0));
   {

@@ -34,11 +34,6 @@ TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
     EXPECT_EQ(LaunchRequest.CommandLine, line + ending);
     ++Profiles[1].InputMethod;
   }
-  Profiles[1].InputMethod = 0;
-  RomPaths[0] = AppFolder + "\\roms";
-  write("ROMs/GAME_A.zip", "");
-  BuildLaunchRequest({"Title", "game_a", true, 2});
-  EXPECT_EQ(LaunchRequest.CommandLine, "Kestrivane \"" + AppFolder + "\\roms\\game_a.zip\"");
 }
 
 TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {

@@ -61,7 +61,7 @@ void FindGameArchives(std::vector<GameEntry>& games, const FolderList& romPaths)
   std::vector<std::string> archives;
   for (std::size_t row = 0; row + 2 < games.size(); ++row)
     archives.push_back(games[row].RomName + ".zip");
-  const auto found = platform::FoldersWith(folders, archives);
+  const auto found = platform::FirstFolderOfEach(archives, folders);
   for (std::size_t row = 0; row < found.size(); ++row) {
     auto& game = games[row];
     game.Available = found[row] < folders.size();
@@ -72,14 +72,6 @@ void FindGameArchives(std::vector<GameEntry>& games, const FolderList& romPaths)
 std::string FirstFileIn(const FolderList& folders, const std::string& name) {
   const auto entry = FolderWith(folders, name);
   return entry < kSearchedFolders ? folders[entry] + "\\" + name : std::string();
-}
-
-// The search may have passed over another spelling in an earlier folder: all that the list needs to
-// know is whether the archive is there, and this question is asked for one game only.
-std::size_t FolderOfArchive(const GameEntry& game) {
-  const std::size_t found = game.RomFolder;
-  return game.Available ? std::min(found, FolderWith(Module1::RomPaths, game.RomName + ".zip"))
-                        : found;
 }
 
 }  // namespace core

@@ -29,8 +29,4 @@ void FindGameArchives(std::vector<GameEntry>& games, const FolderList& romPaths)
 // The path of the first file of this name in the folders; empty if there is none.
 std::string FirstFileIn(const FolderList& folders, const std::string& name);
 
-// The index in RomPaths of the first folder that has an available game's archive in any spelling;
-// GameEntry.RomFolder of any other game.
-std::size_t FolderOfArchive(const GameEntry& game);
-
 }  // namespace core

@@ -13,9 +13,8 @@ void BuildLaunchRequest(const core::GameEntry& game) {
                                                    ".zip\" -input-system=rawinput"};
   const auto inputMethod = Profiles[1].InputMethod;
   if (inputMethod < kEndings.size())
-    LaunchRequest.CommandLine = std::string(core::kPlayCommand) +
-                                RomPaths.at(core::FolderOfArchive(game)) + "\\" + game.RomName +
-                                kEndings.at(inputMethod);
+    LaunchRequest.CommandLine = std::string(core::kPlayCommand) + RomPaths.at(game.RomFolder) +
+                                "\\" + game.RomName + kEndings.at(inputMethod);
   LaunchRequest.RomName = game.RomName;
 }
 

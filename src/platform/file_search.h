@@ -1,4 +1,3 @@
-// Finding many files in some folders.
 #pragma once
 
 #include <cstddef>
@@ -8,10 +7,8 @@
 namespace platform {
 
 // For each of the names, the index of the first folder in which IsFile finds it, or the number of
-// folders. Where the system minds case, a folder that has the name in exactly this spelling comes
-// before all that have another one: folders are listed only for names that none has exactly, each
-// at most once.
-std::vector<std::size_t> FoldersWith(const std::vector<std::string>& folders,
-                                     const std::vector<std::string>& names);
+// folders. For many names at once: no folder is listed twice.
+std::vector<std::size_t> FirstFolderOfEach(const std::vector<std::string>& names,
+                                           const std::vector<std::string>& folders);
 
 }  // namespace platform

@@ -11,7 +11,7 @@
 #include "base/text.h"
 #include "platform/files.h"
 #include "platform/open_file_posix.h"
-#include "platform/path_search.h"
+#include "platform/path_search_posix.h"
 #include "platform/posix_failure.h"
 
 namespace platform {
@@ -44,15 +44,9 @@ std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const
 
 std::string SystemPath(std::string_view path) { return Find(path).path; }
 
-bool IsFile(std::string_view path) {
-  const auto found = Find(path);
-  return found.status && S_ISREG(found.status->st_mode);
-}
+bool IsFile(std::string_view path) { return Find(path).kind == FoundPath::Kind::file; }
 
-bool IsFolder(std::string_view path) {
-  const auto found = Find(path);
-  return found.status && S_ISDIR(found.status->st_mode);
-}
+bool IsFolder(std::string_view path) { return Find(path).kind == FoundPath::Kind::folder; }
 
 void MakeFolder(std::string_view path) { Check(mkdir(Find(path).path.c_str(), 0777) == 0); }
 

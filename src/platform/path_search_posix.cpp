@@ -1,20 +1,14 @@
-#include "platform/path_search.h"
+#include "platform/path_search_posix.h"
 
-#include <dirent.h>
+#include <sys/stat.h>
 
-#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cstdint>
-#include <cstring>
-#include <functional>
-#include <memory>
-#include <string_view>
+#include <optional>
 #include <unordered_map>
-#include <utility>
-#include <vector>
 
-#include "base/text.h"
+#include "platform/folder_names_posix.h"
 
 namespace platform {
 namespace {
@@ -31,87 +25,70 @@ std::int64_t ModifiedAt(const struct stat& status) {
   return status.st_mtim.tv_sec * kSecond + status.st_mtim.tv_nsec;
 }
 
-// The names in one folder as they stood when it was read.
-class FolderNames {
- public:
-  FolderNames(const std::string& folder, const struct stat& status)
-      : device_(status.st_dev), node_(status.st_ino), modified_(ModifiedAt(status)) {
+// The names in a folder, and when it was as it is told here.
+struct Listing {
+  Listing(const std::string& folder, const struct stat& status)
+      : device(status.st_dev), node(status.st_ino), modified(ModifiedAt(status)) {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     // A change within one tick of the file system's clock leaves no trace in the folder's time, so
     // only a folder that had come to rest before it was read can be trusted later.
-    const std::int64_t tick = modified_ % kSecond == 0 ? 2 * kSecond : kSecond / 20;
-    atRest_ = std::chrono::nanoseconds(now).count() - modified_ > tick;
-
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
-    while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
-      index_.emplace_back(HashOf(entry->d_name), static_cast<std::uint32_t>(names_.size()));
-      names_.append(entry->d_name, std::strlen(entry->d_name) + 1);
-    }
-    std::sort(index_.begin(), index_.end());
+    const std::int64_t tick = modified % kSecond == 0 ? 2 * kSecond : kSecond / 20;
+    atRest = std::chrono::nanoseconds(now).count() - modified > tick;
+    names.emplace(folder);
   }
 
   bool provablySame(const struct stat& status) const {
-    return atRest_ && device_ == status.st_dev && node_ == status.st_ino &&
-           modified_ == ModifiedAt(status);
+    return atRest && device == status.st_dev && node == status.st_ino &&
+           modified == ModifiedAt(status);
   }
 
-  // The name as the folder spells it, or nothing.
-  const char* find(std::string_view name) const {
-    const auto hash = HashOf(name);
-    for (auto at = std::lower_bound(index_.begin(), index_.end(), std::pair(hash, 0U));
-         at != index_.end() && at->first == hash; ++at) {
-      const char* spelled = names_.c_str() + at->second;
-      if (base::FoldCase(spelled) == base::FoldCase(name)) return spelled;
-    }
-    return nullptr;
-  }
-
- private:
-  static std::uint32_t HashOf(std::string_view name) {
-    return static_cast<std::uint32_t>(std::hash<std::string>()(base::FoldCase(name)));
-  }
-
-  dev_t device_;
-  ino_t node_;
-  std::int64_t modified_;
-  bool atRest_ = false;
-  std::string names_;  // one after the other, each with its zero
-  std::vector<std::pair<std::uint32_t, std::uint32_t>> index_;  // hash, offset in names_
+  dev_t device;
+  ino_t node;
+  std::int64_t modified;
+  bool atRest = false;
+  std::optional<FolderNames> names;  // read last
 };
 
 constexpr std::size_t kRememberedFolders = 16;
 
 const FolderNames& NamesIn(const std::string& folder, const struct stat& status) {
-  thread_local std::unordered_map<std::string, FolderNames> remembered;
-  const auto at = remembered.find(folder);
-  if (at != remembered.end()) {
-    if (!at->second.provablySame(status)) at->second = FolderNames(folder, status);
-    return at->second;
+  thread_local std::unordered_map<std::string, Listing> remembered;
+  auto at = remembered.find(folder);
+  if (at == remembered.end()) {
+    if (remembered.size() >= kRememberedFolders) remembered.clear();
+    at = remembered.emplace(folder, Listing(folder, status)).first;
+  } else if (!at->second.provablySame(status)) {
+    at->second = Listing(folder, status);
   }
-  if (remembered.size() >= kRememberedFolders) remembered.clear();
-  return remembered.emplace(folder, FolderNames(folder, status)).first->second;
+  return *at->second.names;
+}
+
+FoundPath::Kind KindOf(const std::optional<struct stat>& status) {
+  using Kind = FoundPath::Kind;
+  if (!status) return Kind::nothing;
+  if (S_ISREG(status->st_mode)) return Kind::file;
+  return S_ISDIR(status->st_mode) ? Kind::folder : Kind::other;
 }
 
 }  // namespace
 
 FoundPath FindPath(const std::string& path) {
   // The system takes neither a path this long nor one with a zero in it, where it would stop.
-  if (path.size() >= PATH_MAX || path.find('\0') != std::string::npos) return {path, {}};
-  FoundPath found{path, StatusOf(path)};
-  if (found.status || path.empty()) return found;
+  if (path.size() >= PATH_MAX || path.find('\0') != std::string::npos) return {path};
+  const auto exact = KindOf(StatusOf(path));
   const auto nameEnd = path.find_last_not_of('/') + 1;
-  if (nameEnd == 0 || path == ".") return found;
+  if (exact != FoundPath::Kind::nothing || nameEnd == 0 || path == ".") return {path, exact};
+
   const auto nameStart = path.find_last_of('/', nameEnd - 1) + 1;
   const auto name = path.substr(nameStart, nameEnd - nameStart);
-  const auto folder = FindPath(nameStart == 0 ? "." : path.substr(0, nameStart));
-  found.path = folder.path.ends_with('/') ? folder.path + name : folder.path + "/" + name;
-  if (!folder.status || !S_ISDIR(folder.status->st_mode)) return found;
-  found.status = StatusOf(found.path);
-  if (found.status) return found;
-  if (const char* spelled = NamesIn(folder.path, *folder.status).find(name)) {
-    found.path.replace(found.path.size() - name.size(), name.size(), spelled);
-    found.status = StatusOf(found.path);
-  }
+  auto folder = FindPath(nameStart == 0 ? "." : path.substr(0, nameStart)).path;
+  const auto status = StatusOf(folder);
+  if (!folder.ends_with('/')) folder += '/';
+  FoundPath found{folder + name, KindOf(StatusOf(folder + name))};
+  if (found.kind != FoundPath::Kind::nothing || KindOf(status) != FoundPath::Kind::folder)
+    return found;
+  if (const char* const spelled = NamesIn(folder, *status).find(name))
+    found = {folder + spelled, KindOf(StatusOf(folder + spelled))};
   return found;
 }
 
