@@ -4,7 +4,10 @@
 #include <sys/stat.h>
 
 #include <chrono>
+#include <fstream>
+#include <thread>
 
+#include "config/user_settings.h"
 #include "core/module1.h"
 #include "platform/process.h"
 #include "startup/startup.h"
@@ -98,6 +101,17 @@ TEST_F(Files, APipeIsNeitherReadNorWaitedFor) {
   EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(ReadBytes(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
+}
+
+TEST_F(Files, ASettingsStoreThatAnotherProgramKeepsIsLeftToItself) {
+  const auto lock = settingsFile().string() + ".lock";
+  std::ofstream(lock) << "another";
+  config::SaveUserSettings();
+  EXPECT_EQ(settings(), "");
+  fs::remove(lock);
+  for (int tries = 0; settings().empty() && tries < 5000; ++tries)
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  EXPECT_NE(settings(), "");
 }
 
 TEST_F(Files, WorkingFoldersAreMadeUpToTheFirstFailure) {

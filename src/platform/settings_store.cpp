@@ -1,18 +1,43 @@
 #include "platform/settings_store.h"
 
 #include <QSettings>
+#include <chrono>
+#include <future>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "base/quietly.h"
 
 namespace platform {
 
 struct SettingsStore::Native {
-  QSettings settings;
+  QString application;
+  std::vector<std::pair<QString, QString>> texts;
+
+  void write() const {
+    QSettings settings(QSettings::NativeFormat, QSettings::UserScope, application);
+    for (const auto& [key, value] : texts) settings.setValue(key, value);
+  }
 };
 
 SettingsStore::SettingsStore(const std::string& application)
-    : native_(new Native{QSettings(QSettings::NativeFormat, QSettings::UserScope,
-                                   QString::fromStdString(application))}) {}
+    : native_(new Native{QString::fromStdString(application), {}}) {}
 
-SettingsStore::~SettingsStore() = default;
+// A pipe or another program's lock in the store's place holds up whoever writes to it. So a thread
+// of its own does, and is left to itself after a second.
+SettingsStore::~SettingsStore() {
+  base::Quietly([this] {
+    constexpr std::chrono::seconds kPatience(1);
+    std::packaged_task<void()> writing([native = std::move(native_)] { native->write(); });
+    const auto written = writing.get_future();
+    std::thread thread(std::move(writing));
+    if (written.wait_for(kPatience) == std::future_status::ready)
+      thread.join();
+    else
+      thread.detach();
+  });
+}
 
 void SettingsStore::save(const std::string& section, const std::string& key,
                          const std::string& value) {
@@ -20,8 +45,8 @@ void SettingsStore::save(const std::string& section, const std::string& key,
   const auto plainKey = QString::fromStdString(key)
                             .replace('/', QStringLiteral("%2F"))
                             .replace('\\', QStringLiteral("%5C"));
-  native_->settings.setValue(QString::fromStdString(section) + '/' + plainKey,
-                             QString::fromStdString(value));
+  native_->texts.emplace_back(QString::fromStdString(section) + '/' + plainKey,
+                              QString::fromStdString(value));
 }
 
 }  // namespace platform

@@ -9,7 +9,8 @@ namespace platform {
 class SettingsStore {
  public:
   explicit SettingsStore(const std::string& application);
-  // What was saved reaches the store here at the latest; a store that can't be written is no error.
+  // What was saved goes to the store here, which takes at most a second; a store that can't be
+  // written is no error.
   ~SettingsStore();
   SettingsStore(const SettingsStore&) = delete;
   SettingsStore& operator=(const SettingsStore&) = delete;
