@@ -126,7 +126,7 @@ ParseResult ParseConfigText(std::string_view text, Configuration& configuration)
 
 Configuration LoadConfigFile(const std::string& appFolder) {
   auto configuration = Defaults(appFolder);
-  auto file = appFolder + std::string(core::kConfigFile);
+  auto file = platform::Joined(appFolder, core::kConfigFile);
   std::string text;
   if (!platform::FileExists(file)) {
     core::ResetInputsToDefaults(configuration.Profiles);

@@ -121,7 +121,7 @@ std::string ConfigText() {
 void WriteConfigFile() {
   base::Quietly([] {
     const auto text = ConfigText();
-    const auto file = AppFolder + std::string(core::kConfigFile);
+    const auto file = platform::Joined(AppFolder, core::kConfigFile);
     if (ConfigFileHeld == core::FileHeld::UpToAFailure && platform::IsFile(file))
       platform::CopyFileBytes(file, file + ".unread");
     ConfigFileHeld = core::FileHeld::Whole;

@@ -3,14 +3,15 @@
 #include <utility>
 
 #include "core/option_catalogue.h"
+#include "platform/files.h"
 
 namespace config {
 
 Configuration Defaults(const std::string& appFolder) {
   Configuration configuration;
-  configuration.RomPaths[0] = appFolder + "\\roms";
-  configuration.SnapPaths[0] = appFolder + "\\snaps";
-  configuration.IconPaths[0] = appFolder + "\\icons";
+  configuration.RomPaths[0] = platform::Joined(appFolder, "roms");
+  configuration.SnapPaths[0] = platform::Joined(appFolder, "snaps");
+  configuration.IconPaths[0] = platform::Joined(appFolder, "icons");
   configuration.Profiles = {core::DefaultProfile(), core::Profile()};
   return configuration;
 }

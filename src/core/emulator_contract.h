@@ -5,8 +5,8 @@
 
 namespace core {
 
-inline constexpr std::string_view kEmulatorFile = "\\Kestrivane.exe";
-inline constexpr std::string_view kListingCommand = "\\kestrivane.exe -print-games";
+inline constexpr std::string_view kEmulatorFile = "Kestrivane.exe";
+inline constexpr std::string_view kListingCommand = "kestrivane.exe -print-games";
 inline constexpr std::string_view kPlayCommand = "Kestrivane \"";
 
 // The listing: the banner carries the version between this text and one closing character; games
@@ -15,7 +15,7 @@ inline constexpr std::string_view kBanner = "Kestrivane: A Sega Model 3 Arcade E
 inline constexpr std::string_view kSeparator = "-------         -----";
 inline constexpr int kNameColumns = 14;
 
-inline constexpr std::string_view kConfigFile = "\\Config\\Kestrivane.ini";
+inline constexpr std::string_view kConfigFile = "Config\\Kestrivane.ini";
 inline constexpr std::string_view kErrorLog = "error.log";
 inline constexpr int kErrorLogHeaderLines = 7;
 inline constexpr std::string_view kGoodEnd = "Program terminated normally.";

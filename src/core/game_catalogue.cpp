@@ -24,16 +24,6 @@ void AddGame(std::string_view line, std::vector<GameEntry>& games) {
   games.emplace_back();
 }
 
-// The index of the first of the folders in which FileExists finds the file, or kSearchedFolders. An
-// empty entry ends the search.
-std::size_t FolderWith(const FolderList& folders, const std::string& file) {
-  for (std::size_t slot = 0; slot < kSearchedFolders && !folders[slot].empty(); ++slot) {
-    auto path = folders[slot] + "\\" + file;
-    if (platform::FileExists(path)) return slot;
-  }
-  return kSearchedFolders;
-}
-
 }  // namespace
 
 std::optional<GameListing> ParseGameListing(std::string_view output) {
@@ -70,8 +60,9 @@ void FindGameArchives(std::vector<GameEntry>& games, const FolderList& romPaths)
 }
 
 std::string FirstFileIn(const FolderList& folders, const std::string& name) {
-  const auto entry = FolderWith(folders, name);
-  return entry < kSearchedFolders ? folders[entry] + "\\" + name : std::string();
+  for (std::size_t entry = 0; entry < kSearchedFolders && !folders[entry].empty(); ++entry)
+    if (auto path = platform::Joined(folders[entry], name); platform::FileExists(path)) return path;
+  return {};
 }
 
 }  // namespace core

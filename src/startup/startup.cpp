@@ -17,12 +17,12 @@ struct WorkingFolder {
 };
 
 constexpr WorkingFolder kWorkingFolders[] = {
-    {"\\roms", "\\ROMs"}, {"\\snaps", "\\Snaps"}, {"\\icons", "\\Icons"}, {"\\config", "\\Config"}};
+    {"roms", "ROMs"}, {"snaps", "Snaps"}, {"icons", "Icons"}, {"config", "Config"}};
 
 // One that can't be deleted stays; the next play reports what it says.
 void DeleteStrayErrorLog(const std::string& appFolder) {
   base::Quietly([&] {
-    auto log = appFolder + "\\" + std::string(core::kErrorLog);
+    auto log = platform::Joined(appFolder, core::kErrorLog);
     if (platform::FileExists(log)) platform::DeleteFile(log);
   });
 }
@@ -30,13 +30,13 @@ void DeleteStrayErrorLog(const std::string& appFolder) {
 // Runs the emulator and finds the archives of its games. Fails with a message where the emulator is
 // missing or lists nothing; any other failure ends the step quietly.
 void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
-  auto emulator = appFolder + std::string(core::kEmulatorFile);
+  auto emulator = platform::Joined(appFolder, core::kEmulatorFile);
   if (!platform::FileExists(emulator)) {
     loaded.failure = i18n::Message::EmulatorMissing;
     return;
   }
   auto listing = core::ParseGameListing(
-      launch::ShellExecuteCapture(appFolder + std::string(core::kListingCommand), false));
+      launch::ShellExecuteCapture(platform::Joined(appFolder, core::kListingCommand), false));
   if (!listing) {
     loaded.failure = i18n::Message::EmulatorSilent;
     return;
@@ -61,8 +61,8 @@ Loaded Load(const std::string& appFolder) {
 void EnsureFolders(const std::string& appFolder) {
   base::Quietly([&] {
     for (const auto& folder : kWorkingFolders)
-      if (!platform::IsFolder(appFolder + folder.tested))
-        platform::MakeFolder(appFolder + folder.created);
+      if (!platform::IsFolder(platform::Joined(appFolder, folder.tested)))
+        platform::MakeFolder(platform::Joined(appFolder, folder.created));
   });
 }
 

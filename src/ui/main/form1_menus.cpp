@@ -82,7 +82,7 @@ void Form1::cmdConfGame_Click() {
 }
 
 void Form1::mClearNVRAM_Click() {
-  base::Quietly([] { platform::DeleteFilesEndingIn(AppFolder + "\\NVRAM", ".nv"); });
+  base::Quietly([] { platform::DeleteFilesEndingIn(platform::Joined(AppFolder, "NVRAM"), ".nv"); });
 }
 
 void Form1::mAbout_Click() {

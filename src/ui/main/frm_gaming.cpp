@@ -67,7 +67,7 @@ void frmGaming::Form_Activate() {
   });
   setCloseRefused(false);
   launch::UpdatePlayLog(StartTime);
-  auto log = AppFolder + "\\" + std::string(core::kErrorLog);
+  auto log = platform::Joined(AppFolder, core::kErrorLog);
   if (platform::FileExists(log)) {
     if (launch::ReadErrorLog())
       ShowReport();

@@ -8,6 +8,7 @@
 #include "config/writable_names.h"
 #include "core/profiles.h"
 #include "i18n/message_catalogue.h"
+#include "platform/files.h"
 #include "platform/forms/form.h"
 #include "platform/forms/message_box.h"
 
@@ -128,10 +129,8 @@ void FoldersPage::StartFileChoice(int index) {
 void FoldersPage::File1_DblClick() {
   if (File1.selectedRow() < 0) return;
   auto& list = lstFolders[ShaderTarget];
-  const auto folder = File1.path();
-  const auto* const separator = folder.ends_with('\\') || folder.ends_with('/') ? "" : "\\";
   list.clear();
-  list.add(folder + separator + File1.text(File1.selectedRow()));
+  list.add(platform::Joined(File1.path(), File1.text(File1.selectedRow())));
   list.setFont({});
   list.resetColours();
   SetFolderPageEnabled(true);
