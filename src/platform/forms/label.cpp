@@ -7,12 +7,35 @@
 #include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QTextLayout>
 #include <algorithm>
 
 #include "platform/forms/native.h"
 
 namespace forms {
 namespace {
+
+// The text in lines that fit. What is too much ends in an ellipsis on the last line that is whole.
+QString Wrapped(const QString& text, const QFont& font, const QSize& room) {
+  const QFontMetrics metrics(font);
+  const auto mostLines = std::max(room.height() / metrics.lineSpacing(), 1);
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  QTextLayout layout(text, font);
+  layout.setTextOption(option);
+  QStringList lines;
+  layout.beginLayout();
+  for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(room.width());
+    const bool last = lines.size() + 1 == mostLines;
+    const auto rest = text.mid(line.textStart());
+    lines << (last ? metrics.elidedText(rest, Qt::ElideRight, room.width())
+                   : rest.left(line.textLength()).trimmed());
+    if (last) break;
+  }
+  layout.endLayout();
+  return lines.join('\n');
+}
 
 class NativeLabel : public QLabel {
  public:
@@ -22,18 +45,15 @@ class NativeLabel : public QLabel {
   }
 
  protected:
-  void paintEvent(QPaintEvent* event) override {
-    const auto room = contentsRect();
-    if (spread_) return paintSpread(room);
-    const bool fits = wordWrap() || text().contains('\n') ||
-                      fontMetrics().horizontalAdvance(text()) <= room.width();
-    if (fits) {
-      QLabel::paintEvent(event);
-    } else {
-      paintFitted(room);
-    }
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    drawFrame(&painter);
+    const auto room = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
+    if (spread_)
+      paintSpread(painter, room);
+    else
+      paintText(painter, room);
     if (hasFocus()) {
-      QPainter painter(this);
       QStyleOptionFocusRect option;
       option.initFrom(this);
       style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
@@ -51,22 +71,31 @@ class NativeLabel : public QLabel {
   }
 
  private:
-  void paintFitted(const QRect& room) {
-    constexpr int kSmallestPercent = 80;
-    auto smaller = font();
-    smaller.setPixelSize(
-        std::max(smaller.pixelSize() * kSmallestPercent / 100,
-                 smaller.pixelSize() * room.width() / fontMetrics().horizontalAdvance(text())));
-    QPainter painter(this);
-    painter.setFont(smaller);
-    const auto fitted = painter.fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+  void paintText(QPainter& painter, const QRect& room) const {
+    auto shown = text().remove('\r');
+    if (wordWrap())
+      shown = Wrapped(shown, font(), room.size());
+    else if (!shown.contains('\n'))
+      shown = fitted(painter, shown, room.width());
+    // The toolkit takes no room for a blank at the end of a line, unless it is one of these.
+    static const QRegularExpression lastBlank(QStringLiteral(" (?=\n|$)"));
+    shown.replace(lastBlank, QChar(QChar::Nbsp));
     style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(),
-                          fitted, foregroundRole());
+                          shown, foregroundRole());
   }
-  void paintSpread(const QRect& room) {
+  static QString fitted(QPainter& painter, const QString& line, int width) {
+    constexpr int kSmallestPercent = 80;
+    const int needed = painter.fontMetrics().horizontalAdvance(line);
+    if (needed <= width) return line;
+    auto smaller = painter.font();
+    smaller.setPixelSize(std::max(smaller.pixelSize() * kSmallestPercent / 100,
+                                  smaller.pixelSize() * width / needed));
+    painter.setFont(smaller);
+    return painter.fontMetrics().elidedText(line, Qt::ElideRight, width);
+  }
+  void paintSpread(QPainter& painter, const QRect& room) const {
     static const QRegularExpression blanks(QStringLiteral("\\s{2,}"));
     const auto pieces = text().split(blanks);
-    QPainter painter(this);
     for (qsizetype i = 0; i < pieces.size(); ++i) {
       const auto side = i == 0                   ? Qt::AlignLeft
                         : i + 1 == pieces.size() ? Qt::AlignRight
@@ -126,6 +155,7 @@ void Label::setBorder(bool border) {
 void Label::makeLink() {
   link_ = true;
   setRole(Role::Link);
+  widget()->setProperty("takesEnter", true);
   widget()->setForegroundRole(QPalette::Link);
   widget()->setFocusPolicy(Qt::StrongFocus);
   widget()->setCursor(QCursor(QPixmap(QStringLiteral(":/link_pointer.png")), 11, 4));

@@ -17,7 +17,8 @@ class Label : public Control {
   std::string caption() const;
   void setCaption(const std::string& caption);
 
-  // Wrapped text keeps a little off the edges of its box.
+  // Wrapped text keeps a little off the edges of its box. Too long for it, the text ends in an
+  // ellipsis on the last whole line.
   void setWordWrap(bool wrap);
   // A line round the label.
   void setBorder(bool border);

@@ -29,11 +29,25 @@ constexpr int kLargestSide = 16384;
 constexpr qint64 kMostPixels = 40'000'000;
 constexpr qsizetype kMostScans = 64;
 
-// The decoder would fill up what is missing of a file that was cut off.
+// Goes from segment to segment up to the end mark; what stands behind that is no part of the
+// picture. The decoder would fill up what is missing of a file that was cut off.
 void CheckScans(const QByteArray& jpeg) {
-  const QByteArray start("\xFF\xDA");
-  if (jpeg.count(start) > kMostScans) throw base::Failure("too many scans");
-  if (jpeg.indexOf("\xFF\xD9", jpeg.lastIndexOf(start)) < 0) throw base::Failure("cut off");
+  constexpr auto kStart = 0xD8, kEnd = 0xD9, kScan = 0xDA, kFirstRestart = 0xD0, kAlone = 0x01;
+  const auto byte = [&](qsizetype at) {
+    if (at >= jpeg.size()) throw base::Failure("cut off");
+    return static_cast<unsigned char>(jpeg[at]);
+  };
+  int scans = 0;
+  for (qsizetype at = 0;;) {
+    // The coded data of a scan has no mark but restarts; a zero says that the byte before is data.
+    while (byte(at) != 0xFF || byte(at + 1) == 0xFF || byte(at + 1) == 0) ++at;
+    const auto mark = byte(at + 1);
+    at += 2;
+    if (mark == kEnd) return;
+    if (mark == kAlone || (mark >= kFirstRestart && mark <= kStart)) continue;
+    if (mark == kScan && ++scans > kMostScans) throw base::Failure("too many scans");
+    at += byte(at) << 8 | byte(at + 1);
+  }
 }
 
 // Moves the reader to the frame whose width is nearest to the one asked for. The count in the file

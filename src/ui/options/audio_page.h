@@ -43,7 +43,7 @@ class AudioPage {
   forms::Label lblBalance{frame_,     "lblBalance", {1755, 2400, 4215, 255},
                           "Centered", kBold,        forms::Align::Centre};
   forms::ScrollBar hslBalance{frame_, "hslBalance", {240, 2760, 7200, 375}, -100, 100, 25, 0};
-  forms::Label Label10{frame_, "Label10", {240, 3120, 7200, 255}, {}, kText, forms::Align::Spread};
+  forms::Label Label10{frame_, "Label10", {240, 3120, 7335, 255}, {}, kText, forms::Align::Spread};
   forms::CheckBox chkFlipStereo{frame_, "chkFlipStereo", {240, 3720, 7215, 255}, {}, kText, 0};
 };
 
