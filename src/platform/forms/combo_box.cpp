@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include "base/failure.h"
 #include "platform/forms/native.h"
@@ -10,12 +11,26 @@
 namespace forms {
 namespace {
 
+// The wheel belongs to the page unless the box was chosen.
+class NativeComboBox : public QComboBox {
+ public:
+  explicit NativeComboBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus())
+      QComboBox::wheelEvent(event);
+    else
+      event->ignore();
+  }
+};
+
 QComboBox* Native(QWidget* widget) { return static_cast<QComboBox*>(widget); }
 
 }  // namespace
 
 ComboBox::ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font)
-    : Control(new QComboBox(parent.clientArea()), name, box, font),
+    : Control(new NativeComboBox(parent.clientArea()), name, box, font),
       name_(new QLabel(parent.clientArea())) {
   name_->hide();
   name_->setBuddy(widget());

@@ -2,8 +2,10 @@
 
 #include <QButtonGroup>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QToolButton>
+#include <algorithm>
 
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"
@@ -13,9 +15,34 @@ namespace {
 
 QAbstractButton* Native(QWidget* widget) { return static_cast<QAbstractButton*>(widget); }
 
+// Arrow keys choose the neighbour. The toolkit would click it before it gets the focus, and so take
+// the focus back from where the click put it.
+template <class Native>
+class Choice : public Native {
+ public:
+  using Native::Native;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const auto key = event->key();
+    const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+    if (!forward && key != Qt::Key_Left && key != Qt::Key_Up) return Native::keyPressEvent(event);
+    auto others = this->group()->buttons();
+    if (!forward) std::reverse(others.begin(), others.end());
+    const auto canBeChosen = [](const QAbstractButton* button) {
+      return button->isVisible() && button->isEnabled();
+    };
+    const auto self = std::find(others.begin(), others.end(), this);
+    const auto next = std::find_if(self + 1, others.end(), canBeChosen);
+    if (next == others.end()) return;
+    (*next)->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    (*next)->click();
+  }
+};
+
 QToolButton* NewPictureButton(QWidget* parent, const Picture& picture) {
   constexpr int kIconPixels = 32;
-  auto* button = new QToolButton(parent);
+  auto* button = new Choice<QToolButton>(parent);
   button->setIcon(IconOf(picture));
   button->setIconSize(QSize(kIconPixels, kIconPixels));
   button->setCheckable(true);
@@ -27,7 +54,7 @@ QToolButton* NewPictureButton(QWidget* parent, const Picture& picture) {
 
 OptionButton::OptionButton(Container& parent, const char* name, const Box& box,
                            const std::string& caption, const FontStyle& font)
-    : Control(new QRadioButton(parent.clientArea()), name, box, font) {
+    : Control(new Choice<QRadioButton>(parent.clientArea()), name, box, font) {
   setCaption(caption);
   joinGroup();
 }
@@ -48,8 +75,13 @@ void OptionButton::joinGroup() {
     group->setObjectName(groupName);
   }
   group->addButton(button);
+  QObject::connect(button, &QAbstractButton::pressed, button, [this] { told_ = false; });
   QObject::connect(button, &QAbstractButton::toggled, button, [this](bool selected) {
+    told_ = selected;
     if (selected) Raise(onClick);
+  });
+  QObject::connect(button, &QAbstractButton::clicked, button, [this] {
+    if (!told_) Raise(onClick);
   });
 }
 

@@ -6,7 +6,8 @@
 namespace forms {
 
 // One of several choices: the buttons of one container whose names differ only in their index
-// exclude each other. Becoming the selected one raises its click, by whomever.
+// exclude each other. Becoming the selected one raises its click, by whomever, and so does the
+// user's click on the selected one.
 class OptionButton : public Control {
  public:
   OptionButton(Container& parent, const char* name, const Box& box, const std::string& caption,
@@ -24,6 +25,8 @@ class OptionButton : public Control {
 
  private:
   void joinGroup();
+
+  bool told_ = false;  // of the click that is under way
 };
 
 }  // namespace forms

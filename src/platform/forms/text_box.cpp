@@ -8,25 +8,38 @@
 namespace forms {
 namespace {
 
-// Drops what is not accepted, whichever way it came in.
+// Looks at what came in, whichever way: what stands between the cursor and where it or the
+// selection began before.
 class Filter : public QValidator {
  public:
-  Filter(QObject* parent, TextBox::Accept accept, int maxChars)
-      : QValidator(parent), accept_(accept), maxChars_(maxChars) {}
+  Filter(QLineEdit* edit, TextBox::Accept accept, int maxChars)
+      : QValidator(edit), accept_(accept), maxChars_(maxChars) {
+    const auto remember = [this, edit] {
+      before_ = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+    };
+    QObject::connect(edit, &QLineEdit::selectionChanged, this, remember);
+    QObject::connect(edit, &QLineEdit::cursorPositionChanged, this, remember);
+  }
 
+  // Of what is not valid the toolkit takes back all, the loss of the selection included.
   State validate(QString& text, int& cursor) const override {
+    const int from = std::min(before_, cursor);
+    const auto added = text.mid(from, cursor - from);
     QString kept;
-    for (const auto c : text)
+    for (const auto c : added)
       if (accept_ == TextBox::Accept::Anything || (c >= u'0' && c <= u'9')) kept += c;
-    kept.truncate(maxChars_);
-    cursor = std::min(cursor, static_cast<int>(kept.size()));
-    text = kept;
+    kept.truncate(std::max<qsizetype>(maxChars_ - (text.size() - added.size()), 0));
+    if (kept.size() == added.size()) return Acceptable;
+    if (kept.isEmpty()) return Invalid;
+    text.replace(from, added.size(), kept);
+    cursor = from + static_cast<int>(kept.size());
     return Acceptable;
   }
 
  private:
   TextBox::Accept accept_;
   int maxChars_;
+  int before_ = 0;
 };
 
 QLineEdit* Native(QWidget* widget) { return static_cast<QLineEdit*>(widget); }
@@ -35,9 +48,9 @@ QLineEdit* Native(QWidget* widget) { return static_cast<QLineEdit*>(widget); }
 
 TextBox::TextBox(Container& parent, const char* name, const Box& box, Accept accept, int maxChars,
                  const FontStyle& font)
-    : Control(new QLineEdit(parent.clientArea()), name, box, font) {
+    : Control(new QLineEdit(parent.clientArea()), name, box, font), maxChars_(maxChars) {
   Native(widget())->setAlignment(Qt::AlignCenter);
-  Native(widget())->setValidator(new Filter(widget(), accept, maxChars));
+  Native(widget())->setValidator(new Filter(Native(widget()), accept, maxChars));
 }
 
 std::string TextBox::text() const { return Native(widget())->text().toStdString(); }
@@ -45,7 +58,7 @@ std::string TextBox::text() const { return Native(widget())->text().toStdString(
 void TextBox::setText(const std::string& text) {
   const auto* const filter = Native(widget())->validator();
   Native(widget())->setValidator(nullptr);
-  Native(widget())->setText(ToQString(text));
+  Native(widget())->setText(ToQString(text).left(maxChars_));
   Native(widget())->setValidator(filter);
 }
 

@@ -4,8 +4,8 @@
 
 namespace forms {
 
-// A box of one line, centred. The program may put any text there; what the user types or pastes is
-// cut to the accepted characters and length.
+// A box of one line, centred. It takes what fits of a text that the program puts there, and what is
+// accepted of one that the user types or pastes; where that is nothing, text and selection stay.
 class TextBox : public Control {
  public:
   enum class Accept { Anything, Digits };
@@ -15,6 +15,9 @@ class TextBox : public Control {
 
   std::string text() const;
   void setText(const std::string& text);
+
+ private:
+  int maxChars_;
 };
 
 }  // namespace forms
