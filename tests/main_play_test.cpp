@@ -1,8 +1,8 @@
 // Playing a game: the in-game window, the count, and the report of a failed run.
+#include <sys/wait.h>
+
 #include <QApplication>
-#include <QHelpEvent>
 #include <QTest>
-#include <QToolTip>
 #include <QWindow>
 
 #include "core/module1.h"
@@ -14,6 +14,23 @@ namespace {
 using namespace Module1;
 using support::WhenModal;
 
+struct Paints : QObject {
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    count += event->type() == QEvent::Paint;
+    return false;
+  }
+  int count = 0;
+};
+
+// The right end of what is drawn in dark between two lines of pixels, -1 for nothing.
+int RightEnd(const QImage& image, int top, int bottom) {
+  int end = -1;
+  for (int y = top; y < bottom; ++y)
+    for (int x = 0; x < image.width() - 2; ++x)  // without the border
+      if (qGray(image.pixel(x, y)) < 100) end = std::max(end, x);
+  return end;
+}
+
 class MainPlay : public support::UiTest {
  protected:
   // "7th Undertow" is the first title.
@@ -21,6 +38,12 @@ class MainPlay : public support::UiTest {
     addEmulator();
     write("roms/7undertow.zip", archive);
     start();
+  }
+
+  // In the first second, so that one or two are all that the play takes.
+  void waitForEmulator() const {
+    siginfo_t ended;
+    if (clock.sleeps.size() == 1) waitid(P_ALL, 0, &ended, WEXITED | WNOWAIT);
   }
 
   support::FakeClock clock;
@@ -34,7 +57,11 @@ TEST_F(MainPlay, InGameWindowShowsTheGameItsClockAndTheKeys) {
     ASSERT_TRUE(gaming && gaming->objectName() == "frmGaming");
     EXPECT_EQ(textOf(*gaming, "lblGameTitle"), "7th Undertow");
     EXPECT_EQ(textOf(*gaming, "lblTime"), clock.sleeps.size() == 1 ? "0:00:00" : "1:00:05");
+    auto& keys = get(*gaming, "lblInfo");
     EXPECT_TRUE(textOf(*gaming, "lblInfo").starts_with("Reset:  ALT + R \r\nPausa:  ALT + P \r\n"));
+    const auto image = keys.grab().toImage();
+    const int line = keys.fontMetrics().lineSpacing();
+    EXPECT_NEAR(RightEnd(image, 2, line), RightEnd(image, 6 * line + 3, 7 * line), 1);
     gaming->close();
     key(Qt::Key_Escape);
     EXPECT_TRUE(gaming->isVisible()) << "it stays until the game has ended";
@@ -46,15 +73,15 @@ TEST_F(MainPlay, InGameWindowShowsTheGameItsClockAndTheKeys) {
 }
 
 TEST_F(MainPlay, PauseGoesByTheLogAndAnEndWithoutOneIsSilent) {
-  const std::pair<const char*, long long> rows[] = {
-      {"good", 3000}, {"nolog", 1000}, {"crash", 1000}};
+  const std::pair<const char*, bool> rows[] = {{"good", true}, {"nolog", false}, {"crash", false}};
   startWithGame("");
+  clock.onSleep = [this] { waitForEmulator(); };
   clock.firstSleepTakes = std::chrono::seconds(20);
-  for (const auto& [end, lastSleep] : rows) {
+  for (const auto& [end, pause] : rows) {
     write("roms/7undertow.zip", std::string("seconds=0\nend=") + end);
     clock.sleeps.clear();
     click("cmdPlay");
-    EXPECT_EQ(clock.sleeps.back(), lastSleep) << end;
+    EXPECT_EQ(clock.sleeps.size() >= 4, pause) << end;
     EXPECT_FALSE(QApplication::activeModalWidget() || exists("error.log")) << end;
   }
   EXPECT_EQ(PlayLog[0].GameId, "") << "all too short to count";
@@ -62,6 +89,34 @@ TEST_F(MainPlay, PauseGoesByTheLogAndAnEndWithoutOneIsSilent) {
   clock.sleeps.clear();
   click("cmdPlay");
   EXPECT_TRUE(clock.sleeps.empty()) << "an emulator that is gone closes the window at once";
+}
+
+TEST_F(MainPlay, InputOfThePlayAndThePauseIsDroppedAndTheWindowPainted) {
+  startWithGame("seconds=0\nend=good");
+  const auto post = [](const QWidget& target, QEvent* event) {
+    QApplication::postEvent(target.windowHandle(), event);
+  };
+  Paints paints;
+  clock.onSleep = [&] {
+    if (clock.sleeps.size() > 5) return;  // what is obeyed has begun another play
+    auto& gaming = *QApplication::activeModalWidget();
+    const QPointF place = widget("cmdPlay").mapTo(&window(), QPoint(9, 9));
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+      post(window(), new QMouseEvent(type, place, window().mapToGlobal(place), Qt::LeftButton,
+                                     Qt::LeftButton, Qt::NoModifier));
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+      for (const auto* target : {&window(), &gaming})
+        post(*target, new QKeyEvent(type, Qt::Key_Down, Qt::NoModifier));
+    get(gaming, "lblTime").installEventFilter(&paints);
+    get(gaming, "lblTime").update();
+    waitForEmulator();
+  };
+  key(Qt::Key_Return);
+  clock.onSleep = nullptr;
+  QTest::qWait(50);
+  EXPECT_LE(clock.sleeps.size(), 5U) << "one play";
+  EXPECT_GE(paints.count, 3) << "also during the pause";
+  EXPECT_TRUE(rows(list()).starts_with("7th Undertow*|"));
 }
 
 TEST_F(MainPlay, DoubleClickPlaysAlsoWhatIsNotThereAndCountsAFailedRun) {
@@ -91,14 +146,15 @@ TEST_F(MainPlay, TextFromOutsideIsNeitherMarkupNorAFormat) {
       "\"            $(cat roms/a.zip)\"; else (yes | head -7 | tr '\\n' '\\r'; cat "
       "roms/a.zip) > error.log; fi");
   start();
-  const auto at = list().visualItemRect(list().item(0)).center();
-  QHelpEvent help(QEvent::ToolTip, at, list().viewport()->mapToGlobal(at));
-  QApplication::sendEvent(list().viewport(), &help);
-  EXPECT_TRUE(QToolTip::text().startsWith("<span>&lt;b&gt;&amp;amp;%s%1[*]\\n"));
   clock.onSleep = [&] {
     const auto& gaming = *QApplication::activeModalWidget();
     EXPECT_EQ(gaming.windowHandle()->title().toStdString(), title);
+    auto& label = get(gaming, "lblGameTitle");
     EXPECT_EQ(textOf(gaming, "lblGameTitle"), title);
+    const auto image = label.grab().toImage();
+    const int line = label.fontMetrics().lineSpacing();
+    EXPECT_GT(RightEnd(image, line, 2 * line), 0);
+    EXPECT_EQ(RightEnd(image, 2 * line + 3, image.height()), -1) << "half a line";
   };
   const WhenModal report(
       "Form4", [&](QWidget& window) { EXPECT_EQ(textOf(window, "tbxError"), title + "\n"); });

@@ -136,6 +136,27 @@ save_options
     fail "the file is not what the last one saved: $(diff <(echo "$alone") "$config")"
 rm "$config"
 
+echo "What is typed and clicked during a play and the pause behind it starts no other"
+write_archive 1 good
+main_window=$(xdotool getwindowfocus)
+play
+for ((i = 0; i < 6; i++)); do
+    xdotool mousemove --window "$main_window" 670 455 click 1
+    press Return
+    sleep 0.5
+done
+expect_back_in_main_window 10
+sleep 2
+title_is "$main_title" && ! emulator_runs || fail "another play"
+
+echo "Escape held down closes one window and not the next"
+press alt+t o
+wait_until 10 title_is "   Options:   Global" || fail "no options"
+xdotool keydown Escape
+sleep 2
+xdotool keyup Escape
+expect_back_in_main_window 5
+
 echo "A play that fails shows the report"
 write_archive 1 error
 play

@@ -1,15 +1,95 @@
 #include "platform/forms/application.h"
 
 #include <QApplication>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <cstdlib>
 
 #include "platform/forms/control_accessible.h"
 #include "platform/forms/list_accessible.h"
+#include "platform/forms/native.h"
 
 // Pulls the pictures out of the library; has to stand outside any namespace.
 static void LoadAssets() { Q_INIT_RESOURCE(assets); }
 
 namespace forms {
+
+namespace {
+
+// What holds for every window.
+class Rules : public QObject {
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+        return closesAgain(*static_cast<QKeyEvent*>(event), watched->isWindowType());
+      case QEvent::ToolTip:
+        return watched->isWidgetType() && showToolTip(*static_cast<QWidget*>(watched), *event);
+      default:
+        return false;
+    }
+  }
+
+ private:
+  // A key that is held down would go on to answer, close and press what comes next.
+  bool closesAgain(const QKeyEvent& event, bool first) {
+    const bool press = event.type() == QEvent::KeyPress;
+    const bool held = press && (event.isAutoRepeat() || (first && repeatsUntold(event)));
+    if (first) last_ = {event.key(), press, event.timestamp()};
+    const auto key = event.key();
+    return held && (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter);
+  }
+  // The toolkit may miss a repetition, above all when the focus moves on to another window: the
+  // window system's pair of release and press has one time, and half of it may be lost.
+  bool repeatsUntold(const QKeyEvent& press) const {
+    constexpr quint64 kLongestDelay = 1000;  // milliseconds before a key begins to repeat
+    if (press.nativeScanCode() == 0 || press.key() != last_.key) return false;
+    const auto pause = press.timestamp() - last_.time;
+    return last_.press ? pause < kLongestDelay : pause == 0;
+  }
+  // Assistive technology gets the tool tip as it is set; only what is drawn could be taken for
+  // markup.
+  static bool showToolTip(QWidget& widget, const QEvent& event) {
+    if (widget.toolTip().isEmpty()) return false;
+    QToolTip::showText(static_cast<const QHelpEvent&>(event).globalPos(),
+                       PlainToolTip(widget.toolTip()), &widget);
+    return true;
+  }
+
+  struct {
+    int key = 0;
+    bool press = false;
+    quint64 time = 0;
+  } last_;
+};
+
+class InputDropper : public QObject {
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::Wheel:
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::ShortcutOverride:
+      case QEvent::Shortcut:
+      case QEvent::ContextMenu:
+      case QEvent::TouchBegin:
+      case QEvent::TouchUpdate:
+      case QEvent::TouchEnd:
+      case QEvent::TabletPress:
+      case QEvent::TabletRelease:
+        return true;
+      default:
+        return false;
+    }
+  }
+};
+
+}  // namespace
 
 struct Application::Native {
   // The toolkit wants a command line for as long as it lives; the program has none.
@@ -17,10 +97,12 @@ struct Application::Native {
   char name[13] = "KestrivaneUI";
   char* words[2] = {name, nullptr};
   QApplication application{count, words};
+  Rules rules;
 };
 
 Application::Application() : native_(std::make_unique<Native>()) {
   LoadAssets();
+  QApplication::instance()->installEventFilter(&native_->rules);
   MakeControlsAccessible();
   MakeListsAccessible();
   QApplication::setQuitOnLastWindowClosed(false);
@@ -34,7 +116,11 @@ void Application::run() { QApplication::exec(); }
 
 void LeaveEventLoop() { QApplication::quit(); }
 
-void DoEvents() { QApplication::processEvents(); }
+void DoEvents() {
+  InputDropper dropper;
+  QApplication::instance()->installEventFilter(&dropper);
+  QGuiApplication::sync();  // the window system may still hold some
+}
 
 std::function<void(int status)>& EndProgram() {
   static std::function<void(int)> end = [](int status) { std::_Exit(status); };

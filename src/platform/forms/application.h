@@ -23,7 +23,7 @@ class Application {
 
 void LeaveEventLoop();
 
-// Handles the events that are waiting.
+// Handles the events that are waiting. What the user did is dropped.
 void DoEvents();
 
 // Ends the program at once: no unload step, nothing written. A test puts its own in place.

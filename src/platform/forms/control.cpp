@@ -34,6 +34,7 @@ QFont ToFont(const FontStyle& style) {
   font.setBold(style.bold);
   font.setItalic(style.italic);
   font.setUnderline(style.underline);
+  if (style.letterWidth != 100) font.setLetterSpacing(QFont::PercentageSpacing, style.letterWidth);
   return font;
 }
 
@@ -75,15 +76,9 @@ void Control::setEnabled(bool enabled) { widget_->setEnabled(enabled); }
 
 void Control::setFocus() { widget_->setFocus(Qt::OtherFocusReason); }
 
-std::string Control::toolTip() const {
-  return widget_->property("plainToolTip").toString().toStdString();
-}
+std::string Control::toolTip() const { return widget_->toolTip().toStdString(); }
 
-void Control::setToolTip(const std::string& text) {
-  const auto plain = ToQString(text);
-  widget_->setProperty("plainToolTip", plain);
-  widget_->setToolTip(PlainToolTip(plain));
-}
+void Control::setToolTip(const std::string& text) { widget_->setToolTip(ToQString(text)); }
 
 void Control::setFont(const FontStyle& font) { widget_->setFont(ToFont(font)); }
 

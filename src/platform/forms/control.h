@@ -16,6 +16,7 @@ struct Box {
 struct FontStyle {
   double points = 8.25;
   bool bold = false, italic = false, underline = false;
+  int letterWidth = 100;  // percent of the room that a letter usually takes
 };
 
 struct Colour {

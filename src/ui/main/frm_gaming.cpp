@@ -22,7 +22,7 @@ using i18n::Msg;
 
 constexpr forms::Colour kWhite{255, 255, 255};
 constexpr forms::Colour kBlack{0, 0, 0};
-constexpr auto kGoodEndPause = std::chrono::seconds(3);
+constexpr int kGoodEndSeconds = 3;
 
 }  // namespace
 
@@ -65,19 +65,29 @@ void frmGaming::Form_Activate() {
     lblTime.setCaption(launch::FormatElapsed(StartTime));
     forms::DoEvents();
   });
-  setCloseRefused(false);
   launch::UpdatePlayLog(StartTime);
   auto log = platform::Joined(AppFolder, core::kErrorLog);
   if (platform::FileExists(log)) {
     if (launch::ReadErrorLog())
       ShowReport();
     else
-      platform::TheClock().sleep(kGoodEndPause);
+      PauseAfterGoodEnd();
   }
+  forms::DoEvents();
+  setCloseRefused(false);
   close();
 }
 
+// The window stays, painted anew once a second.
+void frmGaming::PauseAfterGoodEnd() {
+  for (int second = 0; second < kGoodEndSeconds; ++second) {
+    forms::DoEvents();
+    platform::TheClock().sleep(std::chrono::seconds(1));
+  }
+}
+
 void frmGaming::ShowReport() {
+  forms::DoEvents();
   Form4 report;
   report.centreOver(main_);
   report.showModal(*this);

@@ -19,6 +19,7 @@ class frmGaming : public forms::Form {
   // The whole play, from the emulator's start to its report. The window is closed at its end.
   void Form_Activate();
   std::string KeysText() const;
+  void PauseAfterGoodEnd();
   void ShowReport();
 
   Form1& main_;
