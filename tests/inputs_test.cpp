@@ -96,6 +96,16 @@ TEST_F(Inputs, FourListsActAsOneTable) {
     }
     column(window, 0).verticalScrollBar()->setValue(1);
     EXPECT_EQ(column(window, 3).verticalScrollBar()->value(), 1);
+    show(window, 1, 0);
+    get(window, "cmbInputType").setFocus();
+    key(Qt::Key_Tab);
+    for (int cell = 0; cell < 4; ++cell) {
+      EXPECT_TRUE(column(window, cell).item(0)->isSelected()) << "the row that has the focus";
+      column(window, cell).clearSelection();
+    }
+    column(window, 3).setFocus();
+    key(Qt::Key_Down);
+    EXPECT_TRUE(column(window, 0).item(0)->isSelected()) << "no row has the focus before";
   });
 }
 
@@ -182,7 +192,9 @@ TEST_F(Inputs, RestoringAllInputs) {
         {QMessageBox::No, "KEY1_9||"}, {QMessageBox::Yes, "KEY1_1|JOY1_BUTTON9|"}};
     for (const auto& [button, bindings] : answers) {
       const WhenModal question("", [button = button](QWidget& box) { answer(box, button); });
-      press(window, "lblLoadDefaults");
+      get(window, "lblLoadDefaults").setFocus();
+      key(Qt::Key_Return);
+      EXPECT_TRUE(window.isVisible()) << "Enter follows the link, and saves nothing";
       EXPECT_EQ(row(window, 0), std::string("Start1|") + bindings);
     }
     EXPECT_EQ(Profiles[1].Slots[30].Value, "\"KEY_1,JOY1_BUTTON9\"") << "at once";

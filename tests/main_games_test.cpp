@@ -56,8 +56,12 @@ TEST_F(MainGames, FilterRefillsTheListAndAnEmptyOneResetsThePanelAndPlaysNothing
   EXPECT_EQ(GameListPref, 0);
   EXPECT_EQ(QApplication::focusWidget(), &list());
   clickRow(1);
+  click("optGames(0)");
+  EXPECT_EQ(rows(list()), "A*|B|C|") << "a click on the chosen button too";
   GameCatalog[1].Available = false;
-  click("optGames(1)");
+  widget("optGames(0)").setFocus();
+  key(Qt::Key_Right);
+  EXPECT_EQ(QApplication::focusWidget(), &list());
   EXPECT_EQ(caption("lblGameTitle") + caption("lblInfo") + caption("lblTP"), "NO GAMES AVAILABLE");
   EXPECT_FALSE(widget("cmdPlay").isEnabled() || widget("cmdConfGame").isEnabled());
   EXPECT_EQ(colourOf("imgGames"), '?');
@@ -65,6 +69,24 @@ TEST_F(MainGames, FilterRefillsTheListAndAnEmptyOneResetsThePanelAndPlaysNothing
   QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, QPoint(20, 5));
   key(Qt::Key_Return);
   EXPECT_EQ(LaunchRequest.RomName, "");
+}
+
+TEST_F(MainGames, TipTellsWhereTheArchiveIsOrBelongs) {
+  addGames("a b '<b>c'");
+  write("More/B.ZIP", "");
+  write("Config/Kestrivane.ini",
+        platform::EncodeCodePage(";ROMpaths=" + AppFolder + "\\more*/gone\r\n"));
+  start();
+  const auto missing = ".zip\n" + AppFolder + "/ROMs\n" + AppFolder + "/More\n/gone";
+  const std::string tips[] = {"&lt;b&gt;c" + missing, "a" + missing, AppFolder + "/More/B.ZIP"};
+  for (int row = 0; row < 3; ++row) {
+    clickRow(row);
+    EXPECT_EQ(tipAt(*list().viewport(), list().visualItemRect(list().item(row)).center()),
+              tips[row]);
+    EXPECT_EQ(tipAt(widget("cmdPlay"), {5, 5}), tips[row]);
+    EXPECT_EQ(widget("cmdPlay").isEnabled(), row == 2);
+  }
+  EXPECT_EQ(widget("cmdPlay").toolTip().toStdString(), tips[2]) << "as assistive technology has it";
 }
 
 TEST_F(MainGames, PicturesComeFromTheFirstFolderUpToAGap) {
@@ -113,6 +135,10 @@ TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
   for (int i = 0; i < 100; ++i) manyScans += scan;
   auto outside = icon;
   outside.replace(18, 4, "\xF0\xFF\xFF\xFF");
+  // Another picture behind the end, and marks of scans in what a segment holds and behind the end.
+  auto padded = jpeg.substr(0, 2) + std::string("\xFF\xE1\0\xCA", 4);
+  for (int i = 0; i < 100; ++i) padded += "\xFF\xDA";
+  padded += jpeg.substr(2) + scan + padded;
   const std::pair<std::string, std::string> rows[] = {
       {"a text file", ""},
       {jpeg.substr(0, 200), icon.substr(0, 20)},
@@ -131,6 +157,10 @@ TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
     clickRow(1);
     EXPECT_EQ(std::string({colourOf("imgGames"), colourOf("imgIcon")}), "ry") << &row - rows;
   }
+  write("Snaps/b.jpg", padded);
+  clickRow(0);
+  clickRow(1);
+  EXPECT_EQ(colourOf("imgGames"), 'b') << "complete, whatever stands behind it";
 }
 
 TEST_F(MainGames, FiguresAreThoseOfTheLastRowOfTheGame) {

@@ -33,6 +33,13 @@ TEST_F(MainMenus, LanguageChangesTheWindowAtOnce) {
   EXPECT_FALSE(exists("Config/Kestrivane.ini"));
 }
 
+TEST_F(MainMenus, UnknownLanguageTicksNone) {
+  write("Config/Kestrivane.ini", ";KVLLanguage=3\r\n");
+  start();
+  for (int index = 0; index < 3; ++index)
+    EXPECT_FALSE(item("mLang(" + std::to_string(index) + ")").isChecked());
+}
+
 TEST_F(MainMenus, AccessKeysOpenMenusAndEscapeClosesThemOnly) {
   start();
   key(Qt::Key_H, Qt::AltModifier);
@@ -43,7 +50,18 @@ TEST_F(MainMenus, AccessKeysOpenMenusAndEscapeClosesThemOnly) {
   EXPECT_TRUE(dynamic_cast<QMenuBar*>(QApplication::focusWidget()));
   key(Qt::Key_Escape);
   EXPECT_EQ(QApplication::focusWidget(), &list());
-  EXPECT_TRUE(ends.empty());
+  widget("cmdConfGame").setFocus();
+  key(Qt::Key_F10);
+  key(Qt::Key_Right);
+  QApplication::processEvents();
+  menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_TRUE(menu && menu->menuAction()->objectName() == "mTools");
+  key(Qt::Key_Escape);
+  QApplication::processEvents();
+  EXPECT_EQ(QApplication::focusWidget(), &widget("cmdConfGame"));
+  for (const auto held : {Qt::Key_Escape, Qt::Key_Return})
+    QTest::simulateEvent(window().windowHandle(), true, held, Qt::NoModifier, {}, true);
+  EXPECT_TRUE(ends.empty()) << "a key held down closes and opens nothing";
 }
 
 TEST_F(MainMenus, OptionsOfAllGamesMayBringArchivesThoseOfOneDoNot) {

@@ -39,9 +39,12 @@ TEST_F(OptionsFolders, ThreeFoldersCanBeAddedAndRemoved) {
     press(window, "cmdRemovePath(0)");
     EXPECT_EQ(folders(window, 0), hidden + "|" + hidden + "*|");
     clickRow(get<QListWidget>(window, "lstFolders(1)"), 1);
+    auto& list = get(window, "lstFolders(1)");
     for (const auto* left : {"/s/<b>one*|/s/3|", "/s/3*|", ""}) {
       press(window, "cmdRemovePath(1)");
       EXPECT_EQ(folders(window, 1), left);
+      EXPECT_EQ(list.toolTip() == "/s/<b>one", left[3] == '<') << "of the selected row";
+      EXPECT_EQ(list.toolTip().isEmpty(), !*left);
     }
     EXPECT_EQ(enabled(window, "cmdRemovePath"), "10000");
     save(window);
@@ -66,6 +69,41 @@ TEST_F(OptionsFolders, TreeOffersWhatCanBeSavedAndOpensOneFolderAtATime) {
     goTo(window, "deep");
     type(window, "Dir1", Qt::Key_Asterisk);
     EXPECT_EQ(tree.findItems("er", Qt::MatchExactly | Qt::MatchRecursive).size(), 1);
+  });
+}
+
+TEST_F(OptionsFolders, DeepFoldersAreReachedByKeysAndSeen) {
+  std::string deep = "d0";
+  for (int level = 1; level < 24; ++level) deep += "/d" + std::to_string(level) + " of <b>many";
+  write(deep + "/f.fs", "");
+  startWith("");
+  AppFolder += "/" + deep.substr(0, deep.rfind("/d23"));
+  options([&](QWidget& window) {
+    page(window, 4);
+    auto& tree = get<QTreeWidget>(window, "Dir1");
+    const auto expectSeen = [&](const char* name) {
+      const auto* item = tree.currentItem();
+      EXPECT_EQ(item->text(0).toStdString(), name);
+      EXPECT_TRUE(item->isSelected());
+      const auto left = tree.visualItemRect(item).left();
+      EXPECT_TRUE(left >= 0 && left < tree.viewport()->width() / 2) << name << left;
+    };
+    expectSeen("d22 of <b>many");
+    tree.setFocus();
+    for (int presses = 0; presses < 4; ++presses) key(Qt::Key_Right);
+    expectSeen("d23 of <b>many");
+    EXPECT_TRUE(tipAt(*tree.viewport(), tree.visualItemRect(tree.currentItem()).center())
+                    .ends_with("/d23 of &lt;b&gt;many"));
+    press(window, "cmdAddPath(0)");
+    EXPECT_TRUE(folders(window, 0).ends_with("/d23 of <b>many*|"));
+    tree.setFocus();
+    for (int presses = 0; presses < 4; ++presses) key(Qt::Key_Left);
+    expectSeen("d21 of <b>many");
+    EXPECT_FALSE(tree.currentItem()->isExpanded());
+    key(Qt::Key_Return);
+    EXPECT_TRUE(window.isVisible() && tree.currentItem()->isExpanded());
+    tree.currentItem()->parent()->setExpanded(false);
+    expectSeen("d20 of <b>many");
   });
 }
 

@@ -1,4 +1,6 @@
 // How the options dialog opens: scopes, values, bad values, and how it is left.
+#include <QClipboard>
+
 #include "support/options_test.h"
 
 namespace {
@@ -38,6 +40,9 @@ TEST_F(OptionsOpening, ShowsTheValuesInForce) {
       {"no number: the load ends there and shows the pair in force",
        "EmulateDSB = 0|FullScreen = banana|WideScreen = 1|XResolution = 800|YResolution = 600|",
        "Audio(0) CustRes Throttle Vsync Multi 496x384,800,600,100 %,100 %,Centered,50 MHz"},
+      {"sizes too long for their boxes", "XResolution = 12345|YResolution = abcdef|",
+       "Audio(0) Audio(1) CustRes Throttle Vsync Multi 496x384,1234,abcd,100 %,100 %,Centered,50 "
+       "MHz"},
       {"a negative frequency", "PowerPCFrequency = -5|SoundVolume = 20|EmulateDSB = 0|",
        "Audio(0) CustRes Throttle Vsync Multi 496x384,496,384,100 %,100 %,Centered,50 MHz"}};
   for (const auto& row : rows) {
@@ -100,6 +105,52 @@ TEST_F(OptionsOpening, VideoPageRules) {
     save(window);
   });
   EXPECT_EQ(saved(), "FullScreen = 1|");
+}
+
+TEST_F(OptionsOpening, SizeBoxesTakeFourDigitsAndDropTheRest) {
+  startWith("XResolution = 641|");
+  options([](QWidget& window) {
+    page(window, 1);
+    auto& box = get<QLineEdit>(window, "tbxCustRes(0)");
+    box.setFocus();
+    const struct {
+      const char *text, *typed, *pasted, *left;
+      int selectFrom, selected;
+    } rows[] = {{"641", "a-", "", "641", 0, 3},        {"641", "", "px, \n", "641", 1, 1},
+                {"1234", "5", "6", "1234", 2, 0},      {"1234", "5", "", "154", 1, 2},
+                {"", "", " 19,20x1080", "1920", 0, 0}, {"12", "", "a345", "1342", 1, 0},
+                {"1234", "x\b", "", "124", 3, 0}};
+    for (const auto& row : rows) {
+      box.setText(row.text);
+      box.setCursorPosition(row.selectFrom);
+      if (row.selected > 0) box.setSelection(row.selectFrom, row.selected);
+      for (const char* c = row.typed; *c; ++c)
+        *c == '\b' ? key(Qt::Key_Backspace) : QTest::keyClick(window.windowHandle(), *c);
+      QApplication::clipboard()->setText(row.pasted);
+      if (*row.pasted) key(Qt::Key_V, Qt::ControlModifier);
+      EXPECT_EQ(box.text().toStdString(), row.left);
+      EXPECT_EQ(box.selectedText().size(), box.text() == row.text ? row.selected : 0) << row.typed;
+    }
+  });
+}
+
+TEST_F(OptionsOpening, WheelTurnsNoDropDownThatIsNotInFocus) {
+  startWith(";InputMethod=2|InputStart1 = \"KEY2_A\"|");
+  options([](QWidget& window) {
+    for (const auto& [index, name] : {std::pair(2, "cmbInputType"), {4, "Drive1"}}) {
+      page(window, index);
+      auto& box = get<QComboBox>(window, name);
+      const auto turn = [&, before = box.currentIndex()](int by) {
+        const QPointF at(5, 5);
+        QWheelEvent wheel(at, box.mapToGlobal(at), {}, {0, by}, {}, {}, {}, false);
+        QApplication::sendEvent(&box, &wheel);
+        return box.currentIndex() != before;
+      };
+      EXPECT_FALSE(turn(120) || turn(-120) || box.hasFocus()) << name;
+      box.setFocus();
+      EXPECT_TRUE(turn(120) || turn(-120)) << name;
+    }
+  });
 }
 
 TEST_F(OptionsOpening, DragTellsItsEndOnly) {

@@ -1,7 +1,9 @@
 #include "support/ui_test.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <cstdlib>
 
 #include "platform/forms/application.h"
@@ -34,6 +36,12 @@ std::string UiTest::rows(const QListWidget& list) {
   for (int row = 0; row < list.count(); ++row)
     text += list.item(row)->text().toStdString() + (list.item(row)->isSelected() ? "*|" : "|");
   return text;
+}
+
+std::string UiTest::tipAt(QWidget& widget, QPoint at) {
+  QHelpEvent help(QEvent::ToolTip, at, widget.mapToGlobal(at));
+  QApplication::sendEvent(&widget, &help);
+  return QToolTip::text().replace("<span>", "").replace("</span>", "").toStdString();
 }
 
 UiTest::UiTest() {

@@ -39,6 +39,9 @@ class UiTest : public TempApp {
   // The rows of a list, a star behind those that are selected, each ended by "|".
   static std::string rows(const QListWidget& list);
 
+  // The tool tip, markup and all, that comes up there.
+  static std::string tipAt(QWidget& widget, QPoint at);
+
   // Key and mouse events as the window system sends them.
   static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void click(const char* name) const;

@@ -1,7 +1,12 @@
 #include "platform/forms/folder_tree.h"
 
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <QToolTip>
 #include <QTreeWidget>
+#include <algorithm>
 
 #include "base/quietly.h"
 #include "platform/files.h"
@@ -12,23 +17,6 @@ namespace {
 
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kReadRole = Qt::UserRole + 1;
-
-class NativeTree : public RingedView<QTreeWidget> {
- public:
-  using RingedView::RingedView;
-
- protected:
-  // The toolkit would open all folders below the current one, without end where links make a
-  // circle.
-  void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Asterisk)
-      expand(currentIndex());
-    else
-      QTreeWidget::keyPressEvent(event);
-  }
-};
-
-QTreeWidget* Native(QWidget* widget) { return static_cast<QTreeWidget*>(widget); }
 
 std::string PathOf(const QTreeWidgetItem& item) {
   return item.data(0, kPathRole).toByteArray().toStdString();
@@ -45,6 +33,69 @@ QTreeWidgetItem* NewItem(const std::string& path, const std::string& name) {
   return item;
 }
 
+class NativeTree : public RingedView<QTreeWidget> {
+ public:
+  explicit NativeTree(QWidget* parent) : RingedView(parent) {
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setIndentation(12);
+    header()->setStretchLastSection(false);
+    setProperty("takesEnter", true);
+  }
+
+  // As wide as the rows: a column of the tree's width has no room for names at deep levels.
+  void widenColumn() { setColumnWidth(0, std::max(sizeHintForColumn(0), viewport()->width())); }
+  // Brings the name into view sideways too: its end, and before all its beginning.
+  void scrollTo(const QModelIndex& index, ScrollHint hint) override {
+    widenColumn();
+    QTreeWidget::scrollTo(index, hint);
+    const int begin = visualRect(index).left() - indentation();
+    const int end = visualRect(index).left() + sizeHintForIndex(index).width();
+    const int outside = std::max(end - viewport()->width(), 0);
+    auto* bar = horizontalScrollBar();
+    bar->setValue(bar->value() + std::min(outside, begin));
+  }
+
+ protected:
+  // The toolkit would open all folders below the current one at a star, without end where links
+  // make a circle.
+  void keyPressEvent(QKeyEvent* event) override {
+    const auto key = event->key();
+    const auto* item = currentItem();
+    if (key == Qt::Key_Asterisk || key == Qt::Key_Return || key == Qt::Key_Enter)
+      expand(currentIndex());
+    else if (key == Qt::Key_Left && item && item->isExpanded() && item->childCount() > 0)
+      collapse(currentIndex());  // the toolkit does only where there is nothing to scroll
+    else
+      QTreeWidget::keyPressEvent(event);
+    // It scrolls on where there is nothing to open.
+    scrollTo(currentIndex(), EnsureVisible);
+  }
+  bool viewportEvent(QEvent* event) override {
+    if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
+    const auto& help = *static_cast<QHelpEvent*>(event);
+    const auto* item = itemAt(help.pos());
+    const auto tip = item ? PlainToolTip(ToQString(PathOf(*item))) : QString();
+    QToolTip::showText(help.globalPos(), tip, this);
+    return true;
+  }
+  // One folder is always selected.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* /*event*/) const override {
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    QTreeWidget::resizeEvent(event);
+    widenColumn();
+  }
+  void showEvent(QShowEvent* event) override {
+    QTreeWidget::showEvent(event);
+    scrollTo(currentIndex(), EnsureVisible);
+  }
+};
+
+QTreeWidget* Native(QWidget* widget) { return static_cast<QTreeWidget*>(widget); }
+
 QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder) {
   for (int row = 0; row < item.childCount(); ++row) {
     const auto path = PathOf(*item.child(row));
@@ -57,12 +108,16 @@ QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder)
 
 FolderTree::FolderTree(Container& parent, const char* name, const Box& box)
     : Control(new NativeTree(parent.clientArea()), name, box, {}) {
-  auto* tree = Native(widget());
-  tree->setHeaderHidden(true);
-  tree->setUniformRowHeights(true);
-  tree->setIndentation(12);
-  QObject::connect(tree, &QTreeWidget::itemExpanded, tree,
-                   [this](QTreeWidgetItem* item) { readFolder(*item); });
+  auto* tree = static_cast<NativeTree*>(widget());
+  QObject::connect(tree, &QTreeWidget::itemExpanded, tree, [this, tree](QTreeWidgetItem* item) {
+    readFolder(*item);
+    tree->widenColumn();
+  });
+  QObject::connect(tree, &QTreeWidget::itemCollapsed, tree, [tree](QTreeWidgetItem* item) {
+    for (auto* above = tree->currentItem(); above; above = above->parent())
+      if (above == item) tree->setCurrentItem(item);
+    tree->widenColumn();
+  });
 }
 
 void FolderTree::readFolder(QTreeWidgetItem& item) const {

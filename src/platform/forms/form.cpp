@@ -12,6 +12,8 @@
 #include <QScreen>
 #include <QThread>
 #include <QWindow>
+#include <optional>
+#include <utility>
 
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"
@@ -58,11 +60,25 @@ class FormWindow : public QMainWindow {
     QApplication::processEvents();
   }
 
+  // Centres the window with its frame. Before it shows, that of `neighbour` stands in: all frames
+  // of a desktop are alike.
+  void centreOn(QPoint centre, const QWidget* neighbour) {
+    adjustSize();
+    const auto& framed = neighbour ? *neighbour : *this;
+    const bool hasFrame = !windowFlags().testFlag(Qt::FramelessWindowHint);
+    const auto outer =
+        size() + (hasFrame ? framed.frameGeometry().size() - framed.size() : QSize(0, 0));
+    move(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
+  }
+
   QPushButton* defaultButton = nullptr;
   bool closeRefused = false;
+  std::optional<QPoint> centreOnceShown;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Expose && watched == windowHandle() && centreOnceShown)
+      centreOn(*std::exchange(centreOnceShown, {}), nullptr);
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
     auto* target = static_cast<QWidget*>(watched);
     // An event that a control ignores climbs to its parents; the form has seen it by then.
@@ -121,20 +137,9 @@ QPoint Centre(const QRect& outer) {
 }  // namespace
 
 struct Form::Native {
-  Native(Form& form, Border border) : window(form, border), framed(border != Border::None) {}
-
-  // Centres the window, whose frame is not known before it shows: all frames of a desktop being
-  // alike, that of `neighbour` stands in.
-  void centreOn(QPoint centre, const QWidget* neighbour) {
-    window.adjustSize();
-    const auto frame =
-        framed && neighbour ? neighbour->frameGeometry().size() - neighbour->size() : QSize();
-    const auto outer = window.size() + (frame.isValid() ? frame : QSize(0, 0));
-    window.move(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
-  }
+  Native(Form& form, Border border) : window(form, border) {}
 
   FormWindow window;
-  bool framed;
   QWidget* client = nullptr;
 };
 
@@ -180,11 +185,14 @@ void Form::setCloseRefused(bool refused) { native_->window.closeRefused = refuse
 
 void Form::centreOver(const Form& owner) {
   const auto& window = owner.native_->window;
-  native_->centreOn(Centre(window.frameGeometry()), &window);
+  native_->window.centreOn(Centre(window.frameGeometry()), &window);
 }
 
 void Form::centreOnScreen() {
-  native_->centreOn(Centre(native_->window.screen()->availableGeometry()), nullptr);
+  auto& window = native_->window;
+  const auto centre = Centre(window.screen()->availableGeometry());
+  window.centreOn(centre, nullptr);
+  window.centreOnceShown = centre;  // its frame is known by then
 }
 
 void Form::prepareToShow() {

@@ -6,10 +6,9 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolTip>
-#include <algorithm>
-#include <vector>
 
 #include "base/failure.h"
+#include "base/quietly.h"
 #include "base/text.h"
 #include "platform/forms/native.h"
 
@@ -29,17 +28,13 @@ class NativeList : public RingedView<QListWidget> {
   }
 
  protected:
-  // A text that is cut off can be read in full.
   bool viewportEvent(QEvent* event) override {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-      auto* help = static_cast<QHelpEvent*>(event);
-      const auto* item = itemAt(help->pos());
-      const bool cut =
-          item && viewport()->width() < fontMetrics().horizontalAdvance(item->text()) + kTextMargin;
-      QToolTip::showText(help->globalPos(), cut ? PlainToolTip(item->text()) : QString(), this);
-      return true;
-    }
-    return QListWidget::viewportEvent(event);
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
+      return QListWidget::viewportEvent(event);
+    const auto& help = *static_cast<QHelpEvent*>(event);
+    const auto* item = itemAt(help.pos());
+    QToolTip::showText(help.globalPos(), item ? PlainToolTip(toolTipOf(*item)) : QString(), this);
+    return true;
   }
   // One row at a time, and no click or key takes the selection away.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -56,6 +51,7 @@ class NativeList : public RingedView<QListWidget> {
   }
   void focusInEvent(QFocusEvent* event) override {
     RingedView::focusInEvent(event);
+    chooseFocusedRow(event->reason());
     const auto tellRow = [this] {
       if (!hasFocus() || currentRow() < 0) return;
       QAccessibleEvent focus(this, QAccessible::Focus);
@@ -77,7 +73,8 @@ class NativeList : public RingedView<QListWidget> {
   }
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool edits = event->key() == Qt::Key_F2 || (enter && property("takesEnter").toBool());
+    const bool edits = (event->key() == Qt::Key_F2 && property("takesF2").toBool()) ||
+                       (enter && property("takesEnter").toBool());
     if (edits && list_.selectedRow() >= 0) {
       Q_EMIT itemDoubleClicked(item(list_.selectedRow()));
       return;
@@ -87,6 +84,25 @@ class NativeList : public RingedView<QListWidget> {
   }
 
  private:
+  // The toolkit gives the focus to the first row without selecting it, so that keys would start
+  // from a row that they don't act on.
+  void chooseFocusedRow(Qt::FocusReason reason) {
+    if (list_.selectedRow() >= 0) return;
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+      setCurrentRow(currentRow(), QItemSelectionModel::ClearAndSelect);
+    else
+      setCurrentRow(-1, QItemSelectionModel::NoUpdate);
+  }
+  QString toolTipOf(const QListWidgetItem& item) const {
+    if (list_.toolTipOf) {
+      std::string tip;
+      base::Quietly([&] { tip = list_.toolTipOf(row(&item)); });
+      return ToQString(tip);
+    }
+    const auto needed = fontMetrics().horizontalAdvance(item.text()) + kTextMargin;
+    return viewport()->width() < needed ? item.text() : QString();
+  }
+
   const ListBox& list_;
 };
 
@@ -115,19 +131,25 @@ ListBox::ListBox(Container& parent, const char* name, const Box& box, Sorting so
 void ListBox::clear() {
   const QSignalBlocker quiet(widget());
   Native(widget())->clear();
-  keys_.clear();
+  setToolTip({});
+}
+
+int ListBox::placeOf(const std::string& text) const {
+  if (sorting_ == Sorting::No) return count();
+  const auto key = base::FoldCase(text);
+  int first = 0;
+  for (int last = count(); first < last;) {
+    const int middle = (first + last) / 2;
+    if (key < base::FoldCase(this->text(middle)))
+      last = middle;
+    else
+      first = middle + 1;
+  }
+  return first;
 }
 
 int ListBox::add(const std::string& text) {
-  auto at = keys_.end();
-  if (sorting_ == Sorting::IgnoringCase) {
-    auto key = base::FoldCase(text);
-    at = std::upper_bound(keys_.begin(), keys_.end(), key);
-    at = keys_.insert(at, std::move(key));
-  } else {
-    at = keys_.emplace(at);
-  }
-  const int row = static_cast<int>(at - keys_.begin());
+  const int row = placeOf(text);
   const QSignalBlocker quiet(widget());
   Native(widget())->insertItem(row, ToQString(text));
   return row;
@@ -137,8 +159,8 @@ void ListBox::remove(int row) {
   const QSignalBlocker quiet(widget());
   const bool wasSelected = ItemAt(widget(), row).isSelected();
   delete Native(widget())->takeItem(row);
-  keys_.erase(keys_.begin() + row);
   if (wasSelected) select(-1);
+  if (count() == 0) setToolTip({});
 }
 
 void ListBox::setText(int row, const std::string& text) {
@@ -182,6 +204,8 @@ void ListBox::select(int row) {
 void ListBox::hideScrollBar() {
   Native(widget())->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
+
+void ListBox::takeF2() { widget()->setProperty("takesF2", true); }
 
 void ListBox::takeEnter() { widget()->setProperty("takesEnter", true); }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/forms/control.h"
 
 namespace forms {
@@ -9,13 +7,15 @@ namespace forms {
 enum class Sorting { No, IgnoringCase };
 
 // Rows of text, each with an integer that travels with it. At most one row is selected; only the
-// program can take the selection away. Rows that are not there are a failure.
+// program can take the selection away. Where none is, entering the list by the Tab key selects one.
+// Rows that are not there are a failure.
 class ListBox : public Control {
  public:
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
           const FontStyle& font = {});
 
-  // None of these five raises an event, and removing the selected row leaves none selected.
+  // None of these five raises an event, and removing the selected row leaves none selected. A list
+  // that becomes empty loses its tool tip.
   void clear();
   int add(const std::string& text);  // the row at which it was placed
   void remove(int row);
@@ -39,18 +39,24 @@ class ListBox : public Control {
   // Without its own scroll bar the list is moved by keys, the wheel, or the program.
   void hideScrollBar();
 
+  // F2 acts as a double click.
+  void takeF2();
+
   std::function<void()> onClick;
-  std::function<void()> onDblClick;  // on a row; also F2, and a press by assistive technology
+  std::function<void()> onDblClick;            // on a row; also a press by assistive technology
   std::function<void(int keyCode)> onKeyDown;  // 46 Delete
   std::function<void()> onScroll;
+  // The tool tip of a row, as plain text. Without it, a text that is cut off has itself as tip.
+  std::function<std::string(int row)> toolTipOf;
 
  protected:
   // Enter acts as a double click instead of pressing the form's default button.
   void takeEnter();
 
  private:
+  int placeOf(const std::string& text) const;
+
   Sorting sorting_;
-  std::vector<std::string> keys_;  // what the rows are sorted by, in their order
 };
 
 }  // namespace forms

@@ -1,6 +1,8 @@
 #include "platform/forms/menu_item.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -11,14 +13,28 @@
 namespace forms {
 namespace {
 
+// Opens the first menu. Once all menus are closed the focus is back where it was; the toolkit would
+// leave it in the bar.
+void OpenFirstMenu(QMenuBar& bar) {
+  auto* visit = new QObject(&bar);
+  const auto end = [visit, &bar] {
+    if (QApplication::activePopupWidget()) return;  // moved on to another menu
+    visit->deleteLater();
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    if (bar.hasFocus()) QApplication::sendEvent(&bar, &escape);
+  };
+  for (const auto* action : bar.actions())
+    QObject::connect(action->menu(), &QMenu::aboutToHide, visit, end, Qt::QueuedConnection);
+  bar.setActiveAction(bar.actions().constFirst());
+}
+
 QMenuBar& MenuBarOf(const Form& form) {
   auto* window = static_cast<QMainWindow*>(form.clientArea()->window());
   if (auto* bar = qobject_cast<QMenuBar*>(window->menuWidget())) return *bar;
   auto* bar = window->menuBar();
   bar->setNativeMenuBar(false);
   const auto* open = new QShortcut(Qt::Key_F10, bar);
-  QObject::connect(open, &QShortcut::activated, bar,
-                   [bar] { bar->setActiveAction(bar->actions().constFirst()); });
+  QObject::connect(open, &QShortcut::activated, bar, [bar] { OpenFirstMenu(*bar); });
   return *bar;
 }
 

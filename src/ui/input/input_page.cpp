@@ -49,6 +49,7 @@ InputPage::InputPage(forms::Frame& frame, forms::Form& form, const forms::Form& 
     list.onClick = [this, column] { lstInput_Click(column); };
     list.onScroll = [this, column] { lstInput_Scroll(column); };
     list.onDblClick = [this, column] { lstInput_DblClick(column); };
+    list.takeF2();
     list.onKeyDown = [this, column](int keyCode) { lstInput_KeyDown(column, keyCode); };
   }
 }

@@ -37,6 +37,7 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   onUnload = [this] { Form_Unload(); };
   onKeyPress = [this](int keyCode) { Form_KeyPress(keyCode); };
   lstGames.onClick = [this] { lstGames_Click(); };
+  lstGames.toolTipOf = [this](int row) { return ToolTipOf(row); };
   lstGames.onDblClick = [this] { cmdPlay_Click(); };
   cmdPlay.onClick = [this] { cmdPlay_Click(); };
   cmdConfGame.onClick = [this] { cmdConfGame_Click(); };

@@ -43,7 +43,9 @@ class Form1 : public forms::Form {
   void lstGames_Click();
   void optGames_Click(int index);
   void cmdPlay_Click();
+  const core::GameEntry& GameOfRow(int row) const;
   const core::GameEntry& SelectedGame() const;
+  std::string ToolTipOf(int row) const;
 
   // Menus and language.
   void ApplyLanguage();

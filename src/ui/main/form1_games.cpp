@@ -8,6 +8,7 @@
 #include "core/module1.h"
 #include "i18n/message_catalogue.h"
 #include "launch/play_launch.h"
+#include "platform/files.h"
 #include "ui/main/form1.h"
 #include "ui/main/frm_gaming.h"
 
@@ -19,6 +20,16 @@ using i18n::Message;
 using i18n::Msg;
 using namespace Module1;
 
+// The path of the game's archive; of one that isn't there its name and where it was looked for.
+std::string ArchiveTip(const core::GameEntry& game) {
+  auto tip = game.RomName + ".zip";
+  if (game.Available)
+    return platform::SystemPath(platform::Joined(RomPaths.at(game.RomFolder), tip));
+  for (std::size_t slot = 0; slot < core::kSearchedFolders && !RomPaths[slot].empty(); ++slot)
+    tip += "\n" + platform::SystemPath(RomPaths[slot]);
+  return tip;
+}
+
 std::string PlayTime(const std::string& seconds) {
   int number = 0;
   base::Quietly([&] { number = base::ToInteger(seconds); });
@@ -27,9 +38,13 @@ std::string PlayTime(const std::string& seconds) {
 
 }  // namespace
 
-const core::GameEntry& Form1::SelectedGame() const {
-  return GameCatalog.at(static_cast<std::size_t>(lstGames.itemData(lstGames.selectedRow())));
+const core::GameEntry& Form1::GameOfRow(int row) const {
+  return GameCatalog.at(static_cast<std::size_t>(lstGames.itemData(row)));
 }
+
+const core::GameEntry& Form1::SelectedGame() const { return GameOfRow(lstGames.selectedRow()); }
+
+std::string Form1::ToolTipOf(int row) const { return ArchiveTip(GameOfRow(row)); }
 
 void Form1::SelectGamesFilter() {
   const auto filter = GameListPref;
@@ -56,6 +71,7 @@ void Form1::RefreshGameList() {
     lblInfo.setCaption({});
     lstGames.setAccessibleName(lblGameTitle.caption());
     cmdPlay.setEnabled(false);
+    cmdPlay.setToolTip({});
     cmdConfGame.setEnabled(false);
     return;
   }
@@ -74,6 +90,7 @@ void Form1::lstGames_Click() {
   ShowGameIcon(game);
   ShowPlayStats();
   cmdPlay.setEnabled(SelectedGame().Available);
+  cmdPlay.setToolTip(ToolTipOf(row));
 }
 
 void Form1::ShowGameSnapshot(int row) {
@@ -116,7 +133,7 @@ void Form1::optGames_Click(int index) {
 }
 
 void Form1::cmdPlay_Click() {
-  if (lstGames.selectedRow() < 0) return;
+  if (lstGames.selectedRow() < 0 || gaming_) return;
   launch::BuildLaunchRequest(SelectedGame());
   frmGaming gaming(*this);
   gaming.centreOver(*this);

@@ -24,7 +24,8 @@ constexpr int kFirstShaderList = 3;
 constexpr int kMaxFolders = 3;
 constexpr core::FolderList* kFolderLists[kFirstShaderList] = {&RomPaths, &SnapPaths, &IconPaths};
 constexpr const char* kShaders[] = {"FragmentShader", "VertexShader"};
-constexpr forms::FontStyle kHint{7.5, true};  // fits the list in every language
+// In the list's size it would not fit in every language.
+constexpr forms::FontStyle kHint{8.25, true, false, false, 95};
 constexpr forms::Colour kRed{255, 0, 0};
 
 }  // namespace
@@ -120,10 +121,11 @@ void FoldersPage::StartFileChoice(int index) {
   list.setTextColour(kRed);
   list.clear();
   list.add(Msg(Message::ShaderHint));
-  SetFolderPageEnabled(false);
+  // First, since the focus would go on to the list from a button that is disabled.
   File1.setVisible(true);
   File1.selectFirst();
   File1.setFocus();
+  SetFolderPageEnabled(false);
 }
 
 void FoldersPage::File1_DblClick() {
