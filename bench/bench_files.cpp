@@ -1,7 +1,9 @@
-// The search for archives.
+// The search for archives, and the save.
 #include <benchmark/benchmark.h>
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 #include <fstream>
@@ -9,6 +11,7 @@
 #include "bench_data.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"
+#include "platform/files.h"
 
 namespace {
 
@@ -83,5 +86,28 @@ void ListFolders(benchmark::State& state) {
     }
 }
 BENCHMARK(ListFolders)->Name("FindGameArchives, none there/listing once");
+
+// A text that is shorter, then longer than the one before it, as when options are restored and set.
+void Save(benchmark::State& state) {
+  const auto file = bench::NewFolder() + "/Kestrivane.ini";
+  const std::string text(60000, 'x');
+  bool shorter = false;
+  for (auto _ : state)
+    platform::WriteBytes(file, std::string_view(text).substr((shorter = !shorter) ? 30000 : 0));
+}
+BENCHMARK(Save)->Name("Save")->UseRealTime();
+
+void SyncTwice(benchmark::State& state) {
+  const auto file = bench::NewFolder() + "/Kestrivane.ini";
+  const std::string text(60000, 'x');
+  const int opened = open(file.c_str(), O_RDWR | O_CREAT, 0666);
+  for (auto _ : state)
+    for (int sync = 0; sync < 2; ++sync) {
+      if (pwrite(opened, text.data(), text.size(), 0) < 0) state.SkipWithError("not written");
+      fsync(opened);
+    }
+  close(opened);
+}
+BENCHMARK(SyncTwice)->Name("Save/two syncs of the disk")->UseRealTime();
 
 }  // namespace

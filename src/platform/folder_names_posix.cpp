@@ -20,7 +20,6 @@ std::uint32_t HashOf(std::string_view name) {
 
 FolderNames::FolderNames(const std::string& folder) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
-  wasRead_ = stream != nullptr;
   while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
     index_.emplace_back(HashOf(entry->d_name), static_cast<std::uint32_t>(names_.size()));
     names_.append(entry->d_name, std::strlen(entry->d_name) + 1);

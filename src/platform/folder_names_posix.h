@@ -13,14 +13,10 @@ class FolderNames {
  public:
   explicit FolderNames(const std::string& folder);
 
-  // False for a folder that can't be listed, although it may let its files be opened.
-  bool wasRead() const { return wasRead_; }
-
   // The name as the folder spells it, rather as given if there are several; nothing without one.
   const char* find(std::string_view name) const;
 
  private:
-  bool wasRead_ = false;
   std::string names_;                                           // each with a zero behind it
   std::vector<std::pair<std::uint32_t, std::uint32_t>> index_;  // hash, offset in names_
 };
