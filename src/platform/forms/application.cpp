@@ -36,17 +36,15 @@ class Rules : public QObject {
   bool closesAgain(const QKeyEvent& event, bool first) {
     const bool press = event.type() == QEvent::KeyPress;
     const bool held = press && (event.isAutoRepeat() || (first && repeatsUntold(event)));
-    if (first) last_ = {event.key(), press, event.timestamp()};
+    if (first && !press) released_ = {event.key(), event.timestamp()};
     const auto key = event.key();
     return held && (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter);
   }
-  // The toolkit may miss a repetition, above all when the focus moves on to another window: the
-  // window system's pair of release and press has one time, and half of it may be lost.
+  // The toolkit misses a repetition where the window system's pair of release and press, which has
+  // one time, comes in two pieces.
   bool repeatsUntold(const QKeyEvent& press) const {
-    constexpr quint64 kLongestDelay = 1000;  // milliseconds before a key begins to repeat
-    if (press.nativeScanCode() == 0 || press.key() != last_.key) return false;
-    const auto pause = press.timestamp() - last_.time;
-    return last_.press ? pause < kLongestDelay : pause == 0;
+    return press.nativeScanCode() != 0 && press.key() == released_.key &&
+           press.timestamp() == released_.time;
   }
   // Assistive technology gets the tool tip as it is set; only what is drawn could be taken for
   // markup.
@@ -59,9 +57,8 @@ class Rules : public QObject {
 
   struct {
     int key = 0;
-    bool press = false;
     quint64 time = 0;
-  } last_;
+  } released_;
 };
 
 class InputDropper : public QObject {
