@@ -2,6 +2,9 @@
 
 #include <filesystem>
 #include <string_view>
+#include <system_error>
+
+#include "base/failure.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -12,13 +15,20 @@
 namespace platform {
 namespace {
 
+void Check(const std::error_code& error) {
+  if (error) throw base::Failure(error.message());
+}
+
 std::filesystem::path ExecutablePath() {
 #ifdef _WIN32
   std::array<wchar_t, 32768> name{};
   GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()));
   return name.data();
 #else
-  return std::filesystem::read_symlink("/proc/self/exe");
+  std::error_code error;
+  auto path = std::filesystem::read_symlink("/proc/self/exe", error);
+  Check(error);
+  return path;
 #endif
 }
 
@@ -37,7 +47,9 @@ std::string ProgramFolder() { return Folder(); }
 void SetProgramFolder(std::string folder) { Folder() = std::move(folder); }
 
 void SetWorkingFolder(const std::string& folder) {
-  std::filesystem::current_path(std::u8string(folder.begin(), folder.end()));
+  std::error_code error;
+  std::filesystem::current_path(std::u8string(folder.begin(), folder.end()), error);
+  Check(error);
 }
 
 }  // namespace platform
