@@ -10,7 +10,7 @@ namespace config {
 
 struct Configuration {
   core::FolderList RomPaths, SnapPaths, IconPaths;
-  std::vector<core::Profile> Profiles;
+  std::vector<core::Profile> Profiles = std::vector<core::Profile>(2);
   core::PlayRecords PlayLog;
   unsigned char GameListPref = 0;
   unsigned char CurrentLanguage = 0;

@@ -5,6 +5,7 @@
 #include "base/quietly.h"
 #include "config/config_reader.h"
 #include "core/emulator_contract.h"
+#include "core/option_catalogue.h"
 #include "launch/process_capture.h"
 #include "platform/files.h"
 
@@ -48,7 +49,10 @@ void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
 
 Loaded Load(const std::string& appFolder) {
   Loaded loaded;
+  // Until it has been read. Even a start for which memory ran out must not cost the file.
+  loaded.configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   base::Quietly([&] {
+    loaded.configuration.Profiles[0] = core::DefaultProfile();
     EnsureFolders(appFolder);
     loaded.configuration = config::LoadConfigFile(appFolder);
     LoadGameCatalog(appFolder, loaded);
