@@ -89,7 +89,7 @@ TEST_F(ConfigReader, WithoutAReadableFileTheDefaultBindingsHold) {
     std::filesystem::remove_all(path("Config"));
     std::filesystem::create_directory(path("Config"));
     make();
-    const support::Unprivileged rights;
+    const support::Unprivileged user;
     Adopt(LoadConfigFile(AppFolder));
     const auto state = support::StateText();
     EXPECT_TRUE(state.starts_with("1.InputStart1=\"KEY_1,JOY1_BUTTON9\" ")) << what << state;

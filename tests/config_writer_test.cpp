@@ -101,7 +101,7 @@ TEST_F(ConfigWriter, AFailureLeavesTheOldFile) {
   EXPECT_EQ(read("Config/Kestrivane.ini"), "old");
   Profiles.resize(255);
   {
-    const support::Unprivileged rights;
+    const support::Unprivileged user(path("Config/Kestrivane.ini"));
     WriteConfigFile();
   }
   EXPECT_EQ(read("Config/Kestrivane.ini"), "old");

@@ -66,12 +66,8 @@ TEST_F(GameCatalogue, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
   addGames("a");
   write("roms/a.zip", "");
   write("error.log", "");
-  std::filesystem::permissions(path("."), std::filesystem::perms(0555));
-  {
-    const support::Unprivileged rights;
-    EXPECT_FALSE(load());
-  }
-  std::filesystem::permissions(path("."), std::filesystem::perms(0755));
+  const support::Unprivileged user(AppFolder);
+  EXPECT_FALSE(load());
   EXPECT_TRUE(GameCatalog[0].Available);
 }
 

@@ -86,7 +86,7 @@ TEST_F(MainMenus, ClearingNvramsAsksAndReportsNothing) {
   for (const auto* name : {"NVRAM/a.nv", "NVRAM/B.NV", "NVRAM/c.nvx", "NVRAM/d.nv/e.nv"})
     write(name, "");
   {
-    const support::Unprivileged rights;
+    const support::Unprivileged user(path("NVRAM"));
     item("mClearNVRAM").trigger();
   }
   EXPECT_TRUE(exists("NVRAM/a.nv"));

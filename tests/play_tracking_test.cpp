@@ -103,7 +103,7 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
     EXPECT_TRUE(ErrorText.ends_with("x\r\n...")) << "a long report is cut";
   }
   write("error.log", "a report that would be one");
-  const support::Unprivileged rights;
+  const support::Unprivileged user(Module1::AppFolder);
   EXPECT_FALSE(ReadErrorLog()) << "can't be deleted";
 }
 

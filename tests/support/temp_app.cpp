@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include "base/quietly.h"
 #include "core/module1.h"
@@ -97,13 +98,15 @@ fs::path TempApp::settingsFile() { return SettingsFolder::folder / "Kestrivane U
 
 std::string TempApp::settings() { return ReadFile(settingsFile()); }
 
-Unprivileged::Unprivileged() {
+Unprivileged::Unprivileged(fs::path locked) : locked_(std::move(locked)) {
   constexpr uid_t kNobody = 65534;
+  if (!locked_.empty()) fs::permissions(locked_, fs::perms(0222), fs::perm_options::remove);
   if (geteuid() == 0 && seteuid(kNobody) != 0) throw std::runtime_error("user can't be changed");
 }
 
 Unprivileged::~Unprivileged() {
   if (seteuid(getuid()) != 0) std::abort();
+  if (!locked_.empty()) fs::permissions(locked_, fs::perms::owner_write, fs::perm_options::add);
 }
 
 }  // namespace support

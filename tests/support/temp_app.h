@@ -41,12 +41,17 @@ class TempApp : public testing::Test {
   std::string oldProgramFolder_;
 };
 
-// For its lifetime the rights of a user who doesn't own the test's files, also under root.
-struct Unprivileged {
-  Unprivileged();
+// For its lifetime the rights of a plain user, also under root, and nobody may write to this file
+// or folder.
+class Unprivileged {
+ public:
+  explicit Unprivileged(std::filesystem::path locked = {});
   ~Unprivileged();
   Unprivileged(const Unprivileged&) = delete;
   Unprivileged& operator=(const Unprivileged&) = delete;
+
+ private:
+  std::filesystem::path locked_;
 };
 
 }  // namespace support
