@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for the tasks named: build, demo, display, test,
-# fuzz, bench.
+# fuzz, tidy, bench. Where nothing can be installed it names them in one line, and fails.
 set -euo pipefail
 
 declare -A packages=(
@@ -8,14 +8,16 @@ declare -A packages=(
     [demo]="fonts-dejavu-core imagemagick"
     [display]="xvfb openbox xdotool procps"
     [test]="fonts-dejavu-core libgtest-dev"
-    [fuzz]="clang libclang-rt-14-dev"
+    [fuzz]="clang libclang-rt-dev"
+    [tidy]="clang clang-tidy libgtest-dev"
     [bench]="libbenchmark-dev libinih-dev imagemagick x11-xserver-utils"
 )
 
 missing=()
 for task in "$@"; do
     for package in ${packages[$task]}; do
-        [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+        [[ " ${missing[*]} " == *" $package "* ||
+            $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
             missing+=("$package")
     done
 done
@@ -23,6 +25,11 @@ done
 
 as_root=()
 ((EUID == 0)) || as_root=(sudo)
+# The look into the rights may ask for a password, which need not be given again then.
+if ! { command -v apt-get && { ((EUID == 0)) || sudo -l apt-get; }; } >/dev/null 2>&1; then
+    echo "Missing packages, to be installed by an administrator: ${missing[*]}" >&2
+    exit 1
+fi
 echo "Installing ${missing[*]}"
 "${as_root[@]}" apt-get update
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
