@@ -1,20 +1,18 @@
 #!/usr/bin/env bash
 # Builds the fuzzers and runs each for the seconds given, from the kept inputs; with 0 it only
-# replays these. Prints the executions of each. A finding fails the run and stays in build-fuzz.
+# replays these. Prints the executions of each. A finding fails the run and stays in build-sanitize.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 seconds=${1:-60}
-build="build-fuzz"
+build="build-sanitize"
 limit=(-max_total_time="$seconds")
 ((seconds > 0)) || limit=(-runs=0)
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 build_fuzzers() {
-    cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-        -DCMAKE_CXX_COMPILER=clang++ -DKESTRIVANE_FUZZ=ON -DBUILD_TESTING=OFF &&
-        cmake --build "$build" --target fuzzers --parallel "$(nproc)"
+    cmake --preset sanitize && cmake --build --preset sanitize --target fuzzers --parallel "$(nproc)"
 }
 build_fuzzers >"$scratch/build.log" 2>&1 || { cat "$scratch/build.log"; exit 1; }
 

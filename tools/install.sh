@@ -9,7 +9,7 @@ declare -A packages=(
     [display]="xvfb openbox xdotool procps"
     [test]="fonts-dejavu-core libgtest-dev"
     [fuzz]="clang libclang-rt-dev"
-    [tidy]="clang clang-tidy libgtest-dev"
+    [tidy]="clang clang-tidy"
     [bench]="libbenchmark-dev libinih-dev imagemagick x11-xserver-utils"
 )
 

@@ -22,6 +22,8 @@ struct FontStyle {
 struct Colour {
   int red = 0, green = 0, blue = 0;
 };
+inline constexpr Colour kWhite{255, 255, 255};
+inline constexpr Colour kBlack{0, 0, 0};
 
 // Assistive technology passes over a decoration.
 enum class Role { Picture, Group, Link, Decoration };

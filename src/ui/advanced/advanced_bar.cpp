@@ -12,7 +12,7 @@
 namespace ui {
 namespace {
 
-constexpr int kBars = 11;
+constexpr int kBarCount = 11;
 constexpr int kHalfWidth = 2000;
 constexpr int kLine = 255;
 
@@ -35,7 +35,7 @@ AdvancedBar::AdvancedBar(forms::Frame& frame, const AdvancedBarPlan& plan)
                      {plan.left, plan.top + 630, kHalfWidth / 2, kLine},
                      std::to_string(plan.minimum)),
       lblReferenciaEnd_(
-          frame, indexed("lblReferencia", kBars).c_str(),
+          frame, indexed("lblReferencia", kBarCount).c_str(),
           {plan.left + plan.width - kHalfWidth / 2, plan.top + 630, kHalfWidth / 2, kLine},
           std::to_string(plan.maximum), {}, forms::Align::Right) {
   barraD_.setAccessibleName(plan.caption);

@@ -14,7 +14,6 @@ namespace ui {
 namespace {
 
 constexpr const char* kHomePage = "https://kestrivane-ui.example/";
-constexpr forms::Colour kWhite{255, 255, 255};
 constexpr forms::Colour kGrey{128, 128, 128};
 
 }  // namespace
@@ -22,7 +21,7 @@ constexpr forms::Colour kGrey{128, 128, 128};
 Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   setDefaultButton(cmdPlay);
   Label1.setBackColour(kGrey);
-  lblInfo.setTextColour(kWhite);
+  lblInfo.setTextColour(forms::kWhite);
   imgGames.setBorder(true);
   imgDefault.setVisible(false);
   optGames[0].select();

@@ -4,17 +4,11 @@
 #include "i18n/message_catalogue.h"
 
 namespace ui {
-namespace {
-
-constexpr forms::Colour kWhite{255, 255, 255};
-constexpr forms::Colour kBlack{0, 0, 0};
-
-}  // namespace
 
 Form4::Form4() : Form("Form4", forms::Border::FixedDialog, 10950, 7290) {
-  setColours(kWhite, kBlack);
-  tbxError.setBackColour(kWhite);
-  tbxError.setTextColour(kBlack);
+  setColours(forms::kWhite, forms::kBlack);
+  tbxError.setBackColour(forms::kWhite);
+  tbxError.setTextColour(forms::kBlack);
   onLoad = [this] { Form_Load(); };
   onKeyPress = [this](int keyCode) { Form_KeyPress(keyCode); };
 }

@@ -20,8 +20,6 @@ namespace {
 using i18n::Message;
 using i18n::Msg;
 
-constexpr forms::Colour kWhite{255, 255, 255};
-constexpr forms::Colour kBlack{0, 0, 0};
 constexpr int kGoodEndSeconds = 3;
 
 }  // namespace
@@ -29,14 +27,14 @@ constexpr int kGoodEndSeconds = 3;
 frmGaming::frmGaming(Form1& main)
     : Form("frmGaming", forms::Border::None, 5955, 4290), main_(main) {
   setTitle(main.lblGameTitle.caption());
-  setColours(kWhite, kBlack);
+  setColours(forms::kWhite, forms::kBlack);
   lblGameTitle.setWordWrap(true);
   imgIcon.setRole(forms::Role::Picture);
   imgIcon.setAccessibleName(Msg(Message::Icons));
   lblInfo.setBorder(true);
   Label2.setWordWrap(true);
-  Label2.setBackColour(kBlack);
-  Label2.setTextColour(kWhite);
+  Label2.setBackColour(forms::kBlack);
+  Label2.setTextColour(forms::kWhite);
   setCloseRefused(true);
   onActivate = [this] { Form_Activate(); };
 }
