@@ -2,8 +2,9 @@
 
 namespace core {
 
-inline constexpr int kMajor = 0;
-inline constexpr int kMinor = 9;
-inline constexpr int kRevision = 151;
+// The numbers stand in the project's CMakeLists.txt.
+inline constexpr int kMajor = KESTRIVANE_MAJOR;
+inline constexpr int kMinor = KESTRIVANE_MINOR;
+inline constexpr int kRevision = KESTRIVANE_REVISION;
 
 }  // namespace core
