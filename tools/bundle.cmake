@@ -1,0 +1,47 @@
+# Run at installing: copies the toolkit that PROGRAM needs, its plugins for displays, input methods and
+# pictures, what these need and the licences of all, into FOLDER. QMAKE is asked where
+# plugins are. Left out is what belongs to the machine and its display: the C and C++ runtimes, the X,
+# Wayland and OpenGL libraries, fonts.
+set(OF_THE_MACHINE
+  "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|gcc_s|stdc\\+\\+)\\.so"
+  "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|GL|GLX|EGL|OpenGL|GLdispatch|drm|gbm|wayland-.*)\\.so"
+  "^lib(fontconfig|freetype|expat|z)\\.so")
+
+execute_process(COMMAND "${QMAKE}" -query QT_INSTALL_PLUGINS
+  OUTPUT_VARIABLE PLUGIN_FOLDER OUTPUT_STRIP_TRAILING_WHITESPACE)
+file(GLOB MODULES
+  "${PLUGIN_FOLDER}/platforms/libqxcb.so" "${PLUGIN_FOLDER}/platforms/libqwayland-generic.so"
+  "${PLUGIN_FOLDER}/wayland-decoration-client/*.so"
+  "${PLUGIN_FOLDER}/wayland-shell-integration/libxdg-shell.so"
+  "${PLUGIN_FOLDER}/platforminputcontexts/*.so" "${PLUGIN_FOLDER}/imageformats/libq[ij]*.so")
+file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${PROGRAM} MODULES ${MODULES}
+  RESOLVED_DEPENDENCIES_VAR NEEDED UNRESOLVED_DEPENDENCIES_VAR MISSING
+  PRE_EXCLUDE_REGEXES ${OF_THE_MACHINE})
+if(MISSING)
+  message(FATAL_ERROR "Not found: ${MISSING}")
+endif()
+
+file(REMOVE_RECURSE "${FOLDER}")
+foreach(LIBRARY ${NEEDED})
+  get_filename_component(NAME "${LIBRARY}" NAME)
+  get_filename_component(FILE "${LIBRARY}" REALPATH)
+  configure_file("${FILE}" "${FOLDER}/${NAME}" COPYONLY)
+endforeach()
+foreach(PLUGIN ${MODULES})
+  file(RELATIVE_PATH NAME "${PLUGIN_FOLDER}" "${PLUGIN}")
+  configure_file("${PLUGIN}" "${FOLDER}/plugins/${NAME}" COPYONLY)
+endforeach()
+
+# Debian keeps a package's licence in its documentation.
+foreach(LIBRARY ${NEEDED} ${MODULES})
+  get_filename_component(FILE "${LIBRARY}" REALPATH)
+  get_filename_component(NAME "${FILE}" NAME)
+  execute_process(COMMAND dpkg-query --search "*/${NAME}" OUTPUT_VARIABLE PACKAGE ERROR_QUIET)
+  string(REGEX REPLACE "[:\n].*" "" PACKAGE "${PACKAGE}")
+  set(LICENCE "/usr/share/doc/${PACKAGE}/copyright")
+  if(NOT PACKAGE OR NOT EXISTS "${LICENCE}")
+    message(FATAL_ERROR "No licence of ${FILE}")
+  endif()
+  get_filename_component(LICENCE "${LICENCE}" REALPATH)
+  configure_file("${LICENCE}" "${FOLDER}/licences/${PACKAGE}.txt" COPYONLY)
+endforeach()

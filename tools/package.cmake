@@ -1,0 +1,44 @@
+# What is installed, and the archives that cpack makes of it: the program alone, and on Linux also with
+# the toolkit. All goes into one folder, the emulator's, where other files of these kinds may be.
+function(install_program) # options of each installation
+  install(TARGETS KestrivaneUI RUNTIME DESTINATION . ${ARGN})
+  install(FILES assets/KestrivaneUI.txt DESTINATION . ${ARGN})
+  install(FILES LICENSE DESTINATION . RENAME KestrivaneUI-LICENSE.txt ${ARGN})
+  if(NOT WIN32)
+    install(PROGRAMS assets/KestrivaneUI-menu.sh DESTINATION . ${ARGN})
+    install(FILES assets/kestrivane-ui.desktop DESTINATION . ${ARGN})
+    install(FILES assets/icon.png DESTINATION . RENAME kestrivane-ui.png ${ARGN})
+  endif()
+endfunction()
+
+install_program(COMPONENT program)
+set(CPACK_COMPONENTS_ALL program)
+set(CPACK_ARCHIVE_PROGRAM_FILE_NAME "KestrivaneUI-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}")
+
+if(CMAKE_SYSTEM_NAME STREQUAL Linux)
+  # The loader looks here first, for the needs of the libraries in it too.
+  set(TOOLKIT KestrivaneUI-Qt)
+  set_target_properties(KestrivaneUI PROPERTIES INSTALL_RPATH "$ORIGIN/${TOOLKIT}")
+  target_link_options(KestrivaneUI PRIVATE -Wl,--disable-new-dtags)
+  set(SETTINGS "${CMAKE_CURRENT_BINARY_DIR}/qt.conf")
+  file(WRITE "${SETTINGS}" "[Paths]\nPrefix=${TOOLKIT}\nPlugins=plugins\n")
+
+  install_program(COMPONENT bundle EXCLUDE_FROM_ALL)
+  install(FILES "${SETTINGS}" DESTINATION . COMPONENT bundle EXCLUDE_FROM_ALL)
+  install(CODE "
+    set(PROGRAM \"$<TARGET_FILE:KestrivaneUI>\")
+    set(QMAKE \"$<TARGET_FILE:Qt6::qmake>\")
+    set(FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${TOOLKIT}\")
+    include(\"${CMAKE_CURRENT_LIST_DIR}/bundle.cmake\")
+  " COMPONENT bundle EXCLUDE_FROM_ALL)
+  list(APPEND CPACK_COMPONENTS_ALL bundle)
+  set(CPACK_ARCHIVE_BUNDLE_FILE_NAME "${CPACK_ARCHIVE_PROGRAM_FILE_NAME}-with-Qt")
+endif()
+
+set(CPACK_GENERATOR TGZ)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+set(CPACK_STRIP_FILES ON)
+include(CPack)
