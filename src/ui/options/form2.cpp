@@ -34,7 +34,7 @@ Form2::Form2(const forms::Form& main)
   for (int page = 1; page < kPages; ++page) frmOPT[page].setVisible(false);
   lblGameDef.makeLink();
   lblGameDef.setVisible(false);
-  for (auto& options : {audio_.options(), video_.options(), machine_.options()})
+  for (const auto& options : {audio_.options(), video_.options(), machine_.options()})
     options_.insert(options_.end(), options.begin(), options.end());
   std::ranges::sort(options_, {}, [](const OptionControl& control) {
     return std::ranges::find(kLoadOrder, control.option) - std::begin(kLoadOrder);
