@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for the tasks named: build, demo, display, test,
-# fuzz, tidy, bench. Where nothing can be installed it names them in one line, and fails.
+# fuzz, tidy, spoken, contrast, bench. Where nothing can be installed it names them in one line, and fails.
 set -euo pipefail
 
 declare -A packages=(
@@ -10,6 +10,8 @@ declare -A packages=(
     [test]="fonts-dejavu-core libgtest-dev"
     [fuzz]="clang libclang-rt-dev"
     [tidy]="clang clang-tidy"
+    [spoken]="orca python3-speechd at-spi2-core dbus"
+    [contrast]="imagemagick python3-pil qt6ct qt6-gtk-platformtheme gnome-themes-extra dbus-x11"
     [bench]="libbenchmark-dev libinih-dev imagemagick x11-xserver-utils"
 )
 

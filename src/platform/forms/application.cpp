@@ -1,10 +1,15 @@
 #include "platform/forms/application.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QEventLoop>
 #include <QHelpEvent>
+#include <QPalette>
+#include <QTimer>
 #include <QToolTip>
 #include <cstdlib>
 
+#include "platform/clock.h"
 #include "platform/forms/control_accessible.h"
 #include "platform/forms/list_accessible.h"
 #include "platform/forms/native.h"
@@ -15,6 +20,13 @@ static void LoadAssets() { Q_INIT_RESOURCE(assets); }
 namespace forms {
 
 namespace {
+
+// A wait during which assistive technology is answered, but nothing that a person does is obeyed.
+void SleepAnswering(std::chrono::milliseconds time) {
+  QEventLoop loop;
+  QTimer::singleShot(time, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
 
 // What holds for every window.
 class Rules : public QObject {
@@ -100,8 +112,12 @@ struct Application::Native {
 Application::Application() : native_(std::make_unique<Native>()) {
   LoadAssets();
   QApplication::instance()->installEventFilter(&native_->rules);
+  QApplication::setPalette(WithReadableSelection(QApplication::palette()));
   MakeControlsAccessible();
   MakeListsAccessible();
+  platform::TheClock().sleep = [sleep = platform::TheClock().sleep](auto time) {
+    QAccessible::isActive() ? SleepAnswering(time) : sleep(time);
+  };
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationDisplayName({});
   QGuiApplication::setDesktopFileName(QStringLiteral("kestrivane-ui"));

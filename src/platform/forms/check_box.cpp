@@ -10,9 +10,9 @@ namespace forms {
 namespace {
 
 // The user only ticks and unticks; the greyed state is the program's alone.
-class NativeCheckBox : public QCheckBox {
+class NativeCheckBox : public Ringed<QCheckBox> {
  public:
-  using QCheckBox::QCheckBox;
+  using Ringed::Ringed;
 
  protected:
   void nextCheckState() override {

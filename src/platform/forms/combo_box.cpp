@@ -1,7 +1,6 @@
 #include "platform/forms/combo_box.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -12,9 +11,9 @@ namespace forms {
 namespace {
 
 // The wheel belongs to the page unless the box was chosen.
-class NativeComboBox : public QComboBox {
+class NativeComboBox : public Ringed<QComboBox> {
  public:
-  explicit NativeComboBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+  explicit NativeComboBox(QWidget* parent) : Ringed(parent) { setFocusPolicy(Qt::StrongFocus); }
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
@@ -30,10 +29,7 @@ QComboBox* Native(QWidget* widget) { return static_cast<QComboBox*>(widget); }
 }  // namespace
 
 ComboBox::ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font)
-    : Control(new NativeComboBox(parent.clientArea()), name, box, font),
-      name_(new QLabel(parent.clientArea())) {
-  name_->hide();
-  name_->setBuddy(widget());
+    : Control(new NativeComboBox(parent.clientArea()), name, box, font) {
   // A list with a scroll bar below the box, not a menu as high as the screen.
   Native(widget())->setStyleSheet(QStringLiteral("combobox-popup: 0"));
   Native(widget())->setMaxVisibleItems(15);
@@ -58,13 +54,6 @@ int ComboBox::selectedRow() const { return Native(widget())->currentIndex(); }
 void ComboBox::select(int row) {
   if (row < 0 || row >= count()) throw base::Failure("no such row");
   Native(widget())->setCurrentIndex(row);
-}
-
-// Where the toolkit tells the selected row as the name of a drop-down, assistive technology takes
-// what to call it from the label that belongs to it.
-void ComboBox::setAccessibleName(const std::string& name) {
-  Control::setAccessibleName(name);
-  name_->setAccessibleName(widget()->accessibleName());
 }
 
 bool ComboBox::selectText(const std::string& text) {

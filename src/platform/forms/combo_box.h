@@ -2,8 +2,6 @@
 
 #include "platform/forms/control.h"
 
-class QLabel;
-
 namespace forms {
 
 // A drop-down list without typing. A newly selected row raises the click, by whomever.
@@ -22,12 +20,7 @@ class ComboBox : public Control {
   // Selects the row with exactly this text; false if there is none.
   bool selectText(const std::string& text);
 
-  void setAccessibleName(const std::string& name) override;
-
   std::function<void()> onClick;
-
- private:
-  QLabel* name_;
 };
 
 }  // namespace forms

@@ -1,6 +1,5 @@
 #include "platform/forms/control.h"
 
-#include <QPainter>
 #include <QPalette>
 #include <QTextDocument>
 #include <QWidget>
@@ -42,13 +41,6 @@ QString ToQString(const std::string& text) { return QString::fromStdString(text)
 
 QString PlainToolTip(const QString& text) {
   return Qt::mightBeRichText(text) ? "<span>" + text.toHtmlEscaped() + "</span>" : text;
-}
-
-void PaintFocusRing(QWidget& on) {
-  constexpr int kPixels = 2;
-  QPainter painter(&on);
-  painter.setPen(QPen(on.palette().color(QPalette::Highlight), kPixels));
-  painter.drawRect(on.rect().adjusted(1, 1, -1, -1));
 }
 
 Control::Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font)
@@ -104,6 +96,8 @@ void Control::setAccessibleName(const std::string& name) {
   if (text.endsWith(u':')) text.chop(1);
   widget_->setAccessibleName(text);
 }
+
+void Control::announce() const { Announce(*widget_); }
 
 void Control::setRole(Role role) { SetAccessibleRole(*widget_, role); }
 

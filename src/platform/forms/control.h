@@ -66,7 +66,9 @@ class Control {
 
   // What assistive technology calls the control, where its own caption does not tell: a caption or
   // several near by. The colon at its end is dropped.
-  virtual void setAccessibleName(const std::string& name);
+  void setAccessibleName(const std::string& name);
+  // Has assistive technology speak the control as if the focus had come to it.
+  void announce() const;
   // What assistive technology takes the control for, where its kind does not tell.
   void setRole(Role role);
 

@@ -3,13 +3,17 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QWidget>
 #include <map>
+
+#include "platform/forms/accessible_text.h"
 
 namespace forms {
 namespace {
 
 constexpr const char* kRoleProperty = "accessibleRole";
+constexpr const char* kValueProperty = "accessibleValue";
 
 QAccessible::Role ToAccessibleRole(Role role) {
   switch (role) {
@@ -40,6 +44,8 @@ class RoleInterface : public QAccessibleWidget {
     auto text = QAccessibleWidget::text(kind);
     if (kind == QAccessible::Name && text.isEmpty() && role() != QAccessible::Whitespace)
       text = widget()->property("text").toString();
+    // A tool tip that repeats the name would be spoken after it.
+    if (kind == QAccessible::Description && text == this->text(QAccessible::Name)) return {};
     return text;
   }
   QAccessible::State state() const override {
@@ -67,7 +73,38 @@ class RoleInterface : public QAccessibleWidget {
   }
 };
 
+// A bar whose value is shown in words too. Screen readers speak the text of a spin box, but only
+// the number of a slider.
+class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  explicit BarInterface(QScrollBar* bar)
+      : QAccessibleWidget(bar, QAccessible::SpinBox),
+        shown_(NewAccessibleText([bar] { return bar->property(kValueProperty).toString(); })) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Value ? shown_->text(0, shown_->characterCount())
+                                      : QAccessibleWidget::text(kind);
+  }
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+    return type == QAccessible::TextInterface ? shown_.get()
+                                              : QAccessibleWidget::interface_cast(type);
+  }
+  QVariant currentValue() const override { return bar()->value(); }
+  void setCurrentValue(const QVariant& value) override { bar()->setValue(value.toInt()); }
+  QVariant maximumValue() const override { return bar()->maximum(); }
+  QVariant minimumValue() const override { return bar()->minimum(); }
+  QVariant minimumStepSize() const override { return bar()->singleStep(); }
+
+ private:
+  QScrollBar* bar() const { return static_cast<QScrollBar*>(widget()); }
+
+  std::unique_ptr<QAccessibleTextInterface> shown_;
+};
+
 QAccessibleInterface* NewInterface(const QString& className, QObject* object) {
+  if (auto* bar = qobject_cast<QScrollBar*>(object); bar && bar->property(kValueProperty).isValid())
+    return new BarInterface(bar);
   static const std::map<QString, QAccessible::Role> kRoles = {
       {QStringLiteral("QFrame"), QAccessible::Whitespace},
       {QStringLiteral("QLabel"), QAccessible::StaticText},
@@ -83,8 +120,17 @@ QAccessibleInterface* NewInterface(const QString& className, QObject* object) {
 
 void MakeControlsAccessible() { QAccessible::installFactory(NewInterface); }
 
+void Announce(QWidget& widget) {
+  QAccessibleEvent focus(&widget, QAccessible::Focus);
+  QAccessible::updateAccessibility(&focus);
+}
+
 void SetAccessibleRole(QWidget& widget, Role role) {
   widget.setProperty(kRoleProperty, static_cast<int>(ToAccessibleRole(role)));
+}
+
+void SetAccessibleValue(QWidget& bar, const QString& value) {
+  bar.setProperty(kValueProperty, value);
 }
 
 }  // namespace forms

@@ -1,5 +1,6 @@
 #include "platform/forms/folder_tree.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -71,6 +72,12 @@ class NativeTree : public RingedView<QTreeWidget> {
     // It scrolls on where there is nothing to open.
     scrollTo(currentIndex(), EnsureVisible);
   }
+  // Assistive technology is told of the tree first, and then of the folder in it.
+  void focusInEvent(QFocusEvent* event) override {
+    RingedView::focusInEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { tellCurrent(); }, Qt::QueuedConnection);
+  }
   bool viewportEvent(QEvent* event) override {
     if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
     const auto& help = *static_cast<QHelpEvent*>(event);
@@ -91,6 +98,15 @@ class NativeTree : public RingedView<QTreeWidget> {
   void showEvent(QShowEvent* event) override {
     QTreeWidget::showEvent(event);
     scrollTo(currentIndex(), EnsureVisible);
+  }
+
+ private:
+  void tellCurrent() {
+    auto* tree = QAccessible::isActive() ? QAccessible::queryAccessibleInterface(this) : nullptr;
+    auto* folder = tree && hasFocus() ? tree->focusChild() : nullptr;
+    if (!folder) return;
+    QAccessibleEvent focus(folder, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
   }
 };
 

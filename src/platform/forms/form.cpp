@@ -162,6 +162,10 @@ void Form::setTitle(const std::string& title) {
       ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
+void Form::setDescription(const std::string& text) {
+  native_->window.setAccessibleDescription(ToQString(text));
+}
+
 void Form::setColours(Colour background, Colour text) {
   auto palette = native_->client->palette();
   palette.setColor(QPalette::Window, QColor(background.red, background.green, background.blue));

@@ -22,6 +22,8 @@ class Form : public Container {
   Form& operator=(const Form&) = delete;
 
   void setTitle(const std::string& title);
+  // What assistive technology tells of the window after its title.
+  void setDescription(const std::string& text);
   void setColours(Colour background, Colour text);
   // Enter presses it, unless the control in focus takes Enter itself.
   void setDefaultButton(CommandButton& button);

@@ -6,7 +6,6 @@
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -53,11 +52,8 @@ class NativeLabel : public QLabel {
       paintSpread(painter, room);
     else
       paintText(painter, room);
-    if (hasFocus()) {
-      QStyleOptionFocusRect option;
-      option.initFrom(this);
-      style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    painter.end();
+    if (hasFocus()) PaintFocusRing(*this, 1);
   }
   void mouseReleaseEvent(QMouseEvent* event) override {
     if (event->button() == Qt::LeftButton && rect().contains(event->pos())) Raise(label_.onClick);
@@ -121,6 +117,9 @@ Label::Label(Container& parent, const char* name, const Box& box, const std::str
                           : align == Align::Centre ? Qt::AlignHCenter
                                                    : Qt::AlignRight;
   Native(widget())->setAlignment(horizontal | Qt::AlignTop);
+  // An accent on a capital needs a little more room than the line has, where there is any.
+  if (ToPixels(box.height) * 3 >= widget()->font().pixelSize() * 4)
+    widget()->setContentsMargins(0, 1, 0, 0);
   setCaption(caption);
 }
 
@@ -144,6 +143,7 @@ void Label::setWordWrap(bool wrap) {
   constexpr int kMarginPixels = 2;
   Native(widget())->setWordWrap(wrap);
   Native(widget())->setMargin(wrap ? kMarginPixels : 0);
+  if (wrap) widget()->setContentsMargins(0, 0, 0, 0);
 }
 
 void Label::setBorder(bool border) {
@@ -156,7 +156,12 @@ void Label::makeLink() {
   link_ = true;
   setRole(Role::Link);
   widget()->setProperty("takesEnter", true);
-  widget()->setForegroundRole(QPalette::Link);
+  constexpr double kTextContrast = 4.5;
+  auto palette = widget()->palette();
+  palette.setColor(
+      QPalette::WindowText,
+      WithContrast(palette.color(QPalette::Link), palette.color(QPalette::Window), kTextContrast));
+  widget()->setPalette(palette);
   widget()->setFocusPolicy(Qt::StrongFocus);
   widget()->setCursor(QCursor(QPixmap(QStringLiteral(":/link_pointer.png")), 11, 4));
 }

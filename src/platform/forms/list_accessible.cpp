@@ -1,21 +1,110 @@
 #include "platform/forms/list_accessible.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QListWidget>
 #include <QPointer>
+#include <utility>
 #include <vector>
+
+#include "platform/forms/accessible_text.h"
 
 namespace forms {
 namespace {
 
+// A list or a drop-down, with its rows as children. A new name of a row is told.
+class RowsInterface : public QAccessibleWidget {
+ public:
+  RowsInterface(QWidget* widget, QAccessible::Role role, QAbstractItemModel* model)
+      : QAccessibleWidget(widget, role), model_(model) {
+    const auto changed = [this] { tellNamesLater(); };
+    QObject::connect(model, &QAbstractItemModel::dataChanged, &connections_, changed);
+    QObject::connect(model, &QAbstractItemModel::rowsInserted, &connections_, changed);
+    QObject::connect(model, &QAbstractItemModel::rowsRemoved, &connections_, changed);
+    QObject::connect(model, &QAbstractItemModel::modelReset, &connections_, changed);
+  }
+  ~RowsInterface() override {
+    for (const auto& row : rows_) QAccessible::deleteAccessibleInterface(row.id);
+    for (const auto id : former_) QAccessible::deleteAccessibleInterface(id);
+  }
+
+  int childCount() const override { return model_ ? model_->rowCount() : 0; }
+  QAccessibleInterface* child(int row) const override;
+  int indexOfChild(const QAccessibleInterface* child) const override;
+  QAccessibleInterface* focusChild() const override {
+    return widget()->hasFocus() ? child(currentRow()) : nullptr;
+  }
+
+  virtual int currentRow() const = 0;
+  virtual QAccessible::State stateOf(int row) const = 0;
+  virtual QRect rectOf(int row) const = 0;
+  virtual void press(int row) = 0;
+
+  // An empty row goes by its description.
+  QString textOf(int row, QAccessible::Text kind) const {
+    const auto index = model_->index(row, 0);
+    const auto shown = index.data().toString();
+    const auto description = index.data(Qt::AccessibleDescriptionRole).toString();
+    if (kind == QAccessible::Name) return shown.isEmpty() ? description : shown;
+    return kind == QAccessible::Description && !shown.isEmpty() ? description : QString();
+  }
+
+ protected:
+  void tellFocus() const {
+    if (auto* row = focusChild()) {
+      QAccessibleEvent focus(row, QAccessible::Focus);
+      QAccessible::updateAccessibility(&focus);
+    }
+  }
+
+  QObject connections_;  // end with the interface
+
+ private:
+  struct Row {
+    QAccessible::Id id;
+    QString told;
+  };
+
+  // Once all that changes together has changed.
+  void tellNamesLater() {
+    if (rows_.empty() || std::exchange(telling_, true)) return;
+    QMetaObject::invokeMethod(
+        &connections_, [this] { tellNames(); }, Qt::QueuedConnection);
+  }
+  void tellNames() {
+    telling_ = false;
+    for (auto& row : rows_) {
+      auto* interface = QAccessible::accessibleInterface(row.id);
+      if (!interface->isValid()) continue;
+      const auto before = std::exchange(row.told, interface->text(QAccessible::Name));
+      if (row.told == before) continue;
+      QAccessibleEvent event(interface, QAccessible::NameChanged);
+      QAccessible::updateAccessibility(&event);
+      if (interface->state().focused) tellFocusAnew(row);
+    }
+  }
+  // Screen readers pass over the new name of a row that they know, and speak a row that they don't.
+  void tellFocusAnew(Row& row);
+
+  QPointer<QAbstractItemModel> model_;
+  mutable std::vector<Row> rows_;
+  std::vector<QAccessible::Id> former_;  // answer whoever holds them still
+  bool telling_ = false;
+};
+
 class RowInterface : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  RowInterface(QListWidget* list, int row) : list_(list), row_(row) {}
+  RowInterface(QWidget* control, int row) : control_(control), row_(row) {}
 
-  bool isValid() const override { return list_ && list_->item(row_); }
+  int row() const { return row_; }
+  // Another stands for the row from then on.
+  void leaveItsPlace() { former_ = true; }
+
+  bool isValid() const override { return control_ && row_ < rows().childCount(); }
   QObject* object() const override { return nullptr; }
   QAccessibleInterface* parent() const override {
-    return QAccessible::queryAccessibleInterface(list_.data());
+    return QAccessible::queryAccessibleInterface(control_.data());
   }
   QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
   QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
@@ -29,25 +118,17 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
       state.invalid = true;
       return state;
     }
+    state = rows().stateOf(row_);
     state.selectable = state.focusable = true;
-    state.selected = item()->isSelected();
-    state.focused = list_->hasFocus() && list_->currentRow() == row_;
-    state.disabled = !list_->isEnabled() || item()->flags() == Qt::NoItemFlags;
-    state.offscreen = !list_->viewport()->rect().intersects(list_->visualItemRect(item()));
+    state.focused = control_->hasFocus() && rows().currentRow() == row_;
+    if (!control_->isEnabled()) state.disabled = true;
     return state;
   }
   QString text(QAccessible::Text kind) const override {
-    if (!isValid()) return {};
-    if (kind == QAccessible::Description)
-      return item()->data(Qt::AccessibleDescriptionRole).toString();
-    return kind == QAccessible::Name ? item()->text() : QString();
+    return isValid() ? rows().textOf(row_, kind) : QString();
   }
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
-  QRect rect() const override {
-    if (!isValid()) return {};
-    const auto inside = list_->visualItemRect(item());
-    return {list_->viewport()->mapToGlobal(inside.topLeft()), inside.size()};
-  }
+  QRect rect() const override { return isValid() && !former_ ? rows().rectOf(row_) : QRect(); }
   void* interface_cast(QAccessible::InterfaceType type) override {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
                                                 : nullptr;
@@ -57,64 +138,136 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   // Later, since what it opens may stay for long and the caller waits.
   void doAction(const QString& name) override {
     if (name != pressAction() || !isValid() || state().disabled) return;
-    const auto press = [list = list_.data(), row = row_] {
-      if (!list->item(row)) return;
-      list->setCurrentRow(row);
-      Q_EMIT list->itemDoubleClicked(list->item(row));
+    const auto press = [this] {
+      if (isValid()) rows().press(row_);
     };
-    QMetaObject::invokeMethod(list_.data(), press, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(control_.data(), press, Qt::QueuedConnection);
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override {
-    return {QStringLiteral("F2")};
+    return rows().role() == QAccessible::List ? QStringList(QStringLiteral("F2")) : QStringList();
   }
 
  private:
-  QListWidgetItem* item() const { return list_->item(row_); }
+  RowsInterface& rows() const { return static_cast<RowsInterface&>(*parent()); }
 
-  QPointer<QListWidget> list_;
+  QPointer<QWidget> control_;
   int row_;
+  bool former_ = false;
 };
 
-class ListInterface : public QAccessibleWidget {
- public:
-  explicit ListInterface(QListWidget* list) : QAccessibleWidget(list, QAccessible::List) {}
-  ~ListInterface() override {
-    for (const auto id : rows_) QAccessible::deleteAccessibleInterface(id);
-  }
+int RowsInterface::indexOfChild(const QAccessibleInterface* child) const {
+  const bool own = child && child->role() == QAccessible::ListItem && child->parent() == this;
+  return own ? static_cast<const RowInterface*>(child)->row() : -1;
+}
 
-  int childCount() const override { return list()->count(); }
-  QAccessibleInterface* child(int row) const override {
-    if (row < 0 || row >= childCount()) return nullptr;
-    while (static_cast<int>(rows_.size()) <= row)
-      rows_.push_back(QAccessible::registerAccessibleInterface(
-          new RowInterface(list(), static_cast<int>(rows_.size()))));
-    return QAccessible::accessibleInterface(rows_[static_cast<std::size_t>(row)]);
+void RowsInterface::tellFocusAnew(Row& row) {
+  former_.push_back(row.id);
+  static_cast<RowInterface*>(QAccessible::accessibleInterface(row.id))->leaveItsPlace();
+  row.id = QAccessible::registerAccessibleInterface(new RowInterface(widget(), currentRow()));
+  tellFocus();
+}
+
+QAccessibleInterface* RowsInterface::child(int row) const {
+  if (row < 0 || row >= childCount()) return nullptr;
+  while (static_cast<int>(rows_.size()) <= row) {
+    const auto next = static_cast<int>(rows_.size());
+    rows_.push_back({QAccessible::registerAccessibleInterface(new RowInterface(widget(), next)),
+                     textOf(next, QAccessible::Name)});
   }
-  int indexOfChild(const QAccessibleInterface* child) const override {
-    for (int row = 0; row < static_cast<int>(rows_.size()); ++row)
-      if (this->child(row) == child) return row;
-    return -1;
-  }
+  return QAccessible::accessibleInterface(rows_[static_cast<std::size_t>(row)].id);
+}
+
+class ListInterface : public RowsInterface {
+ public:
+  explicit ListInterface(QListWidget* list)
+      : RowsInterface(list, QAccessible::List, list->model()) {}
+
   QAccessibleInterface* childAt(int x, int y) const override {
     const auto* item = list()->itemAt(list()->viewport()->mapFromGlobal(QPoint(x, y)));
     return item ? child(list()->row(item)) : nullptr;
   }
-  QAccessibleInterface* focusChild() const override {
-    return list()->hasFocus() ? child(list()->currentRow()) : nullptr;
+  int currentRow() const override { return list()->currentRow(); }
+  QAccessible::State stateOf(int row) const override {
+    QAccessible::State state;
+    const auto* item = list()->item(row);
+    state.selected = item->isSelected();
+    state.disabled = item->flags() == Qt::NoItemFlags;
+    state.offscreen = !list()->viewport()->rect().intersects(list()->visualItemRect(item));
+    return state;
+  }
+  QRect rectOf(int row) const override {
+    const auto inside = list()->visualItemRect(list()->item(row));
+    return {list()->viewport()->mapToGlobal(inside.topLeft()), inside.size()};
+  }
+  // What a double click does.
+  void press(int row) override {
+    list()->setCurrentRow(row);
+    Q_EMIT list()->itemDoubleClicked(list()->item(row));
   }
 
  private:
   QListWidget* list() const { return static_cast<QListWidget*>(widget()); }
+};
 
-  mutable std::vector<QAccessible::Id> rows_;
+// The toolkit gives a drop-down its value for a name, and tells of no row that the keys choose
+// while the list is closed.
+class ComboInterface : public RowsInterface {
+ public:
+  explicit ComboInterface(QComboBox* box)
+      : RowsInterface(box, QAccessible::ComboBox, box->model()),
+        shown_(NewAccessibleText([box] { return box->currentText(); })) {
+    const auto tell = [this] {
+      if (!this->box()->view()->isVisible()) tellFocus();
+    };
+    QObject::connect(box, &QComboBox::currentIndexChanged, &connections_, tell,
+                     Qt::QueuedConnection);
+  }
+
+  QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+  int currentRow() const override { return box()->currentIndex(); }
+  QAccessible::State stateOf(int row) const override {
+    QAccessible::State state;
+    state.selected = row == currentRow();
+    return state;
+  }
+  QRect rectOf(int /*row*/) const override { return rect(); }
+  void press(int row) override { box()->setCurrentIndex(row); }
+
+  QAccessible::State state() const override {
+    auto state = QAccessibleWidget::state();
+    state.expandable = true;
+    state.expanded = box()->view()->isVisible();
+    return state;
+  }
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Value ? box()->currentText() : QAccessibleWidget::text(kind);
+  }
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::TextInterface ? shown_.get()
+                                              : QAccessibleWidget::interface_cast(type);
+  }
+  QStringList actionNames() const override {
+    return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& name) override {
+    if (name != pressAction()) return QAccessibleWidget::doAction(name);
+    if (box()->isEnabled())
+      QMetaObject::invokeMethod(box(), &QComboBox::showPopup, Qt::QueuedConnection);
+  }
+
+ private:
+  QComboBox* box() const { return static_cast<QComboBox*>(widget()); }
+
+  std::unique_ptr<QAccessibleTextInterface> shown_;
 };
 
 }  // namespace
 
 void MakeListsAccessible() {
   QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-    auto* list = qobject_cast<QListWidget*>(object);
-    return list ? new ListInterface(list) : nullptr;
+    if (auto* list = qobject_cast<QListWidget*>(object)) return new ListInterface(list);
+    if (auto* box = qobject_cast<QComboBox*>(object)) return new ComboInterface(box);
+    return nullptr;
   });
 }
 

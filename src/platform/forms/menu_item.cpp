@@ -1,5 +1,6 @@
 #include "platform/forms/menu_item.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
@@ -46,6 +47,18 @@ QMenu& MenuOf(QAction& action) {
   return *action.menu();
 }
 
+// A menu that opens has the control with the focus told of once more, behind its own first item.
+void TellAgain(const QAction& action) {
+  auto* holder = static_cast<QWidget*>(action.parent());
+  const auto* menu = qobject_cast<const QMenu*>(holder);
+  const auto* active =
+      menu ? menu->activeAction() : static_cast<const QMenuBar*>(holder)->activeAction();
+  if (active != &action || QApplication::activePopupWidget() != menu) return;
+  QAccessibleEvent focus(holder, QAccessible::Focus);
+  focus.setChild(static_cast<int>(holder->actions().indexOf(&action)));
+  QAccessible::updateAccessibility(&focus);
+}
+
 }  // namespace
 
 MenuItem::MenuItem(Form& form, const char* name, const std::string& caption)
@@ -65,6 +78,8 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
   else
     setCaption(caption);
   QObject::connect(action_, &QAction::triggered, action_, [this] { Raise(onClick); });
+  QObject::connect(
+      action_, &QAction::hovered, action_, [this] { TellAgain(*action_); }, Qt::QueuedConnection);
 }
 
 void MenuItem::setCaption(const std::string& caption) { action_->setText(ToQString(caption)); }

@@ -3,8 +3,11 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
+#include <utility>
 
 #include "platform/forms/native.h"
+#include "platform/forms/picture_data.h"
 
 namespace forms {
 namespace {
@@ -35,12 +38,29 @@ QMessageBox::Icon ToIcon(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+AnswerCaptions& Captions() {
+  static AnswerCaptions captions{"OK", "&Yes", "&No", "Cancel"};
+  return captions;
+}
+
 }  // namespace
+
+void NameAnswers(AnswerCaptions captions) { Captions() = std::move(captions); }
 
 Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std::string& title) {
   const QPointer<QWidget> owner = QApplication::activeWindow();
   QMessageBox box(ToIcon(icon), ToQString(title), ToQString(text), ToButtons(buttons), owner);
   box.setTextFormat(Qt::PlainText);
+  constexpr int kIconTwips = 480;
+  box.setWindowIcon(IconOf(Picture::ProgramIcon(kIconTwips)));
+  const auto& [ok, yes, no, cancel] = Captions();
+  const std::pair<QMessageBox::StandardButton, const std::string&> captions[] = {
+      {QMessageBox::Ok, ok},
+      {QMessageBox::Yes, yes},
+      {QMessageBox::No, no},
+      {QMessageBox::Cancel, cancel}};
+  for (const auto& [standard, caption] : captions)
+    if (auto* button = box.button(standard)) button->setText(ToQString(caption));
   if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();
   // Some window managers leave no window active when the active one goes.

@@ -8,6 +8,14 @@ enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class BoxIcon { None, Question, Exclamation, Critical };
 enum class Answer { Ok, Yes, No, Cancel };
 
+// What the buttons are called, access keys included.
+struct AnswerCaptions {
+  std::string ok, yes, no, cancel;
+};
+
+// For all boxes from then on.
+void NameAnswers(AnswerCaptions captions);
+
 // Shows a message over the active window and waits for the answer. Closing the box answers Cancel
 // where there is such a button, else No or OK.
 Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std::string& title);

@@ -6,8 +6,10 @@
 
 #include "base/quietly.h"
 
+class QColor;
 class QFont;
 class QPaintEvent;
+class QPalette;
 class QRect;
 class QString;
 class QWidget;
@@ -28,8 +30,20 @@ QRect ToPixels(const Box& box);
 QFont ToFont(const FontStyle& style);
 QString ToQString(const std::string& text);
 
+// The colour, made lighter or darker until it stands out from the background.
+QColor WithContrast(const QColor& colour, const QColor& background, double contrast);
+
+// The palette with selected text that can be read.
+QPalette WithReadableSelection(QPalette palette);
+
 // Marks a widget or a view's contents as having the focus.
-void PaintFocusRing(QWidget& on);
+void PaintFocusRing(QWidget& on, int pixels = 2);
+
+// The line round a view's contents.
+void PaintFrame(QWidget& on);
+
+// Marks one of several buttons as the chosen one, by a bar at its lower edge.
+void PaintChosenMark(QWidget& on);
 
 // A control of the toolkit whose style hardly shows the focus.
 template <class Native>
@@ -47,17 +61,21 @@ class Ringed : public Native {
 template <class View>
 class RingedView : public View {
  public:
-  using View::View;
+  // The frame is a part of the contents: of a frame round them a scaled screen loses sides.
+  explicit RingedView(QWidget* parent) : View(parent) { this->setFrameShape(View::NoFrame); }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     View::paintEvent(event);
-    if (this->hasFocus()) PaintFocusRing(*this->viewport());
+    if (this->hasFocus())
+      PaintFocusRing(*this->viewport());
+    else
+      PaintFrame(*this->viewport());
   }
   // The ring does not scroll with the contents.
   void scrollContentsBy(int x, int y) override {
     View::scrollContentsBy(x, y);
-    if (this->hasFocus()) this->viewport()->update();
+    this->viewport()->update();
   }
 };
 

@@ -18,15 +18,16 @@ QAbstractButton* Native(QWidget* widget) { return static_cast<QAbstractButton*>(
 // Arrow keys choose the neighbour. The toolkit would click it before it gets the focus, and so take
 // the focus back from where the click put it.
 template <class Native>
-class Choice : public Native {
+class Choice : public Ringed<Native> {
  public:
-  using Native::Native;
+  using Ringed<Native>::Ringed;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     const auto key = event->key();
     const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
-    if (!forward && key != Qt::Key_Left && key != Qt::Key_Up) return Native::keyPressEvent(event);
+    if (!forward && key != Qt::Key_Left && key != Qt::Key_Up)
+      return Ringed<Native>::keyPressEvent(event);
     auto others = this->group()->buttons();
     if (!forward) std::reverse(others.begin(), others.end());
     const auto canBeChosen = [](const QAbstractButton* button) {
@@ -40,9 +41,20 @@ class Choice : public Native {
   }
 };
 
+class PictureButton : public Choice<QToolButton> {
+ public:
+  using Choice::Choice;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    Choice::paintEvent(event);
+    if (isChecked()) PaintChosenMark(*this);
+  }
+};
+
 QToolButton* NewPictureButton(QWidget* parent, const Picture& picture) {
   constexpr int kIconPixels = 32;
-  auto* button = new Choice<QToolButton>(parent);
+  auto* button = new PictureButton(parent);
   button->setIcon(IconOf(picture));
   button->setIconSize(QSize(kIconPixels, kIconPixels));
   button->setCheckable(true);

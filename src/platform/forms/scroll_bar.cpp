@@ -4,6 +4,7 @@
 #include <QWheelEvent>
 
 #include "base/failure.h"
+#include "platform/forms/control_accessible.h"
 #include "platform/forms/native.h"
 
 namespace forms {
@@ -32,10 +33,18 @@ ScrollBar::ScrollBar(Container& parent, const char* name, const Box& box, int mi
                      int largeStep, int value)
     : Control(new NativeScrollBar(parent.clientArea()), name, box, {}) {
   auto* bar = Native(widget());
+  SetAccessibleValue(*bar, QString::number(value));
   bar->setRange(minimum, maximum);
   bar->setPageStep(largeStep);
   bar->setValue(value);
-  QObject::connect(bar, &QScrollBar::valueChanged, bar, [this] { Raise(onChange); });
+  QObject::connect(bar, &QScrollBar::valueChanged, bar, [this, bar](int now) {
+    SetAccessibleValue(*bar, QString::number(now));
+    Raise(onChange);
+  });
+}
+
+void ScrollBar::setValueText(const std::string& text) {
+  SetAccessibleValue(*widget(), ToQString(text));
 }
 
 int ScrollBar::value() const { return Native(widget())->value(); }

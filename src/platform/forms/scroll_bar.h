@@ -15,6 +15,9 @@ class ScrollBar : public Control {
   // Fails outside the range.
   void setValue(int value);
 
+  // What assistive technology calls the value in place of its number, until it changes.
+  void setValueText(const std::string& text);
+
   std::function<void()> onChange;
 };
 

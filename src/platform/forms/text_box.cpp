@@ -1,5 +1,6 @@
 #include "platform/forms/text_box.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QValidator>
 
@@ -42,13 +43,29 @@ class Filter : public QValidator {
   int before_ = 0;
 };
 
+// Selects its text only behind the news of its focus: a screen reader that hears of the caret's
+// move first stays silent.
+class NativeTextBox : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    const auto reason = event->reason();
+    const bool selects = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    QFocusEvent plain(QEvent::FocusIn, selects ? Qt::OtherFocusReason : reason);
+    QLineEdit::focusInEvent(&plain);
+    if (selects) QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+  }
+};
+
 QLineEdit* Native(QWidget* widget) { return static_cast<QLineEdit*>(widget); }
 
 }  // namespace
 
 TextBox::TextBox(Container& parent, const char* name, const Box& box, Accept accept, int maxChars,
                  const FontStyle& font)
-    : Control(new QLineEdit(parent.clientArea()), name, box, font), maxChars_(maxChars) {
+    : Control(new NativeTextBox(parent.clientArea()), name, box, font), maxChars_(maxChars) {
   Native(widget())->setAlignment(Qt::AlignCenter);
   Native(widget())->setValidator(new Filter(Native(widget()), accept, maxChars));
 }

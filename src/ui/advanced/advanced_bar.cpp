@@ -49,6 +49,7 @@ std::string AdvancedBar::indexed(const char* name, int offset) const {
 
 void AdvancedBar::barraD_Change() {
   lblValue_.setCaption(std::to_string(barraD_.value()) + plan_.unit);
+  barraD_.setValueText(lblValue_.caption());
 }
 
 void AdvancedBar::load() {

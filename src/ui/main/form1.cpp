@@ -4,6 +4,7 @@
 
 #include "base/quietly.h"
 #include "config/user_settings.h"
+#include "i18n/answers.h"
 #include "i18n/message_catalogue.h"
 #include "launch/process_capture.h"
 #include "platform/forms/application.h"
@@ -83,7 +84,13 @@ void Form1::Form_KeyPress(int keyCode) {
 
 void Form1::mExit_Click() { forms::EndProgram()(0); }
 
+void Form1::NameAnswers() {
+  const auto [ok, yes, no, cancel] = i18n::AnswerTexts();
+  forms::NameAnswers({ok, yes, no, cancel});
+}
+
 void Form1::AbortWith(const std::string& message) {
+  NameAnswers();
   forms::MsgBox(message, forms::Buttons::Ok, forms::BoxIcon::Critical,
                 i18n::Msg(i18n::Message::ErrorTitle));
   Aborting = true;

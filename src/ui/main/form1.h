@@ -34,6 +34,8 @@ class Form1 : public forms::Form {
   void Form_Unload();
   void Form_KeyPress(int keyCode);
   void AbortWith(const std::string& message);
+  // The buttons of message boxes, in the current language.
+  static void NameAnswers();
 
   // List and panel.
   void SelectGamesFilter();

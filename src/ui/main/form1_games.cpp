@@ -69,7 +69,6 @@ void Form1::RefreshGameList() {
   }
   if (count == 0) {
     lblInfo.setCaption({});
-    lstGames.setAccessibleName(lblGameTitle.caption());
     cmdPlay.setEnabled(false);
     cmdPlay.setToolTip({});
     cmdConfGame.setEnabled(false);
@@ -77,7 +76,6 @@ void Form1::RefreshGameList() {
   }
   lblInfo.setCaption(" " + std::to_string(count) +
                      Msg(count == 1 ? Message::GameListed : Message::GamesListed));
-  lstGames.setAccessibleName(lblInfo.caption());
   lstGames.select(0);
   cmdConfGame.setEnabled(true);
 }

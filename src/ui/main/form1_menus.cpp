@@ -34,6 +34,7 @@ void Form1::ApplyLanguage() {
   for (int item = 0; item < 3; ++item)
     mLang[item].setChecked(kLanguageOfItem[item] == CurrentLanguage);
   setTitle(MainTitle());
+  NameAnswers();
   const std::pair<forms::MenuItem&, Message> items[] = {{mFile, Message::File},
                                                         {mLanguage, Message::Language},
                                                         {mLang[0], Message::English},
@@ -55,6 +56,7 @@ void Form1::ApplyLanguage() {
   optGames[0].setCaption(Msg(Message::AllGames));
   optGames[1].setCaption(Msg(Message::OnlyAvailable));
   cmdConfGame.setCaption(Msg(Message::ConfigureTitle));
+  lstGames.setAccessibleName(Msg(Message::GamesListed));
   imgGames.setAccessibleName(Msg(Message::Snapshots));
   imgIcon.setAccessibleName(Msg(Message::Icons));
   RefreshGameList();

@@ -61,6 +61,7 @@ void frmGaming::Form_Activate() {
   StartTime = platform::TheClock().now();
   launch::RunAndWait(LaunchRequest.CommandLine, [this] {
     lblTime.setCaption(launch::FormatElapsed(StartTime));
+    Describe();
     forms::DoEvents();
   });
   launch::UpdatePlayLog(StartTime);
@@ -82,6 +83,17 @@ void frmGaming::PauseAfterGoodEnd() {
     forms::DoEvents();
     platform::TheClock().sleep(std::chrono::seconds(1));
   }
+}
+
+// At the start and once a minute: each second would be chatter.
+void frmGaming::Describe() {
+  const auto minute = platform::SecondsSince(StartTime) / 60;
+  if (minute == describedMinute_) return;
+  describedMinute_ = minute;
+  setDescription(Label1.caption() + " " + lblTime.caption());
+  if (minute == 0) return;
+  Label1.announce();
+  lblTime.announce();
 }
 
 void frmGaming::ShowReport() {

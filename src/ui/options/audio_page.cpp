@@ -31,6 +31,7 @@ void AudioPage::DisableWhatOldEmulatorsLack() {
 
 void AudioPage::hslVolume_Change(int index) {
   lblVolume[index].setCaption(std::to_string(hslVolume[index].value()) + "%");
+  hslVolume[index].setValueText(lblVolume[index].caption());
 }
 
 void AudioPage::hslBalance_Change() {
@@ -38,6 +39,7 @@ void AudioPage::hslBalance_Change() {
   lblBalance.setCaption(balance == 0 ? Msg(Message::Centered)
                                      : "+" + std::to_string(std::abs(balance)) +
                                            Msg(balance < 0 ? Message::ToRear : Message::ToFront));
+  hslBalance.setValueText(lblBalance.caption());
 }
 
 void AudioPage::ApplyLanguage() {
@@ -51,7 +53,9 @@ void AudioPage::ApplyLanguage() {
   chkFlipStereo.setCaption(Msg(Message::FlipStereo));
   hslVolume[0].setAccessibleName(chkAudio[0].caption() + " " + Label4.caption());
   hslVolume[1].setAccessibleName(chkAudio[1].caption() + " " + Label5.caption());
+  for (int index = 0; index < 2; ++index) hslVolume[index].setValueText(lblVolume[index].caption());
   hslBalance.setAccessibleName(Label9.caption());
+  hslBalance.setValueText(lblBalance.caption());
 }
 
 }  // namespace ui

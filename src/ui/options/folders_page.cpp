@@ -27,6 +27,7 @@ constexpr const char* kShaders[] = {"FragmentShader", "VertexShader"};
 // In the list's size it would not fit in every language.
 constexpr forms::FontStyle kHint{8.25, true, false, false, 95};
 constexpr forms::Colour kRed{255, 0, 0};
+constexpr forms::Colour kWhite{255, 255, 255};  // red can't be read on a dark desktop's colour
 
 }  // namespace
 
@@ -119,6 +120,7 @@ void FoldersPage::StartFileChoice(int index) {
   auto& list = lstFolders[index];
   list.setFont(kHint);
   list.setTextColour(kRed);
+  list.setBackColour(kWhite);
   list.clear();
   list.add(Msg(Message::ShaderHint));
   // First, since the focus would go on to the list from a button that is disabled.

@@ -26,7 +26,10 @@ void MachinePage::DisableWhatOldEmulatorsLack() {
   Label6.setEnabled(false);
 }
 
-void MachinePage::hslPPC_Change() { lblPPC.setCaption(std::to_string(hslPPC.value()) + " MHz"); }
+void MachinePage::hslPPC_Change() {
+  lblPPC.setCaption(std::to_string(hslPPC.value()) + " MHz");
+  hslPPC.setValueText(lblPPC.caption());
+}
 
 void MachinePage::ApplyLanguage() {
   Label2.setCaption(Msg(Message::PpcFrequency));
