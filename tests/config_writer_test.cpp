@@ -126,11 +126,11 @@ TEST_F(ConfigWriter, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
     load(bytes, readable);
     EXPECT_FALSE(exists(copy)) << "nothing was written yet";
     {
-      const support::Unprivileged rights;
+      const support::Unprivileged user(path(file));
       WriteConfigFile();
     }
-    EXPECT_EQ(read(file), bytes) << "no right to write, or none to read what would be lost";
     std::filesystem::permissions(path(file), std::filesystem::perms(0666));
+    EXPECT_EQ(read(file), bytes) << "no right to write, or none to read what would be lost";
     WriteConfigFile();
     EXPECT_EQ(read(copy), bytes);
     EXPECT_EQ(read(file), platform::EncodeCodePage(ConfigText()));

@@ -40,11 +40,11 @@ TEST_F(OptionsFolders, ThreeFoldersCanBeAddedAndRemoved) {
     EXPECT_EQ(folders(window, 0), hidden + "|" + hidden + "*|");
     clickRow(get<QListWidget>(window, "lstFolders(1)"), 1);
     auto& list = get(window, "lstFolders(1)");
-    for (const auto* left : {"/s/<b>one*|/s/3|", "/s/3*|", ""}) {
+    for (const std::string left : {"/s/<b>one*|/s/3|", "/s/3*|", ""}) {
       press(window, "cmdRemovePath(1)");
       EXPECT_EQ(folders(window, 1), left);
-      EXPECT_EQ(list.toolTip() == "/s/<b>one", left[3] == '<') << "of the selected row";
-      EXPECT_EQ(list.toolTip().isEmpty(), !*left);
+      EXPECT_EQ(list.toolTip() == "/s/<b>one", left.starts_with("/s/<")) << "of the selected row";
+      EXPECT_EQ(list.toolTip().isEmpty(), left.empty());
     }
     EXPECT_EQ(enabled(window, "cmdRemovePath"), "10000");
     save(window);
