@@ -73,8 +73,10 @@ class Report {
     if (cut_)
       while (bytes.size() > whole && static_cast<unsigned char>(bytes.back()) >= 0x80)
         bytes.remove_suffix(1);
-    // One line end ahead tells how the lines end, wherever the others are.
-    const auto lines = platform::DecodeLines(lineEnd_ + std::string(bytes));
+    // One line end ahead tells how the lines end, wherever the others are. A line feed that follows
+    // is not part of it.
+    const std::string ahead = lineEnd_ == '\r' ? "\r\n" : "\n";
+    const auto lines = platform::DecodeLines(ahead + std::string(bytes));
     return lines.substr(base::kLineEnd.size()) + (cut_ ? "..." : "");
   }
 
