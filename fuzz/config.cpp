@@ -1,161 +1,157 @@
 // The configuration file: what was read from any bytes, written and read again is what the format
-// can hold of it, and the file settles.
-#include "config/config_reader.h"
-
+// can hold of it, and the file settles. Games of any name can be played in between.
 #include <algorithm>
-#include <array>
 #include <string>
-#include <vector>
 
 #include "base/quietly.h"
+#include "base/text.h"
+#include "config/config_reader.h"
 #include "config/config_writer.h"
+#include "config/writable_names.h"
 #include "core/bindings.h"
-#include "core/module1.h"
-#include "core/profiles.h"
+#include "launch/play_log.h"
+#include "platform/clock.h"
 #include "platform/code_page.h"
 #include "startup/startup.h"
 #include "support.h"
 
 namespace {
 
+using config::Configuration;
 using fuzz::Require;
 using namespace Module1;
 
-struct State {
-  std::vector<core::Profile> profiles = Profiles;
-  std::array<std::array<std::string, 5>, 3> paths = {RomPaths, SnapPaths, IconPaths};
-  std::array<core::PlayRecord, 41> playLog = PlayLog;
-  int filter = GameListPref;
-  int language = CurrentLanguage;
-};
+// All but the first inputs are without a binding at first, to keep what is written short.
+constexpr core::Slot kBoundByDefault = core::kFirstInputSlot + 4;
 
-bool AreSame(const State& a, const State& b) {
-  const auto sameRow = [](const core::Profile& x, const core::Profile& y) {
-    return x.Name == y.Name && x.InputMethod == y.InputMethod &&
-           std::ranges::equal(x.Slots, y.Slots, {}, &core::OptionSlot::Value,
-                              &core::OptionSlot::Value);
-  };
-  const auto samePlay = [](const core::PlayRecord& x, const core::PlayRecord& y) {
-    return x.GameId == y.GameId && x.PlayCount == y.PlayCount && x.PlaySeconds == y.PlaySeconds;
-  };
-  return a.paths == b.paths && a.filter == b.filter && a.language == b.language &&
-         std::ranges::equal(a.profiles, b.profiles, sameRow) &&
-         std::ranges::equal(a.playLog, b.playLog, samePlay);
-}
-
-State Read(std::string_view text) {
+Configuration Start() {
   startup::FillSharedState();
-  const auto defaults = Profiles[0];
-  auto configuration = config::Defaults(AppFolder);
-  config::ParseConfigText(text, configuration);
-  config::Adopt(std::move(configuration));
-  Require(GameListPref <= 1, "the filter is set");
-  Require(Profiles.size() >= 2, "the first two rows stay");
+  auto start = config::Defaults(AppFolder);
+  for (auto slot = kBoundByDefault; slot < core::kSlotCount; ++slot)
+    start.Profiles[0].Slots[slot].Value = core::kNoBinding;
+  Profiles = start.Profiles;
+  return start;
+}
+
+// The one that is read into takes turns with the shared state: a fresh one would take most of the
+// time.
+Configuration& Read(std::string_view bytes) {
+  static const auto start = Start();
+  static auto read = start;
+  read.RomPaths = start.RomPaths;
+  read.SnapPaths = start.SnapPaths;
+  read.IconPaths = start.IconPaths;
+  read.PlayLog.fill({});
+  read.GameListPref = read.CurrentLanguage = 0;
+  read.Profiles.resize(2);
+  read.Profiles[1] = {};
+  config::ParseConfigText(platform::DecodeLines(bytes), read);
+  Require(read.GameListPref <= 1, "the filter is set");
+  Require(read.Profiles.size() >= 2, "the first two rows stay");
   for (core::Slot slot = 0; slot < core::kSlotCount; ++slot)
-    Require(Profiles[0].Slots[slot].Value == defaults.Slots[slot].Value, "the defaults stay");
-  for (const auto& profile : Profiles) Require(fuzz::IsUtf8(profile.Name), "names are UTF-8");
-  return {};
+    Require(read.Profiles[0].Slots[slot].Value == start.Profiles[0].Slots[slot].Value,
+            "the defaults stay");
+  for (const auto& profile : read.Profiles) Require(base::IsUtf8(profile.Name), "names are UTF-8");
+  return read;
 }
 
-bool IsCleared(const State& state, core::Slot slot) {
-  return state.profiles[1].Slots[slot].Value == core::kNoBinding &&
-         state.profiles[0].Slots[slot].Value != core::kNoBinding;
+void Exchange(Configuration& read) {
+  std::swap(RomPaths, read.RomPaths);
+  std::swap(SnapPaths, read.SnapPaths);
+  std::swap(IconPaths, read.IconPaths);
+  std::swap(PlayLog, read.PlayLog);
+  std::swap(Profiles, read.Profiles);
+  GameListPref = read.GameListPref;
+  CurrentLanguage = read.CurrentLanguage;
 }
 
-// What a write and a read make of a state.
-State Expected(State state) {
-  auto& global = state.profiles[1];
-  global.Name = "Global";
-  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
-    auto& value = global.Slots[slot].Value;
-    const auto& standard = state.profiles[0].Slots[slot].Value;
-    if (slot < core::kFirstInputSlot) {
-      if (value == standard) value.clear();
-    } else {
-      if (value.empty()) value = standard;
-      if (value == core::kNoBinding) value.clear();
-    }
-  }
-  for (auto row = state.profiles.begin() + 2; row < state.profiles.end(); ++row)
-    for (core::Slot slot = core::kPerGameSlots; slot < core::kSlotCount; ++slot)
-      row->Slots[slot].Value.clear();
-  for (auto& list : state.paths) {
-    list[4].clear();
-    std::fill(std::find(list.begin() + 1, list.end(), ""), list.end(), "");
-  }
-  const auto end = std::find_if(state.playLog.begin(), state.playLog.end(),
-                                [](const auto& record) { return record.GameId.empty(); });
-  std::fill(end, state.playLog.end(), core::PlayRecord{});
-  return state;
+std::string Written() { return platform::EncodeCodePage(config::ConfigText()); }
+
+// Plays a game that is called like the first line: a new one is a row of its own if it can be read
+// back, and no other row changes hands.
+void Play(const std::string& name) {
+  platform::TheClock().now = [] { return platform::Moment(std::chrono::hours(1000)); };
+  auto expected = PlayLog;
+  const auto row = std::ranges::find_if(expected, [&](const core::PlayRecord& record) {
+    return record.GameId.empty() || record.GameId == name;
+  });
+  if (row != expected.end() && row->GameId.empty() && config::IsWritableGame(name))
+    row->GameId = name;
+  LaunchRequest.RomName = name;
+  launch::UpdatePlayLog(platform::TheClock().now() - std::chrono::seconds(30));
+  Require(std::ranges::equal(PlayLog, expected, {}, &core::PlayRecord::GameId,
+                             &core::PlayRecord::GameId),
+          "each row keeps its game");
 }
 
 // A hand-made header can name a row so that the header written for it reads as another one.
-bool HasOddName(const State& state) {
-  return std::any_of(state.profiles.begin() + 2, state.profiles.end(), [](const auto& profile) {
+bool HasOddName() {
+  return std::any_of(Profiles.begin() + 2, Profiles.end(), [](const core::Profile& profile) {
     return profile.Name == "Global" || profile.Name.starts_with("]") ||
            profile.Name.find(" ]") != std::string::npos;
   });
 }
 
-using Values = std::array<std::string, core::kSlotCount>;
-
-Values ValuesInForce(unsigned char scope) {
-  OptionScope = scope;
-  Values values;
-  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot)
-    values[slot] = core::EffectiveValue(slot);
-  return values;
+bool IsCleared(core::Slot slot) {
+  return Profiles[1].Slots[slot].Value == core::kNoBinding &&
+         Profiles[0].Slots[slot].Value != core::kNoBinding;
 }
 
-void CompareValuesInForce(const State& before, const State& after) {
-  Profiles = before.profiles;
-  const auto old = ValuesInForce(core::kGlobalScope);
-  GameCatalog[0].RomName = Profiles.back().Name;
-  const auto oldOfGame = ValuesInForce(0);
-  Profiles = after.profiles;
-  const auto now = ValuesInForce(core::kGlobalScope);
-  const auto nowOfGame = ValuesInForce(0);
-  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
-    const bool cleared = slot >= core::kFirstInputSlot && IsCleared(before, slot);
-    Require(now[slot] == (cleared ? before.profiles[0].Slots[slot].Value : old[slot]),
-            "the global value in force stays");
-    if (before.profiles.size() > 2)
-      Require(nowOfGame[slot] == (slot < core::kPerGameSlots ? oldOfGame[slot] : now[slot]),
-              "the game's value in force stays");
+// What the format can hold of folders, rows and plays; of what all games have in common what holds.
+std::string Held(const std::array<const core::FolderList*, 3>& paths,
+                 const std::vector<core::Profile>& rows, const core::PlayRecords& plays) {
+  std::string held;
+  for (const auto* list : paths) {
+    for (std::size_t entry = 1; entry < 4 && !(*list)[entry].empty(); ++entry)
+      held += (*list)[entry] + '*';
+    held += '\n';
   }
+  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
+    const auto& value = rows[1].Slots[slot].Value;
+    const bool isNone = slot >= core::kFirstInputSlot && value == core::kNoBinding;
+    held += (value.empty() || isNone ? rows[0].Slots[slot].Value : value) + '\n';
+  }
+  for (auto row = rows.begin() + 2; row != rows.end(); ++row) {
+    held += row->Name;
+    for (core::Slot slot = 0; slot < core::kPerGameSlots; ++slot)
+      held += '=' + row->Slots[slot].Value;
+  }
+  for (const auto& play : plays) {
+    if (play.GameId.empty()) break;
+    held += '*' + play.GameId + ',' + play.PlayCount + ',' + play.PlaySeconds;
+  }
+  return held;
 }
 
 }  // namespace
 
 void fuzz::Examine(std::string_view bytes) {
-  static const TempApp app;
-  auto state = Read(platform::DecodeLines(bytes));
-  if (state.profiles.size() > core::kMaxProfiles)
+  Exchange(Read(bytes));
+  if (Profiles.size() > core::kMaxProfiles)
     return Require(!base::Quietly([] { config::ConfigText(); }), "too many rows are not written");
-  auto written = config::ConfigText();
-  std::string file;
-  const auto write = [&] {
-    file = platform::EncodeCodePage(written);
-    Require(platform::DecodeCodePage(file) == written, "the text comes back");
-  };
-  for (auto patience = state.profiles.size(); HasOddName(state); --patience) {
+  const auto text = platform::DecodeLines(bytes);
+  Play(text.substr(0, text.find(base::kLineEnd)));
+  auto written = Written();
+  for (auto patience = Profiles.size(); HasOddName(); --patience) {
     Require(patience > 0, "odd names settle");
-    write();
-    state = Read(platform::DecodeLines(file));
-    written = config::ConfigText();
+    Exchange(Read(written));
+    written = Written();
   }
-  write();
-  const auto again = Read(platform::DecodeLines(file));
-  auto rewritten = config::ConfigText();
-  Require(AreSame(again, Expected(state)), "all that was written comes back");
+  auto& again = Read(written);
+  Require(Held({&RomPaths, &SnapPaths, &IconPaths}, Profiles, PlayLog) ==
+              Held({&again.RomPaths, &again.SnapPaths, &again.IconPaths}, again.Profiles,
+                   again.PlayLog),
+          "what the format can hold comes back");
+  Require(again.GameListPref == GameListPref && again.CurrentLanguage == CurrentLanguage &&
+              again.Profiles[1].InputMethod == Profiles[1].InputMethod,
+          "the preferences come back");
   bool cleared = false;
-  for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    cleared = cleared || IsCleared(state, slot);
+  for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+    cleared = cleared || IsCleared(slot);
+  Exchange(again);
+  const auto rewritten = Written();
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");
-  CompareValuesInForce(state, again);
-
-  written = rewritten;
-  write();
-  Read(platform::DecodeLines(file));
-  Require(config::ConfigText() == rewritten, "the file settles");
+  if (!cleared) return;
+  Exchange(Read(rewritten));
+  Require(Written() == rewritten, "the file settles");
 }

@@ -31,28 +31,6 @@ void Require(bool holds, const char* what) {
   std::abort();
 }
 
-bool IsUtf8(std::string_view text) {
-  for (std::size_t i = 0; i < text.size();) {
-    const auto byte = [&](std::size_t at) {
-      return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U;
-    };
-    const auto lead = byte(i);
-    const auto second = byte(i + 1);
-    std::size_t length = 1;
-    if (lead >= 0xC2 && lead <= 0xDF) length = 2;
-    if (lead >= 0xE0 && lead <= 0xEF) length = 3;
-    if (lead >= 0xF0 && lead <= 0xF4) length = 4;
-    if (length == 1 && lead >= 0x80) return false;
-    if ((lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
-        (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F))
-      return false;
-    for (std::size_t k = 1; k < length; ++k)
-      if (byte(i + k) < 0x80 || byte(i + k) > 0xBF) return false;
-    i += length;
-  }
-  return true;
-}
-
 TempApp::TempApp(std::initializer_list<std::string_view> files) {
   auto name = (std::filesystem::temp_directory_path() / "kestrivane-fuzz-XXXXXX").string();
   if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/text.h"
+
 namespace fuzz {
 
 // Each fuzzer defines this: it hands the bytes to the program and checks what must hold then.
@@ -14,7 +16,7 @@ void Examine(std::string_view bytes);
 // Something that must hold whatever the input; ends the run as a finding if it does not.
 void Require(bool holds, const char* what);
 
-bool IsUtf8(std::string_view text);
+using base::IsUtf8;
 
 // A folder of this run's own as AppFolder, program folder and working folder; gone at its end.
 class TempApp {

@@ -79,9 +79,11 @@ std::string ReadBytes(std::string_view path, long long most) {
 
 std::string ReadPiece(std::string_view path, long long from, std::size_t most) {
   const OpenFile file(Find(path).path, O_RDONLY);
-  std::string bytes(most, '\0');
-  const auto count = Patiently(
-      [&] { return pread(file.descriptor(), bytes.data(), most, static_cast<off_t>(from)); });
+  const auto rest = static_cast<std::size_t>(std::max<off_t>(file.size() - from, 0));
+  std::string bytes(std::min(most, rest), '\0');
+  const auto count = Patiently([&] {
+    return pread(file.descriptor(), bytes.data(), bytes.size(), static_cast<off_t>(from));
+  });
   Check(count >= 0);
   bytes.resize(static_cast<std::size_t>(count));
   return bytes;
