@@ -82,9 +82,13 @@ expect_back_in_main_window() { # seconds
     wait_until "$1" title_is "$main_title" || fail "not back in the main window"
 }
 
-save_options() {
+open_options() {
     press alt+t o
     wait_until 10 title_is "   Options:   Global" || fail "no options"
+}
+
+save_options() {
+    open_options
     press Return
     expect_back_in_main_window 10
 }
@@ -110,9 +114,10 @@ lay_out "$app" "$emulator"
 start_to_main_window "$app"
 made=$(cd "$app" && LC_ALL=C find . -mindepth 1 | LC_ALL=C sort | tr '\n' ' ')
 [[ $made == "./Config ./Icons ./Kestrivane.exe ./KestrivaneUI ./ROMs ./Snaps " ]] || fail "made $made"
-press Return # no archive, so there is nothing to play
-sleep 1
-title_is "$main_title" || fail "a game that is not available was played"
+press Return # no archive, so there is nothing to play, and what comes next is obeyed
+open_options
+press Escape
+expect_back_in_main_window 10
 press Escape
 expect_end 0
 [[ ! -e $settings ]] || fail "Escape wrote the settings store"
@@ -146,12 +151,9 @@ for ((i = 0; i < 6; i++)); do
     sleep 0.5
 done
 expect_back_in_main_window 10
-sleep 2
-title_is "$main_title" && ! emulator_runs || fail "another play"
 
 echo "Escape held down closes one window and not the next"
-press alt+t o
-wait_until 10 title_is "   Options:   Global" || fail "no options"
+open_options
 xdotool keydown Escape
 sleep 2
 xdotool keyup Escape
@@ -170,14 +172,11 @@ press Escape
 expect_end 0
 
 echo "The emulator outlives the front-end"
-write_archive 60 good
+write_archive 3 good
 start_to_main_window "$app"
 play
 orphan=$(pgrep -P "$front_end")
 kill -TERM -- "-$front_end" # and whatever is tied to it
 expect_end 143
-sleep 1
-! has_ended "$orphan" || fail "the emulator ended with the front-end"
-kill "$orphan"
-wait_until 10 has_ended "$orphan" || fail "the emulator could not be ended"
+wait_until 10 grep -q "terminated normally" "$app/error.log" || fail "the emulator ended with it"
 orphan=
