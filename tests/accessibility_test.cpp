@@ -5,6 +5,7 @@
 #include <set>
 
 #include "support/fake_clock.h"
+#include "support/layout.h"
 #include "support/options_test.h"
 
 namespace {
@@ -30,6 +31,7 @@ void ExpectNamed(const QAccessibleInterface& control, std::set<std::pair<int, QS
 }
 
 void ExpectAccessible(QWidget& window) {
+  support::ExpectLaidOut(window);
   std::set<std::pair<int, QString>> taken;
   ExpectNamed(*QAccessible::queryAccessibleInterface(&window), taken);
   std::set<std::pair<const QObject*, QString>> keys;
@@ -97,6 +99,8 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
   key(Qt::Key_Escape);
   item("mLang(2)").trigger();
   EXPECT_EQ(told(window(), "lstGames"), "juegos listados");
+  const auto* games = QAccessible::queryAccessibleInterface(&list());
+  EXPECT_TRUE(games->child(0)->state().selected && !games->child(1)->state().selected);
   options([](QWidget& dialog) {
     key(Qt::Key_Right);
     EXPECT_EQ(told(dialog, "optOPT(1)"), "Video*");

@@ -76,19 +76,14 @@ TEST_F(ConfigReader, StopsAtTheLimitsOfLinesAndPlays) {
 
 TEST_F(ConfigReader, WithoutAReadableFileTheDefaultBindingsHold) {
   const auto file = path("Config/Kestrivane.ini");
-  const std::pair<const char*, std::function<void()>> rows[] = {
-      {"none", [] {}},
-      {"a folder", [&] { std::filesystem::create_directory(file); }},
-      {"a pipe", [&] { mkfifo(file.c_str(), 0666); }},
-      {"unreadable", [&] {
-         write("Config/Kestrivane.ini", "Vsync = 0\r\n");
-         std::filesystem::permissions(file, std::filesystem::perms(0));
-       }}};
-  for (const auto& [what, make] : rows) {
+  for (const std::string what : {"none", "a folder", "a pipe", "unreadable"}) {
     startup::FillSharedState();
     std::filesystem::remove_all(path("Config"));
-    std::filesystem::create_directory(path("Config"));
-    make();
+    write("Config/Kestrivane.ini", "Vsync = 0\r\n");
+    std::filesystem::permissions(file, std::filesystem::perms(0));
+    if (what != "unreadable") std::filesystem::remove(file);
+    if (what == "a folder") std::filesystem::create_directory(file);
+    if (what == "a pipe") mkfifo(file.c_str(), 0666);
     const support::Unprivileged user;
     Adopt(LoadConfigFile(AppFolder));
     const auto state = support::StateText();

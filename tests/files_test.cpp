@@ -24,7 +24,6 @@ class Files : public support::TempApp {};
 TEST_F(Files, AreFoundInAnySpelling) {
   for (const auto* name : {"ROMs/Éclair One.ZIP", "ROMs/two.zip", "ROMs/TWO.zip"}) write(name, "");
   fs::create_symlink("gone.zip", path("ROMs/link.zip"));
-  fs::create_symlink("circle.zip", path("ROMs/circle.zip"));
   fs::create_directory_symlink(".", path("ROMs/loop"));
   fs::create_directory(path("ROMs/folder.zip"));
   const struct {
@@ -35,18 +34,16 @@ TEST_F(Files, AreFoundInAnySpelling) {
               {"\\roms\\\\two.zip", "ROMs/two.zip"},
               {"\\roms\\LOOP\\loop\\two.zip", "ROMs/two.zip"},
               {"\\roms\\link.zip", ""},
-              {"\\roms\\circle.zip", ""},
               {"\\roms\\folder.zip", ""},
               {"\\roms\\two.zip\\x", ""},
               {"\\none\\two.zip", ""}};
   for (const auto& [name, file] : rows) {
     EXPECT_EQ(IsFile(AppFolder + name), *file != '\0') << name;
-    if (!*file) continue;
-    EXPECT_EQ(fs::path(SystemPath(AppFolder + name)).filename(), path(file).filename()) << name;
+    EXPECT_TRUE(!*file || fs::equivalent(SystemPath(AppFolder + name), path(file))) << name;
   }
-  EXPECT_EQ(FirstFolderOfEach({"Two.zip", "link.zip", "circle.zip", "folder.zip", "loop"},
+  EXPECT_EQ(FirstFolderOfEach({"Two.zip", "link.zip", "folder.zip", "loop"},
                               {AppFolder + "\\ROMS\\loop"}),
-            std::vector<std::size_t>({0, 1, 1, 1, 1}));
+            std::vector<std::size_t>({0, 1, 1, 1}));
   // An exact spelling in a later folder is no better than another one in an earlier.
   const std::vector<std::string> folders = {AppFolder + "\\none", AppFolder, AppFolder + "\\roms"};
   write("TWO.ZIP", "");
@@ -84,12 +81,14 @@ TEST_F(Files, ThatHaveJustComeOrGoneAreSeen) {
   fs::create_directory(path("ROMs"));
   const auto name = AppFolder + "\\ROMS\\GAME.ZIP";
   const auto now = fs::file_time_type::clock::now();
-  for (const auto& changed : {now, now - std::chrono::milliseconds(12345)}) {
+  const auto rested = now - std::chrono::milliseconds(12345);
+  const auto coarse = std::chrono::floor<std::chrono::seconds>(now - std::chrono::seconds(1));
+  for (const auto& changed : {now, fs::file_time_type(coarse), rested}) {
     fs::last_write_time(path("ROMs"), changed);
     ASSERT_FALSE(IsFile(name));
     write("ROMs/game.zip", "");
     // A second change within one tick of the file system's clock leaves the folder's time alone.
-    if (changed == now) fs::last_write_time(path("ROMs"), changed);
+    if (changed != rested) fs::last_write_time(path("ROMs"), changed);
     EXPECT_TRUE(IsFile(name));
     fs::remove(path("ROMs/game.zip"));
     EXPECT_FALSE(IsFile(name));

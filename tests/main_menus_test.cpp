@@ -1,9 +1,13 @@
-// The menus of the main window, its languages, and the about box.
+// The start of the main window, its menus and languages, the about box, and the program's ends.
 #include <QApplication>
+#include <QDesktopServices>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QTest>
+#include <QTextBrowser>
 
+#include "base/text.h"
 #include "core/module1.h"
 #include "support/ui_test.h"
 
@@ -15,29 +19,22 @@ class MainMenus : public support::UiTest {
 };
 
 TEST_F(MainMenus, LanguageChangesTheWindowAtOnce) {
-  const std::pair<int, const char*> languages[] = {
-      {1, "Espanhol JOGAR!"}, {2, "&Español JUGAR!"}, {0, "&Spanish PLAY!"}};
+  const std::pair<int, const char*> languages[] = {{1, "Espanhol JOGAR!"},
+                                                   {1, "Espanhol JOGAR!"},
+                                                   {2, "&Español JUGAR!"},
+                                                   {0, "&Spanish PLAY!"}};
   start();
   for (const auto& [language, texts] : languages) {
-    for (int again = 0; again < 2; ++again) {
-      clickRow(1);
-      widget("cmdConfGame").setFocus();
-      item("mLang(" + std::to_string(language) + ")").trigger();
-      EXPECT_EQ(rows(list()), "A*|B|");
-      EXPECT_EQ(QApplication::focusWidget(), &list());
-    }
+    clickRow(1);
+    widget("cmdConfGame").setFocus();
+    item("mLang(" + std::to_string(language) + ")").trigger();
+    EXPECT_EQ(rows(list()), "A*|B|");
+    EXPECT_EQ(QApplication::focusWidget(), &list());
     for (int index = 0; index < 3; ++index)
       EXPECT_EQ(item("mLang(" + std::to_string(index) + ")").isChecked(), index == language);
     EXPECT_EQ(item("mLang(2)").text().toStdString() + " " + caption("cmdPlay"), texts);
   }
   EXPECT_FALSE(exists("Config/Kestrivane.ini"));
-}
-
-TEST_F(MainMenus, UnknownLanguageTicksNone) {
-  write("Config/Kestrivane.ini", ";KVLLanguage=3\r\n");
-  start();
-  for (int index = 0; index < 3; ++index)
-    EXPECT_FALSE(item("mLang(" + std::to_string(index) + ")").isChecked());
 }
 
 TEST_F(MainMenus, AccessKeysOpenMenusAndEscapeClosesThemOnly) {
@@ -95,10 +92,24 @@ TEST_F(MainMenus, ClearingNvramsAsksAndReportsNothing) {
   EXPECT_TRUE(exists("NVRAM/c.nvx") && exists("NVRAM/d.nv/e.nv"));
 }
 
+TEST_F(MainMenus, HomepageOpensInTheBrowser) {
+  start();
+  QTextBrowser browser;
+  QString opened;
+  QObject::connect(&browser, &QTextBrowser::anchorClicked,
+                   [&](const QUrl& address) { opened = address.toString(); });
+  QDesktopServices::setUrlHandler("https", &browser, "anchorClicked");
+  item("mHomepage").trigger();
+  QDesktopServices::unsetUrlHandler("https");
+  EXPECT_EQ(opened, "https://kestrivane-ui.example/");
+}
+
 TEST_F(MainMenus, AboutBoxClosesOnDoubleClickAnywhereAndEscape) {
   start();
+  item("mLang(1)").trigger();
   for (const auto* name : {"", "Image1", "Label1", "lblCredits"}) {
     const support::WhenModal about("Form3", [&](QWidget& box) {
+      EXPECT_EQ(textOf(box, "lblCredits"), "Traduzido em português por a comunidade Kestrivane UI");
       if (*name)
         QTest::mouseDClick(&get(box, name), Qt::LeftButton);
       else
@@ -108,6 +119,58 @@ TEST_F(MainMenus, AboutBoxClosesOnDoubleClickAnywhereAndEscape) {
     item("mAbout").trigger();
   }
   EXPECT_TRUE(ends.empty());
+}
+
+TEST_F(MainMenus, FailureShowsABoxInTheConfiguredLanguageAndNoWindow) {
+  write("Config/Kestrivane.ini", ";KVLLanguage=2\r\n");
+  std::filesystem::remove(path("Kestrivane.exe"));
+  for (const auto* message :
+       {"Kestrivane.exe não é encontrada na pasta deste programa!",
+        "Kestrivane.exe foi encontrado, mas não está funcionando como era esperado!"}) {
+    const support::WhenModal answer("", [&](QWidget& widget) {
+      const auto& box = dynamic_cast<QMessageBox&>(widget);
+      EXPECT_EQ((box.windowTitle() + box.text()).toStdString(), std::string("Erro!") + message);
+      EXPECT_FALSE(form->visible());
+    });
+    start();
+    addEmulator("silent");
+  }
+  EXPECT_EQ(ends, std::vector<int>({1, 1}));
+  EXPECT_FALSE(form->visible());
+  window().close();
+  EXPECT_EQ(settings(), "") << "the unload step does nothing after a failure";
+}
+
+TEST_F(MainMenus, WindowShowsWhatWasLoaded) {
+  addEmulator();
+  const std::pair<std::string, const char*> starts[] = {
+      {";GameListPref=1|;KVLLanguage=1|", "(Kestrivane 0.3a detectado) mLang(2) optGames(1) "},
+      {";GameListPref=0|;KVLLanguage=3|", "(Kestrivane 0.3a detected) optGames(0) "}};
+  for (const auto& [file, shown] : starts) {
+    write("Config/Kestrivane.ini", base::ReplaceIgnoringCase(file, "|", "\r\n"));
+    start();
+    auto text = window().windowTitle().section("  ", 1).toStdString() + " ";
+    for (const auto* name : {"mLang(0)", "mLang(1)", "mLang(2)"})
+      if (item(name).isChecked()) text += name + std::string(" ");
+    for (const auto* name : {"optGames(0)", "optGames(1)"})
+      if (widget(name).property("checked").toBool()) text += name + std::string(" ");
+    EXPECT_EQ(text, shown);
+  }
+}
+
+TEST_F(MainMenus, OnlyTheTitleBarEndsWithTheUnloadStep) {
+  write("roms/a.zip", "");
+  start();
+  item("mExit").trigger();
+  for (const auto* name : {"lstGames", "cmdPlay", "cmdConfGame", "optGames(0)"}) {
+    widget(name).setFocus();
+    key(Qt::Key_Escape);
+  }
+  EXPECT_EQ(ends, std::vector<int>(5, 0));
+  EXPECT_EQ(settings(), "");
+  window().close();
+  EXPECT_EQ(ends.size(), 5U);
+  EXPECT_NE(settings().find("Language=0"), std::string::npos);
 }
 
 }  // namespace

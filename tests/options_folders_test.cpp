@@ -50,6 +50,7 @@ TEST_F(OptionsFolders, ThreeFoldersCanBeAddedAndRemoved) {
     save(window);
   });
   EXPECT_EQ(saved(), ";ROMpaths=" + hidden + "*" + hidden + "|");
+  EXPECT_NE(settings().find("SNAP3=\n"), std::string::npos) << "none stays behind a gap";
   EXPECT_TRUE(GameCatalog[1].Available) << "the archives were looked for again";
 }
 
@@ -107,6 +108,30 @@ TEST_F(OptionsFolders, DeepFoldersAreReachedByKeysAndSeen) {
   });
 }
 
+TEST_F(OptionsFolders, DriveIsTheInnermostOneAndCanBeChanged) {
+  const std::string home = getenv("HOME");
+  const auto parent = std::filesystem::path(AppFolder).parent_path().string();
+  const auto alike = AppFolder.substr(0, AppFolder.rfind(' '));
+  startWith("");
+  for (const auto& drive : {parent, alike}) {
+    setenv("HOME", drive.c_str(), 1);
+    options([&](QWidget& window) {
+      page(window, 4);
+      auto& drives = get<QComboBox>(window, "Drive1");
+      const auto first = drives.currentText().toStdString();
+      EXPECT_EQ(first == drive, drive == parent) << first;
+      if (drive == parent) {
+        drives.setCurrentIndex(drives.findText("/"));
+        EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0), "/");
+      } else {
+        drives.setCurrentIndex(drives.findText(QString::fromStdString(drive)));
+        EXPECT_EQ(drives.currentText().toStdString(), first) << "what can't be read is not taken";
+      }
+    });
+  }
+  setenv("HOME", home.c_str(), 1);
+}
+
 TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
   startWith(";ROMpaths=/r|");
   for (const auto* name :
@@ -130,6 +155,8 @@ TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
     goTo(window, "shaders");
     press(window, "cmdAddPath(3)");
     EXPECT_EQ(folders(window, 3), "<-- Select the Shader file with double clic|");
+    const auto plain = get(window, "lstFolders(4)").palette();
+    EXPECT_NE(get(window, "lstFolders(3)").palette(), plain) << "a hint";
     for (const auto* name : {"optOPT", "cmdAddPath", "cmdRemovePath"})
       EXPECT_EQ(enabled(window, name), "00000") << name;
     EXPECT_EQ(enabled(window, "lstFolders"), "00010");
@@ -147,6 +174,7 @@ TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
     EXPECT_EQ(folders(window, 3), "<-- Select the Shader file with double clic|");
     clickRow(files, 5, true);
     EXPECT_EQ(folders(window, 3), AppFolder + "/shaders\\b.fs*|");
+    EXPECT_EQ(get(window, "lstFolders(3)").palette(), plain);
     EXPECT_EQ(enabled(window, "cmdAddPath"), "11101");
     save(window);
   });

@@ -121,42 +121,6 @@ TEST_F(OptionsSaving, AGameThatTheFileCantNameKeepsNothing) {
   EXPECT_EQ(saved(), "");
 }
 
-TEST_F(OptionsSaving, CustomSizeTakesDigitsAndIsKeptAsTyped) {
-  const struct {
-    const char *typed, *pasted, *taken, *file;  // no digits return to the default
-  } rows[] = {{"a0-12x345", "", "0123", "XResolution = 0123|"},
-              {"", "12 34<b>567", "1234", "XResolution = 1234|"},
-              {"", "", "", ""}};
-  startWith("YResolution = 481|");
-  for (const auto& row : rows) {
-    options([&](QWidget& window) {
-      page(window, 1);
-      auto& width = get<QLineEdit>(window, "tbxCustRes(0)");
-      width.clear();
-      QTest::keyClicks(&width, row.typed);
-      width.insert(row.pasted);
-      EXPECT_EQ(width.text(), row.taken);
-      save(window);
-    });
-    EXPECT_EQ(saved(), std::string(row.file) + "YResolution = 481|");
-  }
-}
-
-TEST_F(OptionsSaving, AFailureIsSilentAndKeepsTheNewValuesInMemory) {
-  startWith("Throttle = 0|");
-  std::filesystem::remove(path("Config/Kestrivane.ini"));
-  write("Config/Kestrivane.ini/mine.txt", "a folder in the way");
-  options([](QWidget& window) {
-    press(window, "chkFlipStereo");
-    save(window);
-    EXPECT_FALSE(window.isVisible());
-  });
-  EXPECT_EQ(read("Config/Kestrivane.ini/mine.txt"), "a folder in the way");
-  std::filesystem::remove_all(path("Config/Kestrivane.ini"));
-  options(save);
-  EXPECT_EQ(saved(), "Throttle = 0|FlipStereo = 1|");
-}
-
 TEST_F(OptionsSaving, RestoringAGame) {
   const struct {
     const char *file, *saved;

@@ -38,6 +38,7 @@ TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
 
 TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
   countPlay("a", 20);
+  countPlay("a;b", 30);
   EXPECT_EQ(row(0) + settings(), ",,");
   countPlay("a", 21);
   countPlay("A", 30);

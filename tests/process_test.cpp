@@ -76,6 +76,15 @@ TEST_F(Process, CaptureGivesStandardOutputAsTextIfThereIsAny) {
     EXPECT_EQ(capture(program), "") << program;
 }
 
+TEST_F(Process, AProgramForWindowsIsHandedToWine) {
+  write("tool.exe", "MZ");
+  writeProgram("bin/wine", "echo \"$#:$1:$2:$3\"");
+  const std::string before = getenv("PATH");
+  setenv("PATH", (path("bin").string() + ":" + before).c_str(), 1);
+  EXPECT_EQ(capture("tool.exe -a \"b c\""), "3:" + path("tool.exe").string() + ":-a:b c\r\n");
+  setenv("PATH", before.c_str(), 1);
+}
+
 TEST_F(Process, CaptureTakesMuchOutputAndDoesNotWaitForAGrandchild) {
   const auto start = std::chrono::steady_clock::now();
   for (const std::string fault : {"flood", "killed", "grandchild"}) {

@@ -132,6 +132,8 @@ TEST_F(Saving, AnotherProgramsFileIsReadAndAfterASecondNotWritten) {
   EXPECT_THROW(WriteBytes(file, "new"), base::Failure);
   EXPECT_EQ(clock.sleeps.size(), 199U);
   EXPECT_EQ(ReadBytes(file), "old");
+  flock(other, LOCK_SH);
+  EXPECT_THROW(WriteBytes(file, "new"), base::Failure) << "a reader's";
   clock.onSleep = [&] { flock(other, LOCK_UN); };
   flock(other, LOCK_EX);
   WriteBytes(file, "new");

@@ -2,6 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
+#include "base/quietly.h"
+#include "core/module1.h"
+#include "i18n/message_catalogue.h"
+#include "platform/code_page.h"
+
 namespace base {
 namespace {
 
@@ -23,6 +30,66 @@ TEST(Text, NumbersOfAnyOtherFormAreRefused) {
   for (const auto* text : {"", "256", "-1", "+1", "1.0", "x", "\t1"})
     EXPECT_ANY_THROW(ToByte(text)) << text;
   EXPECT_LT(ToNumber("-" + std::string(400, '9')), -1e300) << "a number all the same";
+}
+
+TEST(Quietly, EndsBothAndTellsOfAFaultThatIsNoFailure) {
+  std::string told;
+  OnFault() = [&](const std::string& what) { told += what; };
+  EXPECT_FALSE(Quietly([] { throw Failure("a failure"); }));
+  EXPECT_FALSE(Quietly([] { throw std::out_of_range("a fault"); }));
+  OnFault() = nullptr;
+  EXPECT_EQ(told, "a fault");
+}
+
+TEST(CodePage, EachLineIsReadAsWhatItIs) {
+  const struct {
+    const char *bytes, *text;
+  } rows[] = {
+      {"\xF1\x80\xAE\r\nC:\\日本\\é\r\né\r\n\xE9", "ñ€®\r\nC:\\日本\\é\r\né\r\né"},
+      {"\xED\xA0\x80 \xC3\r\xF0\x9F\x8E\xAE", "í\u00A0€ Ã\r\n🎮"},
+      {"\xEF\xBB\xBFone\r\n\xEF\xBB\xBFtwo", "one\r\n\uFEFFtwo"},
+      {"\xEF\xBB\xBF", ""},
+      {"one\ntwo\n\n", "one\r\ntwo\r\n\r\n"},
+      {"one\ntwo\rthree\r\n\n", "one\ntwo\r\nthree\r\n\n"},
+  };
+  for (const auto& [bytes, text] : rows) EXPECT_EQ(platform::DecodeCodePage(bytes), text);
+  EXPECT_EQ(platform::DecodeLines("a\nb"), "a\r\nb\r\n");
+  EXPECT_EQ(platform::DecodeLines("a\rb\r"), "a\r\nb\r\n");
+  EXPECT_EQ(platform::DecodeLines(""), "");
+}
+
+TEST(CodePage, WhatIsWrittenReadsBack) {
+  const struct {
+    const char *text, *bytes;
+  } rows[] = {
+      {"ñ€®\r\nC:\\日本\\é\r\né", "\xF1\x80\xAE\r\nC:\\日本\\é\r\n\xE9"},
+      // As bytes of the code page these would read as one character of UTF-8.
+      {"Ã©\r\nâ‚¬ né", "Ã©\r\n\xE2\x82\xAC n\xE9"},
+      {"\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ",
+       "\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8D\x8E\x8F\x90\x91\x92\x93\x94\x95"
+       "\x96\x97\x98\x99\x9A\x9B\x9C\x9D\x9E\x9F"},
+      // A mark that is no mark.
+      {"\uFEFFone\r\n\uFEFF", "\xEF\xBB\xBF\xEF\xBB\xBFone\r\n\xEF\xBB\xBF"},
+      {"ï»¿é", "\xEF\xBB\xBF\xEF\xBB\xBF\xE9"}};
+  for (const auto& [text, bytes] : rows) {
+    EXPECT_EQ(platform::EncodeCodePage(text), bytes);
+    EXPECT_EQ(platform::DecodeCodePage(platform::EncodeCodePage(text)), text);
+  }
+}
+
+TEST(MessageCatalogue, AnswersItsNumbersInThreeLanguagesAndInEnglishForOthers) {
+  std::map<int, std::string> english;
+  for (int number = 0; number < 256; ++number) {
+    for (const int language : {0, 1, 2, 3, 4}) {
+      Module1::CurrentLanguage = static_cast<unsigned char>(language);
+      const bool known = number <= 18 || (number == 99 && language == 2) ||
+                         (number >= 100 && number <= 164) || (number >= 170 && number <= 173);
+      const auto text = i18n::Msg(static_cast<i18n::Message>(number));
+      EXPECT_EQ(!text.empty(), known) << number << " " << language;
+      if (language == 0) english[number] = text;
+      EXPECT_TRUE(language <= 2 || text == english[number]) << number;
+    }
+  }
 }
 
 }  // namespace

@@ -45,6 +45,9 @@ class UiTest : public TempApp {
   // Key and mouse events as the window system sends them.
   static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void click(const char* name) const;
+  static QPoint placeOf(const QListWidget& list, int row) {
+    return list.visualItemRect(list.item(row)).center();
+  }
   static void clickRow(const QListWidget& list, int row, bool twice = false);
   void clickRow(int row, bool twice = false) const { clickRow(list(), row, twice); }
 

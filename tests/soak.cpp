@@ -1,0 +1,148 @@
+// Random use of the whole program for SOAK_SECONDS (30): keys, clicks, wheel, menus, dialogs,
+// plays. Whatever a save leaves in the file must be what the program holds. SOAK_SEED repeats a
+// run.
+#include <QApplication>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QWheelEvent>
+#include <random>
+
+#include "config/config_reader.h"
+#include "config/config_writer.h"
+#include "core/bindings.h"
+#include "platform/code_page.h"
+#include "support/fake_clock.h"
+#include "support/ui_test.h"
+
+namespace {
+
+using namespace Module1;
+
+unsigned Given(const char* name, unsigned otherwise) {
+  const auto text = qEnvironmentVariable(name);
+  return text.isEmpty() ? otherwise : text.toUInt();
+}
+
+class Soak : public support::UiTest {
+ protected:
+  Soak() {
+    std::printf("SOAK_SEED=%u\n", seed_);
+    std::fflush(stdout);
+    QDesktopServices::setUrlHandler("https", &browser_, "anchorClicked");
+    addEmulator();
+    const std::pair<const char*, const char*> archives[] = {
+        {"7undertow", "good"}, {"abalonec", "error"}, {"nimblewk", "crash"}};
+    for (const auto& [game, end] : archives)
+      write(std::string("roms/") + game + ".zip", std::string("seconds=0\nend=") + end);
+    write("roms/shader.fs", "");
+    clock_.onSleep = [this] { clock_.now += std::chrono::seconds(pick(15)); };
+  }
+  ~Soak() override { QDesktopServices::unsetUrlHandler("https"); }
+
+  int pick(int below) { return std::uniform_int_distribution<>(0, below - 1)(random_); }
+
+  void run() {
+    const qint64 most = Given("SOAK_SECONDS", 30) * qint64{1000};
+    time_.start();
+    QEventLoop loop;
+    std::function<void()> next = [&] {
+      // Asked for first: the action may open a window and stay in it.
+      QTimer::singleShot(0, &browser_, next);
+      auto* modal = QApplication::activeModalWidget();
+      if (time_.elapsed() < most && !HasFailure()) return act();
+      if (modal) modal->close();
+      if (!modal) loop.quit();
+    };
+    next();
+    loop.exec();
+    std::printf("%d actions, %d saves\n", actions_, saves_);
+  }
+
+  void act() {
+    ++actions_;
+    compareFile();
+    auto* popup = QApplication::activePopupWidget();
+    auto* modal = QApplication::activeModalWidget();
+    auto& on = popup ? *popup : modal ? *modal : window();
+    QList<QWidget*> controls = {&on};
+    for (auto* control : on.findChildren<QWidget*>())
+      if (control->isVisible() && control->isEnabled() && control->window() == &on)
+        controls.append(control);
+    auto& control = *controls[pick(static_cast<int>(controls.size()))];
+    const QPoint at(pick(control.width() + 1), pick(control.height() + 1));
+    switch (const int kind = pick(20)) {
+      case 0:
+        if (!popup && !modal) trigger();
+        break;
+      case 1:
+      case 2: {
+        QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, pick(2) ? 120 : -120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&control, &turn);
+        break;
+      }
+      case 3:
+      case 4:
+        QTest::mouseDClick(&control, Qt::LeftButton, {}, at);
+        break;
+      default:
+        if (kind < 12)
+          QTest::mouseClick(&control, kind == 5 ? Qt::RightButton : Qt::LeftButton, {}, at);
+        else if (on.windowHandle())
+          QTest::keyClick(on.windowHandle(), key(), pick(8) ? Qt::NoModifier : Qt::AltModifier);
+    }
+    compareFile();
+  }
+  void trigger() {
+    const auto items = window().findChildren<QAction*>();
+    items[pick(static_cast<int>(items.size()))]->trigger();
+  }
+  Qt::Key key() {
+    constexpr Qt::Key kKeys[] = {Qt::Key_Up,    Qt::Key_Down,     Qt::Key_Left,   Qt::Key_Right,
+                                 Qt::Key_Home,  Qt::Key_End,      Qt::Key_PageUp, Qt::Key_PageDown,
+                                 Qt::Key_Tab,   Qt::Key_Backtab,  Qt::Key_Space,  Qt::Key_Return,
+                                 Qt::Key_Enter, Qt::Key_Escape,   Qt::Key_Delete, Qt::Key_Backspace,
+                                 Qt::Key_F2,    Qt::Key_Asterisk, Qt::Key_F10,    Qt::Key_F4};
+    const int count = static_cast<int>(std::size(kKeys));
+    const int chosen = pick(count + 10);
+    return chosen < count ? kKeys[chosen] : static_cast<Qt::Key>("019AEGOSVY"[chosen - count]);
+  }
+
+  // After a save: the file is what the state gives, and gives that state back but for cleared
+  // bindings, which it can't hold.
+  void compareFile() {
+    auto file = read("Config/Kestrivane.ini");
+    if (file == file_) return;
+    file_ = std::move(file);
+    ++saves_;
+    EXPECT_EQ(file_, platform::EncodeCodePage(config::ConfigText()));
+    config::Configuration state{RomPaths, SnapPaths,    IconPaths,       Profiles,
+                                PlayLog,  GameListPref, CurrentLanguage, ConfigFileHeld};
+    for (auto& slot : Profiles[1].Slots)
+      if (slot.Value == core::kNoBinding) slot.Value.clear();
+    const auto held = config::ConfigText();
+    config::Adopt(config::LoadConfigFile(AppFolder));
+    EXPECT_EQ(config::ConfigText(), held);
+    config::Adopt(std::move(state));
+  }
+
+  unsigned seed_ = Given("SOAK_SEED", std::random_device()());
+  std::mt19937 random_{seed_};
+  support::FakeClock clock_;
+  QTextBrowser browser_;  // takes the addresses that are opened
+  QElapsedTimer time_;
+  std::string file_;
+  int actions_ = 0, saves_ = 0;
+};
+
+TEST_F(Soak, NothingThatAUserDoesBreaksTheProgramOrItsFile) {
+  start();
+  run();
+  EXPECT_GT(actions_, 100);
+}
+
+}  // namespace

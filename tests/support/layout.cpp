@@ -1,0 +1,133 @@
+#include "support/layout.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <algorithm>
+
+namespace support {
+namespace {
+
+// Names, without their index, of what is meant to lie on each other.
+constexpr std::pair<const char*, const char*> kMeant[] = {
+    {"frmOPT", "optOPT"},
+    {"frame", "optADV"},    // tabs cut into their page's frame
+    {"Label1", "lblInfo"},  // a bar and the text on it
+    {"Label1", "Label2"},
+    {"Label6", "Label5"}};  // a title and its shadow
+
+std::string NameOf(const QWidget& control) {
+  return control.objectName().section('(', 0, 0).toStdString();
+}
+
+bool IsMeant(const QWidget& a, const QWidget& b) {
+  const auto is = [](const auto& pair, const QWidget& x, const QWidget& y) {
+    return NameOf(x) == pair.first && NameOf(y) == pair.second;
+  };
+  return std::any_of(std::begin(kMeant), std::end(kMeant),
+                     [&](const auto& pair) { return is(pair, a, b) || is(pair, b, a); });
+}
+
+bool IsFrameOf(const QWidget& outer, const QWidget& inner) {
+  const auto* frame = qobject_cast<const QLabel*>(&outer);
+  const bool hasLine = frame ? frame->frameShape() != QFrame::NoFrame
+                             : outer.metaObject()->className() == QByteArray("QFrame");
+  return hasLine && outer.geometry().contains(inner.geometry());
+}
+
+// The font in which a label that is too narrow draws its one line.
+QFont FontOf(const QLabel& label) {
+  auto font = label.font();
+  if (!label.wordWrap() && !label.text().contains('\n') &&
+      label.fontMetrics().horizontalAdvance(label.text()) > label.contentsRect().width())
+    font.setPixelSize(font.pixelSize() * 8 / 10);
+  return font;
+}
+
+// Where the text of a label stands, in its own coordinates; of one line no room for letters below
+// the line that it does not have.
+QRect TextOf(const QLabel& label) {
+  const auto flags =
+      static_cast<int>(label.alignment()) | (label.wordWrap() ? Qt::TextWordWrap : 0);
+  const QFontMetrics metrics(FontOf(label));
+  const int margin = label.margin();
+  const auto room = label.contentsRect().adjusted(margin, margin, -margin, -margin);
+  auto text = metrics.boundingRect(room, flags, label.text());
+  if (text.height() < 2 * metrics.height())
+    text.setBottom(text.top() + metrics.ascent() +
+                   metrics.tightBoundingRect(label.text()).bottom());
+  return text;
+}
+
+// What of a control is seen: of a label without a line around it its text.
+QRect SeenOf(const QWidget& control) {
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  if (!label || label->frameShape() != QFrame::NoFrame || label->autoFillBackground())
+    return control.geometry();
+  return TextOf(*label).translated(label->pos()) & label->geometry();
+}
+
+bool Fits(const QWidget& control) {
+  const auto metrics = control.fontMetrics();
+  const auto width = [&](const QString& text) {
+    return metrics.size(Qt::TextShowMnemonic, text).width();
+  };
+  if (const auto* label = qobject_cast<const QLabel*>(&control))
+    return label->text().isEmpty() || label->rect().contains(TextOf(*label));
+  if (const auto* box = qobject_cast<const QComboBox*>(&control)) {
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    const auto room = box->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                   QStyle::SC_ComboBoxEditField, box);
+    // Drives are as long as they are.
+    for (int row = 0; row < box->count() && NameOf(*box) != "Drive1"; ++row)
+      if (width(box->itemText(row)) > room.width()) return false;
+    return metrics.height() <= box->height();
+  }
+  const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  if (!button) return true;
+  QStyleOptionButton option;
+  option.initFrom(button);
+  const auto element = button->inherits("QCheckBox")      ? QStyle::SE_CheckBoxContents
+                       : button->inherits("QRadioButton") ? QStyle::SE_RadioButtonContents
+                                                          : QStyle::SE_PushButtonContents;
+  const bool isPicture = button->text().isEmpty();
+  const auto room = isPicture ? button->rect() : button->style()->subElementRect(element, &option);
+  return isPicture ? room.size().expandedTo(button->iconSize()) == room.size()
+                   : width(button->text()) <= room.width() && metrics.height() <= button->height();
+}
+
+void ExpectLaidOutIn(const QWidget& parent) {
+  QList<QWidget*> seen;
+  for (auto* control : parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (!control->isVisible() || control->objectName().isEmpty()) continue;
+    const auto what = control->window()->objectName().toStdString() + "." +
+                      control->objectName().toStdString() + " \"" +
+                      control->property("text").toString().toStdString() + "\"";
+    EXPECT_TRUE(parent.rect().contains(control->geometry())) << what << " is cut off";
+    EXPECT_TRUE(Fits(*control)) << what << " has its text cut off";
+    for (const auto* other : seen) {
+      // Neighbours may share a line.
+      const auto both = SeenOf(*control) & SeenOf(*other);
+      EXPECT_TRUE(both.width() <= 1 || both.height() <= 1 || IsMeant(*control, *other) ||
+                  IsFrameOf(*control, *other) || IsFrameOf(*other, *control))
+          << what << " lies on " << other->objectName().toStdString();
+    }
+    seen.append(control);
+    if (control->metaObject()->className() == QByteArray("QWidget")) ExpectLaidOutIn(*control);
+  }
+}
+
+}  // namespace
+
+void ExpectLaidOut(const QWidget& window) {
+  if (const auto* form = qobject_cast<const QMainWindow*>(&window))
+    ExpectLaidOutIn(*form->centralWidget());
+}
+
+}  // namespace support
