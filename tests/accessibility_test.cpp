@@ -121,6 +121,10 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
       answer(box, QMessageBox::No);
     });
     page(dialog, 2);
+    auto& link = get(dialog, "lblAdvOpts");
+    const auto plain = link.grab().toImage();
+    link.setFocus();
+    EXPECT_NE(link.grab().toImage(), plain) << "the focus is seen";
     press(dialog, "lblLoadDefaults");
   });
   clock.onSleep = [] { ExpectAccessible(*QApplication::activeModalWidget()); };

@@ -132,17 +132,19 @@ TEST_F(OptionsOpening, SizeBoxesTakeFourDigitsAndDropTheRest) {
   });
 }
 
-TEST_F(OptionsOpening, WheelTurnsNoDropDownThatIsNotInFocus) {
+TEST_F(OptionsOpening, WheelTurnsNothingThatIsNotInFocus) {
   startWith(";InputMethod=2|InputStart1 = \"KEY2_A\"|");
   options([](QWidget& window) {
-    for (const auto& [index, name] : {std::pair(2, "cmbInputType"), {4, "Drive1"}}) {
+    const std::tuple<int, const char*, const char*> rows[] = {
+        {2, "cmbInputType", "currentIndex"}, {4, "Drive1", "currentIndex"}, {3, "hslPPC", "value"}};
+    for (const auto& [index, name, property] : rows) {
       page(window, index);
-      auto& box = get<QComboBox>(window, name);
-      const auto turn = [&, before = box.currentIndex()](int by) {
+      auto& box = get(window, name);
+      const auto turn = [&, what = property, before = box.property(property)](int by) {
         const QPointF at(5, 5);
         QWheelEvent wheel(at, box.mapToGlobal(at), {}, {0, by}, {}, {}, {}, false);
         QApplication::sendEvent(&box, &wheel);
-        return box.currentIndex() != before;
+        return box.property(what) != before;
       };
       EXPECT_FALSE(turn(120) || turn(-120) || box.hasFocus()) << name;
       box.setFocus();
