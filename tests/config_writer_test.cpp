@@ -140,6 +140,18 @@ TEST_F(ConfigWriter, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
     std::filesystem::remove(path(copy));
   }
 
+  load("Vsync = 0");
+  std::filesystem::permissions(path("Config"), std::filesystem::perms(0));
+  {
+    const support::Unprivileged user(path("Config"));
+    Adopt(LoadConfigFile(AppFolder));
+  }
+  std::filesystem::permissions(path("Config"), std::filesystem::perms(0755));
+  write(copy, "mine");
+  WriteConfigFile();
+  EXPECT_EQ(read(copy), "mine") << "an earlier copy stays";
+  EXPECT_EQ(read(copy + "2"), "Vsync = 0") << "nobody could see whether the file was there";
+
   std::string sections;
   for (int game = 0; game < 253; ++game) sections += "[ g" + std::to_string(game) + " ]\r\n";
   load(sections);

@@ -107,8 +107,19 @@ TEST_F(OptionsSaving, WhatTheLoadingDidNotReachStaysAsItWas) {
     type(window, "hslBalance", Qt::Key_End);
     save(window);
   });
-  EXPECT_EQ(saved(), global + "[ a ]|Throttle = 0|SoundVolume = 160|FlipStereo = 1|Balance = 100|" +
-                         folders);
+  const std::string one = "[ a ]|Throttle = 0|SoundVolume = 160|FlipStereo = 1|Balance = 100|";
+  EXPECT_EQ(saved(), global + one + folders);
+  gameOptions(1, [](QWidget& window) {
+    type(window, "hslBalance", Qt::Key_Right, 3);
+    save(window);
+  });
+  EXPECT_EQ(saved(), global + one + "[ b ]|" + folders) << "what holds anyway is not stored";
+  options([](QWidget& window) {
+    page(window, 4);
+    press(window, "cmdAddPath(0)");
+    save(window);
+  });
+  EXPECT_NE(saved().find(";ROMpaths=/r*" + AppFolder), std::string::npos);
 }
 
 TEST_F(OptionsSaving, AGameThatTheFileCantNameKeepsNothing) {

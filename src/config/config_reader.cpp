@@ -52,9 +52,9 @@ struct CommentKey {
 
 // The first key that a line contains decides, wherever in the line it stands.
 constexpr std::array<CommentKey, 8> kCommentKeys = {{
-    {";ROMpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.RomPaths); }},
-    {";SNAPpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.SnapPaths); }},
-    {";ICONpaths=", [](auto value, auto& to) { TakePathList(value, to.configuration.IconPaths); }},
+    {kPathKeys[0], [](auto value, auto& to) { TakePathList(value, to.configuration.RomPaths); }},
+    {kPathKeys[1], [](auto value, auto& to) { TakePathList(value, to.configuration.SnapPaths); }},
+    {kPathKeys[2], [](auto value, auto& to) { TakePathList(value, to.configuration.IconPaths); }},
     {";GameTimeLog=", [](auto value, auto& to) { TakePlayLog(value, to.configuration.PlayLog); }},
     {kBanner, [](auto, auto& to) { to.result.bannerSeen = true; }},
     {";InputMethod=",
@@ -128,11 +128,13 @@ Configuration LoadConfigFile(const std::string& appFolder) {
   auto configuration = Defaults(appFolder);
   auto file = platform::Joined(appFolder, core::kConfigFile);
   std::string text;
-  if (!platform::FileExists(file)) {
+  const auto couldLook = [&] {
+    return base::Quietly([&] { platform::FileNames(platform::Joined(appFolder, "Config")); });
+  };
+  const bool isThere = platform::FileExists(file);
+  if (!isThere || !base::Quietly([&] { text = platform::ReadText(file); })) {
     core::ResetInputsToDefaults(configuration.Profiles);
-  } else if (!base::Quietly([&] { text = platform::ReadText(file); })) {
-    core::ResetInputsToDefaults(configuration.Profiles);
-    configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
+    if (isThere || !couldLook()) configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   } else if (const auto parse = ParseConfigText(text, configuration); !parse.complete) {
     configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   } else if (!parse.bannerSeen) {

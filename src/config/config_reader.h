@@ -1,6 +1,7 @@
 // Reads Config\Kestrivane.ini, once per program start.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,10 @@ namespace config {
 
 // What a file of ours says in its head, and no other does.
 inline constexpr std::string_view kBanner = "Kestrivane UI®";
+
+// What begins the lists of folders.
+inline constexpr std::array<std::string_view, 3> kPathKeys = {
+    ";ROMpaths=", ";SNAPpaths=", ";ICONpaths="};
 
 // The file's configuration; the default bindings where there is no file or it can't be read.
 // Copies a file that another program wrote to Kestrivane.ini.bak.

@@ -93,6 +93,13 @@ void AddPreferences(std::string& text) {
     text += ";InputMethod=" + std::to_string(Profiles[1].InputMethod);
 }
 
+// No copy takes the place of an earlier one.
+std::string UnusedName(const std::string& name) {
+  auto unused = name;
+  for (int number = 2; platform::IsFile(unused); ++number) unused = name + std::to_string(number);
+  return unused;
+}
+
 }  // namespace
 
 std::string ConfigText() {
@@ -123,7 +130,7 @@ void WriteConfigFile() {
     const auto text = ConfigText();
     const auto file = platform::Joined(AppFolder, core::kConfigFile);
     if (ConfigFileHeld == core::FileHeld::UpToAFailure && platform::IsFile(file))
-      platform::CopyFileBytes(file, file + ".unread");
+      platform::CopyFileBytes(file, UnusedName(file + ".unread"));
     ConfigFileHeld = core::FileHeld::Whole;
     platform::WriteText(file, text);
   });

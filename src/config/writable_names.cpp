@@ -13,8 +13,16 @@ bool IsControl(char c) { return c >= 0 && c < 0x20; }
 }  // namespace
 
 bool IsWritableName(std::string_view name) {
-  const auto separates = [](char c) { return IsControl(c) || c == '\\' || c == '*' || c == '"'; };
-  return base::IsUtf8(name) && std::ranges::none_of(name, separates);
+  return name.find('\\') == std::string_view::npos && IsWritablePath(name);
+}
+
+bool IsWritablePath(std::string_view path) {
+  const auto separates = [](char c) { return IsControl(c) || c == '*' || c == '"'; };
+  const auto isInPath = [&](std::string_view key) { return base::ContainsIgnoringCase(path, key); };
+  // A path from the root belongs to a system on which a backslash is a letter.
+  return base::IsUtf8(path) && std::ranges::none_of(path, separates) &&
+         std::ranges::none_of(kPathKeys, isInPath) &&
+         !(path.starts_with('/') && path.find('\\') != std::string_view::npos);
 }
 
 bool IsWritableValue(std::string_view path) {

@@ -6,7 +6,7 @@
 namespace core {
 
 inline constexpr std::string_view kEmulatorFile = "Kestrivane.exe";
-inline constexpr std::string_view kListingCommand = "kestrivane.exe -print-games";
+inline constexpr std::string_view kListingCommand = "Kestrivane.exe -print-games";
 inline constexpr std::string_view kPlayCommand = "Kestrivane \"";
 
 // The listing: the banner carries the version between this text and one closing character; games

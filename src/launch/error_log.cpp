@@ -1,7 +1,6 @@
 #include "launch/error_log.h"
 
 #include <algorithm>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,21 +16,12 @@ namespace {
 
 constexpr std::size_t kPiece = std::size_t{1} << 20U;
 constexpr std::size_t kMostShown = std::size_t{1} << 20U;
-
-// Hands over the file piece by piece, until the taker has enough.
-void ReadPieces(const std::string& file, const std::function<bool(std::string_view)>& takesMore) {
-  long long from = 0;
-  for (;;) {
-    const auto piece = platform::ReadPiece(file, from, kPiece);
-    if (piece.empty() || !takesMore(piece)) return;
-    from += static_cast<long long>(piece.size());
-  }
-}
+constexpr int kMostLines = 50000;  // more of them take long to lay out
 
 // Another system's lines have no CR at all.
 char LineEndIn(const std::string& file) {
   char lineEnd = '\n';
-  ReadPieces(file, [&](std::string_view piece) {
+  platform::ReadPieces(file, kPiece, [&](std::string_view piece) {
     if (piece.find('\r') != std::string_view::npos) lineEnd = '\r';
     return lineEnd == '\n';
   });
@@ -57,9 +47,12 @@ class Report {
     }
     if (headerLines_ < core::kErrorLogHeaderLines) return;
     lookForGoodEnd(piece);
-    const auto room = std::min(kMostShown - shown_.size(), piece.size());
-    shown_ += piece.substr(0, room);
-    cut_ = cut_ || room < piece.size();
+    if (cut_) return;
+    auto part = piece.substr(0, lines_ < kMostLines ? kMostShown - shown_.size() : 0);
+    for (auto at = part.find(lineEnd_); at < part.size(); at = part.find(lineEnd_, at + 1))
+      if (++lines_ == kMostLines) part = part.substr(0, at + 1);
+    shown_ += part;
+    cut_ = part.size() < piece.size();
   }
 
   bool endedWell() const { return endedWell_; }
@@ -94,6 +87,7 @@ class Report {
   int headerLines_ = 0;
   bool skipNext_ = false;  // the line feed of a line end that two pieces share
   std::string shown_, seam_;
+  int lines_ = 0;
   bool endedWell_ = false;
   bool cut_ = false;
 };
@@ -105,7 +99,7 @@ bool ReadErrorLog() {
   base::Quietly([&] {
     const auto file = platform::Joined(Module1::AppFolder, core::kErrorLog);
     Report report(LineEndIn(file));
-    ReadPieces(file, [&](std::string_view piece) {
+    platform::ReadPieces(file, kPiece, [&](std::string_view piece) {
       report.take(piece);
       return true;
     });

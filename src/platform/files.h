@@ -4,6 +4,7 @@
 #pragma once
 
 #include <climits>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,8 +43,10 @@ void CopyFileBytes(std::string_view from, std::string_view to);
 // part of it.
 std::string ReadBytes(std::string_view path, long long most = LLONG_MAX);
 
-// At most `most` bytes of a regular file from this place on; none behind its end.
-std::string ReadPiece(std::string_view path, long long from, std::size_t most);
+// Hands over the bytes of a regular file in pieces of at most this size, until there is no more or
+// the taker has enough.
+void ReadPieces(std::string_view path, std::size_t most,
+                const std::function<bool(std::string_view piece)>& takesMore);
 
 // Makes these bytes, a text, the file's whole content, in place. Whatever interrupts it short of a
 // kill within its one write, the file has the old text or the new one, empty lines behind it at

@@ -77,16 +77,15 @@ std::string ReadBytes(std::string_view path, long long most) {
   return bytes;
 }
 
-std::string ReadPiece(std::string_view path, long long from, std::size_t most) {
+void ReadPieces(std::string_view path, std::size_t most,
+                const std::function<bool(std::string_view piece)>& takesMore) {
   const OpenFile file(Find(path).path, O_RDONLY);
-  const auto rest = static_cast<std::size_t>(std::max<off_t>(file.size() - from, 0));
-  std::string bytes(std::min(most, rest), '\0');
-  const auto count = Patiently([&] {
-    return pread(file.descriptor(), bytes.data(), bytes.size(), static_cast<off_t>(from));
-  });
-  Check(count >= 0);
-  bytes.resize(static_cast<std::size_t>(count));
-  return bytes;
+  std::string bytes(most, '\0');
+  for (;;) {
+    const auto count = Patiently([&] { return read(file.descriptor(), bytes.data(), most); });
+    Check(count >= 0);
+    if (count == 0 || !takesMore({bytes.data(), static_cast<std::size_t>(count)})) return;
+  }
 }
 
 }  // namespace platform

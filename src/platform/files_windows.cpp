@@ -132,14 +132,14 @@ std::string ReadBytes(std::string_view path, long long most) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string ReadPiece(std::string_view path, long long from, std::size_t most) {
+void ReadPieces(std::string_view path, std::size_t most,
+                const std::function<bool(std::string_view piece)>& takesMore) {
   if (!IsFile(path)) throw base::Failure("not a regular file");
   std::ifstream file(ToPath(path), std::ios::binary);
-  file.seekg(from);
   std::string bytes(most, '\0');
-  file.read(bytes.data(), static_cast<std::streamsize>(most));
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
-  return bytes;
+  do {
+    file.read(bytes.data(), static_cast<std::streamsize>(most));
+  } while (file.gcount() > 0 && takesMore({bytes.data(), static_cast<std::size_t>(file.gcount())}));
 }
 
 void WriteBytes(std::string_view path, std::string_view bytes) {

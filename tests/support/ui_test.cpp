@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QRegularExpression>
 #include <QTest>
 #include <QToolTip>
 #include <cstdlib>
@@ -41,7 +42,7 @@ std::string UiTest::rows(const QListWidget& list) {
 std::string UiTest::tipAt(QWidget& widget, QPoint at) {
   QHelpEvent help(QEvent::ToolTip, at, widget.mapToGlobal(at));
   QApplication::sendEvent(&widget, &help);
-  return QToolTip::text().replace("<span>", "").replace("</span>", "").toStdString();
+  return QToolTip::text().remove(QRegularExpression("</?span[^>]*>")).toStdString();
 }
 
 UiTest::UiTest() {

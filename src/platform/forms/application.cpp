@@ -28,6 +28,30 @@ void SleepAnswering(std::chrono::milliseconds time) {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
+bool IsInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool dropsInput = false;
+
 // What holds for every window.
 class Rules : public QObject {
  protected:
@@ -35,11 +59,12 @@ class Rules : public QObject {
     switch (event->type()) {
       case QEvent::KeyPress:
       case QEvent::KeyRelease:
-        return closesAgain(*static_cast<QKeyEvent*>(event), watched->isWindowType());
+        // Told of every key, also of one that is dropped.
+        return closesAgain(*static_cast<QKeyEvent*>(event), watched->isWindowType()) || dropsInput;
       case QEvent::ToolTip:
         return watched->isWidgetType() && showToolTip(*static_cast<QWidget*>(watched), *event);
       default:
-        return false;
+        return dropsInput && IsInput(event->type());
     }
   }
 
@@ -71,31 +96,6 @@ class Rules : public QObject {
     int key = 0;
     quint64 time = 0;
   } released_;
-};
-
-class InputDropper : public QObject {
- protected:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress:
-      case QEvent::MouseButtonRelease:
-      case QEvent::MouseButtonDblClick:
-      case QEvent::Wheel:
-      case QEvent::KeyPress:
-      case QEvent::KeyRelease:
-      case QEvent::ShortcutOverride:
-      case QEvent::Shortcut:
-      case QEvent::ContextMenu:
-      case QEvent::TouchBegin:
-      case QEvent::TouchUpdate:
-      case QEvent::TouchEnd:
-      case QEvent::TabletPress:
-      case QEvent::TabletRelease:
-        return true;
-      default:
-        return false;
-    }
-  }
 };
 
 }  // namespace
@@ -130,9 +130,10 @@ void Application::run() { QApplication::exec(); }
 void LeaveEventLoop() { QApplication::quit(); }
 
 void DoEvents() {
-  InputDropper dropper;
-  QApplication::instance()->installEventFilter(&dropper);
+  dropsInput = true;
   QGuiApplication::sync();  // the window system may still hold some
+  QApplication::processEvents();
+  dropsInput = false;
 }
 
 std::function<void(int status)>& EndProgram() {

@@ -40,7 +40,9 @@ QFont ToFont(const FontStyle& style) {
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
 QString PlainToolTip(const QString& text) {
-  return Qt::mightBeRichText(text) ? "<span>" + text.toHtmlEscaped() + "</span>" : text;
+  return Qt::mightBeRichText(text)
+             ? "<span style=\"white-space:pre\">" + text.toHtmlEscaped() + "</span>"
+             : text;
 }
 
 Control::Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font)

@@ -32,8 +32,10 @@ bool Holds(const std::string& drive, const std::string& folder) {
 
 }  // namespace
 
-DriveList::DriveList(Container& parent, const char* name, const Box& box)
+DriveList::DriveList(Container& parent, const char* name, const Box& box,
+                     bool (*accepts)(std::string_view path))
     : ComboBox(parent, name, box), paths_(Drives()) {
+  std::erase_if(paths_, [&](const auto& path) { return !accepts(path); });
   for (const auto& path : paths_) add(path);
   onClick = [this] {
     if (selectedRow() == accepted_) return;

@@ -2,6 +2,7 @@
 
 #include "platform/forms/combo_box.h"
 
+#include <string_view>
 #include <vector>
 
 namespace forms {
@@ -10,7 +11,9 @@ namespace forms {
 // folder and the mounted volumes. One that can't be read is not accepted.
 class DriveList : public ComboBox {
  public:
-  DriveList(Container& parent, const char* name, const Box& box);
+  // Offers only what `accepts` takes.
+  DriveList(Container& parent, const char* name, const Box& box,
+            bool (*accepts)(std::string_view path));
 
   std::string drive() const;  // the path of the selected one
   // Selects the drive that holds the folder, without an event.

@@ -64,7 +64,9 @@ void InputPage::LoadBindings() {
 void InputPage::StoreBindings() {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     Profiles[1].Slots[slot].Value = EffectiveValues[slot];
-  Profiles[1].Slots[core::kCrosshairsSlot].Value = EffectiveValues[core::kCrosshairsSlot];
+  // In a game's scope this value may be the game's.
+  if (OptionScope == core::kGlobalScope)
+    Profiles[1].Slots[core::kCrosshairsSlot].Value = EffectiveValues[core::kCrosshairsSlot];
 }
 
 void InputPage::FillInputLists() {

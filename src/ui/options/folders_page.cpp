@@ -91,6 +91,9 @@ void FoldersPage::lstFolders_Click(int index) {
 }
 
 void FoldersPage::cmdAddPath_Click(int index) {
+  // Where the loading did not come so far, nothing that the user can't see must go.
+  if (!filled_) Fill();
+  if (!cmdAddPath[index].enabled()) return;
   if (index < kFirstShaderList)
     AddFolder(index);
   else

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "config/writable_names.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/drive_list.h"
 #include "platform/forms/file_list.h"
@@ -53,7 +54,7 @@ class FoldersPage {
   std::array<bool, kLists> SavedAddEnabled{};
   std::array<bool, kLists> SavedRemoveEnabled{};
 
-  forms::DriveList Drive1{frame_, "Drive1", {120, 240, 3015, 315}};
+  forms::DriveList Drive1{frame_, "Drive1", {120, 240, 3015, 315}, config::IsWritablePath};
   forms::FolderTree Dir1{frame_, "Dir1", {120, 600, 3015, 3465}};
   forms::FileList File1{frame_, "File1", {120, 300, 3015, 3795}};
   forms::Label Label1[kLists] = {

@@ -71,6 +71,9 @@ void Form2::Form_Load() {
 }
 
 void Form2::FillControls() {
+  // A save compares with what holds without the game, also where the loading ends early.
+  for (core::Slot slot = 0; slot < core::kGeneralSlotCount; ++slot)
+    if (slot < core::kFirstAdvancedSlot || slot >= core::kPerGameSlots) core::EffectiveValue(slot);
   video_.FillResolutions();
   InputPage::LoadBindings();
   for (auto& control : options_) {

@@ -40,10 +40,19 @@ void VideoPage::FillCustomResolution() {
   tbxCustRes[0].setText(ValueInForce("XResolution"));
   tbxCustRes[1].setText(ValueInForce("YResolution"));
   chkCustRes.setValue(1);
+  shown_ = {tbxCustRes[0].text(), tbxCustRes[1].text()};
 }
 
 std::pair<std::string, std::string> VideoPage::StagedResolution() const {
-  if (chkCustRes.value() != 0) return {tbxCustRes[0].text(), tbxCustRes[1].text()};
+  if (chkCustRes.value() != 0) {
+    // A box may show less than the option holds.
+    const auto staged = [](const forms::TextBox& box, const std::string& shown,
+                           const char* option) {
+      return box.text() == shown && !shown.empty() ? ValueInForce(option) : box.text();
+    };
+    return {staged(tbxCustRes[0], shown_.first, "XResolution"),
+            staged(tbxCustRes[1], shown_.second, "YResolution")};
+  }
   const auto& [width, height] =
       Module1::ResolutionList.at(static_cast<std::size_t>(cmbRes.selectedRow()));
   return {std::to_string(width), std::to_string(height)};

@@ -36,6 +36,7 @@ class VideoPage {
   void chkCustRes_Click();
 
   forms::Frame& frame_;
+  std::pair<std::string, std::string> shown_;  // in the boxes, when the dialog opened
 
   forms::Label Label7{frame_, "Label7", {240, 420, 1215, 375}, "Resolution:", kText};
   forms::ComboBox cmbRes{frame_, "cmbRes", {1560, 360, 1575, 360}, kText};
