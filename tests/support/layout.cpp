@@ -78,7 +78,8 @@ bool Fits(const QWidget& control) {
     return metrics.size(Qt::TextShowMnemonic, text).width();
   };
   if (const auto* label = qobject_cast<const QLabel*>(&control))
-    return label->text().isEmpty() || label->rect().contains(TextOf(*label));
+    return label->text().isEmpty() ||
+           label->rect().adjusted(-1, 0, 1, 0).contains(TextOf(*label));  // letters lean out
   if (const auto* box = qobject_cast<const QComboBox*>(&control)) {
     QStyleOptionComboBox option;
     option.initFrom(box);
