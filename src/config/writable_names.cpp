@@ -32,7 +32,8 @@ bool IsWritableValue(std::string_view path) {
 
 bool IsWritableGame(const std::string& romName) {
   if (romName.empty() || std::ranges::any_of(romName, IsControl)) return false;
-  auto read = Defaults({});
+  Configuration read;
+  read.Profiles.resize(2);
   const auto result =
       ParseConfigText("[ " + romName + " ]\r\n;GameTimeLog=" + romName + ",1,2\r\n", read);
   const auto& play = read.PlayLog[0];
