@@ -90,12 +90,4 @@ TEST_F(Advanced, OkWaitsForTheNextSaveOfAllGames) {
   EXPECT_EQ(saved(), all + game + "[ b ]|");
 }
 
-TEST_F(Advanced, RawInputStagesTheHiddenForces) {
-  startWith("XInputVibrateMax = 20|;InputMethod=2|");
-  options(
-      [](QWidget& window) { advanced(window, [](QWidget& dialog) { press(dialog, "cmdSave"); }); });
-  EXPECT_EQ(StagedOptions[22], "20");
-  EXPECT_EQ(StagedOptions[17], "");
-}
-
 }  // namespace
