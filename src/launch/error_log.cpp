@@ -14,7 +14,7 @@
 namespace launch {
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{1} << 20U;
+constexpr std::size_t kPiece = std::size_t{1} << 16U;
 constexpr std::size_t kMostShown = std::size_t{1} << 20U;
 constexpr int kMostLines = 50000;  // more of them take long to lay out
 
