@@ -9,7 +9,9 @@ copy=$PWD/build-faults/copy
 build=$copy/build
 log=$PWD/build-faults/log
 mkdir -p "$copy"
-git ls-files -z --cached --others --exclude-standard | xargs -0 cp --update --parents -t "$copy"
+git ls-files -z --cached --others --exclude-standard | while IFS= read -rd '' file; do
+    cmp -s "$file" "$copy/$file" || cp --parents "$file" "$copy"
+done
 build_all() { cmake --build "$build" --parallel "$(nproc)" >"$log" 2>&1; }
 test_all() {
     ctest --test-dir "$build" --parallel "$(nproc)" --stop-on-failure \
