@@ -98,8 +98,10 @@ void TakeOption(std::string_view body, core::Profile& profile) {
 }
 
 void TakeLine(std::string_view line, const Parse& to) {
+  // Every comment key holds ";", and the banner a letter beyond ASCII.
+  const bool mayHoldKey = line.find_first_of(";\xC2") != std::string_view::npos;
   for (const auto& [key, take] : kCommentKeys)
-    if (base::ContainsIgnoringCase(line, key))
+    if (mayHoldKey && base::ContainsIgnoringCase(line, key))
       return take(line.substr(base::OffsetOfChar(line, key.size())), to);
   const auto body = line.substr(0, line.find(';'));
   if (base::Trim(body).empty()) return;

@@ -12,7 +12,9 @@ Configuration Defaults(const std::string& appFolder) {
   configuration.RomPaths[0] = platform::Joined(appFolder, "roms");
   configuration.SnapPaths[0] = platform::Joined(appFolder, "snaps");
   configuration.IconPaths[0] = platform::Joined(appFolder, "icons");
-  configuration.Profiles = {core::DefaultProfile(), core::Profile()};
+  // Rows are large: room for all of them spares moving them as they come.
+  configuration.Profiles.reserve(core::kMaxProfiles);
+  configuration.Profiles[0] = core::DefaultProfile();
   return configuration;
 }
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <functional>
 #include <memory>
 
 #include "base/text.h"
@@ -12,8 +11,13 @@
 namespace platform {
 namespace {
 
+// The same for all spellings of a name: letters beyond ASCII are left out.
 std::uint32_t HashOf(std::string_view name) {
-  return static_cast<std::uint32_t>(std::hash<std::string>()(base::FoldCase(name)));
+  std::uint32_t hash = 2166136261;
+  for (const char c : name)
+    if (c > 0)
+      hash = (hash ^ static_cast<std::uint32_t>(c >= 'A' && c <= 'Z' ? c + 32 : c)) * 16777619;
+  return hash;
 }
 
 }  // namespace
