@@ -6,6 +6,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 # A report of the sanitizers names lines, also where the compiler's own tool for that is missing.
 export ASAN_OPTIONS=allow_addr2line=1
+# Its full time is for a run by itself.
+export SOAK_SECONDS=10
 tools/install.sh build test display fuzz
 for preset in sanitize release; do
     cmake --preset "$preset" -DBUILD_TESTING=ON
