@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iostream>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,17 @@ std::vector<Game> GeneratedGames(int count) {
   for (int i = 1; i <= count; ++i) {
     const std::string number = std::to_string(1000 + i).substr(1);
     games.push_back({"gen" + number, "Generated Game " + number});
+  }
+  return games;
+}
+
+std::vector<Game> NamedGames(const std::string& names) {
+  std::vector<Game> games;
+  std::istringstream stream(names);
+  for (std::string name; stream >> name;) {
+    auto& game = games.emplace_back(Game{name, name});
+    for (char& c : game.title)
+      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
   }
   return games;
 }
@@ -79,6 +91,8 @@ Mode ReadMode() {
   for (const std::string& line : ReadLines("standin.mode", 4096)) {
     if (const KeyValue set = SplitKeyValue(line); set.key == "version") {
       mode.version = set.value;
+    } else if (set.key == "games") {
+      mode.games = set.value;
     } else if (!line.empty()) {
       mode.fault = line;
     }
@@ -88,13 +102,18 @@ Mode ReadMode() {
 
 int PrintGames(const Mode& mode) {
   const std::string& fault = mode.fault;
-  if (fault.empty() || fault == "nobanner" || fault == "noseparator") {
+  if (!mode.games.empty()) {
+    PrintListing(mode, NamedGames(mode.games));
+  } else if (fault.empty() || fault == "nobanner" || fault == "noseparator") {
     PrintListing(mode, Games());
   } else if (fault == "oneline") {
     std::cout << Banner(mode);
   } else if (fault == "flood") {
     PrintNoise();
     PrintListing(mode, Games());
+  } else if (fault == "deluge") {
+    const std::string megabyte(1U << 20U, '.');
+    for (int i = 0; i < 20; ++i) std::cout << megabyte;
   } else if (fault == "binary") {
     PrintRandomBytes();
   } else if (fault == "games300") {

@@ -7,10 +7,25 @@
 
 #include "listing.h"
 #include "play.h"
+#include "text.h"
 
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
+#include <windows.h>
+
+// What the code page lacks is in the wide command line only.
+static std::vector<std::string> Arguments(int, char**) {
+  int count = 0;
+  const auto* const* const words = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> arguments;
+  for (int i = 1; i < count; ++i) arguments.push_back(standin::ToText(words[i]));
+  return arguments;
+}
+#else
+static std::vector<std::string> Arguments(int count, char** words) {
+  return {words + 1, words + count};
+}
 #endif
 
 int main(int argc, char** argv) {
@@ -18,7 +33,7 @@ int main(int argc, char** argv) {
   // The listing brings its own CR LF.
   _setmode(_fileno(stdout), _O_BINARY);
 #endif
-  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  const auto arguments = Arguments(argc, argv);
   if (arguments.empty()) {
     std::cerr << "Usage: Kestrivane -print-games | ARCHIVE [-input-system=NAME]\n";
     return 2;

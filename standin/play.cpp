@@ -89,7 +89,7 @@ std::string LogHeader(const std::vector<std::string>& arguments, const CommandLi
          << "Command line: Kestrivane";
   for (const std::string& argument : arguments) header << ' ' << std::quoted(argument);
   header << "\r\n"
-         << "Folder: " << fs::current_path().string() << "\r\n"
+         << "Folder: " << ToText(fs::current_path()) << "\r\n"
          << "Archive: " << command.archive << "\r\n"
          << "----------------------------------------\r\n";
   return header.str();
@@ -109,14 +109,14 @@ int Play(const std::vector<std::string>& arguments, const std::string& version) 
     WriteLog(log + "Error: unknown argument " + command.unknown + "\r\n");
     return 1;
   }
-  const fs::path archive = command.archive;
+  const fs::path archive = ToPath(command.archive);
   if (!fs::is_regular_file(archive, error)) {
     WriteLog(log + "Error: there is no archive " + command.archive + "\r\n");
     return 1;
   }
 
   log += "Input system: " + command.input_system + "\r\n";
-  for (const Option& option : OptionsInForce(archive.stem().string())) {
+  for (const Option& option : OptionsInForce(ToText(archive.stem()))) {
     log += option.name + " = " + option.value + "\r\n";
   }
 

@@ -22,6 +22,15 @@ bool SameName(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, Lower, Lower);
 }
 
+std::string ToText(const std::filesystem::path& path) {
+  const auto text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::filesystem::path ToPath(std::string_view text) {
+  return std::u8string(text.begin(), text.end());
+}
+
 std::vector<std::string> ReadLines(const std::filesystem::path& file, std::size_t limit) {
   std::ifstream in(file, std::ios::binary);
   std::string text(limit, '\0');

@@ -13,6 +13,10 @@ std::string_view Trim(std::string_view text);
 // Whether two texts are the same but for the case of ASCII letters.
 bool SameName(std::string_view a, std::string_view b);
 
+// A path as UTF-8 and back, whatever the system's own texts are.
+std::string ToText(const std::filesystem::path& path);
+std::filesystem::path ToPath(std::string_view text);
+
 // At most limit bytes of the file's text, cut into trimmed lines; none if it can't be read.
 std::vector<std::string> ReadLines(const std::filesystem::path& file, std::size_t limit);
 

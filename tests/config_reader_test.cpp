@@ -1,7 +1,5 @@
 #include "config/config_reader.h"
 
-#include <sys/stat.h>
-
 #include "base/text.h"
 #include "startup/startup.h"
 #include "support/state_text.h"
@@ -80,10 +78,11 @@ TEST_F(ConfigReader, WithoutAReadableFileTheDefaultBindingsHold) {
     startup::FillSharedState();
     std::filesystem::remove_all(path("Config"));
     write("Config/Kestrivane.ini", "Vsync = 0\r\n");
-    std::filesystem::permissions(file, std::filesystem::perms(0));
+    if (support::kPosix) std::filesystem::permissions(file, std::filesystem::perms(0));
     if (what != "unreadable") std::filesystem::remove(file);
     if (what == "a folder") std::filesystem::create_directory(file);
-    if (what == "a pipe") mkfifo(file.c_str(), 0666);
+    if (what == "a pipe" && !support::MakePipe(file)) continue;
+    if (what == "unreadable" && !support::kPosix) continue;
     const support::Unprivileged user;
     Adopt(LoadConfigFile(AppFolder));
     const auto state = support::StateText();

@@ -66,8 +66,10 @@ TEST_F(GameCatalogue, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
   addGames("a");
   write("roms/a.zip", "");
   write("error.log", "");
-  const support::Unprivileged user(AppFolder);
-  EXPECT_FALSE(load());
+  {
+    const support::Unprivileged user(path(""));
+    EXPECT_FALSE(load());
+  }
   EXPECT_TRUE(GameCatalog[0].Available);
 }
 

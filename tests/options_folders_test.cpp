@@ -27,7 +27,7 @@ class OptionsFolders : public support::OptionsTest {
 TEST_F(OptionsFolders, ThreeFoldersCanBeAddedAndRemoved) {
   startWith(";SNAPpaths=/s/<b>one*/s/2*/s/3|");
   write(".hidden/b.zip", "");
-  const auto hidden = AppFolder + "/.hidden";
+  const auto hidden = AppFolder + support::kSeparator + ".hidden";
   options([&](QWidget& window) {
     page(window, 4);
     EXPECT_EQ(folders(window, 1), "/s/<b>one*|/s/2|/s/3|");
@@ -56,10 +56,13 @@ TEST_F(OptionsFolders, ThreeFoldersCanBeAddedAndRemoved) {
 
 TEST_F(OptionsFolders, TreeOffersWhatCanBeSavedAndOpensOneFolderAtATime) {
   startWith("");
-  for (const auto* folder : {"not text \xFF", "two\r\nlines", "back\\slash", "two*folders",
-                             "quo\"ted", "deep/er", "日本 é"})
-    write(std::string(folder) + "/b.zip", "");
-  std::filesystem::create_symlink(".", path("deep/loop"));
+  for (const auto* folder : {"deep/er", "日本 é"}) write(std::string(folder) + "/b.zip", "");
+  if (support::kPosix) {
+    for (const auto* folder :
+         {"not text \xFF", "two\r\nlines", "back\\slash", "two*folders", "quo\"ted"})
+      write(std::string(folder) + "/b.zip", "");
+    std::filesystem::create_symlink(".", path("deep/loop"));
+  }
   options([&](QWidget& window) {
     page(window, 4);
     auto& tree = get<QTreeWidget>(window, "Dir1");
@@ -74,6 +77,7 @@ TEST_F(OptionsFolders, TreeOffersWhatCanBeSavedAndOpensOneFolderAtATime) {
 }
 
 TEST_F(OptionsFolders, DeepFoldersAreReachedByKeysAndSeen) {
+  if (!support::kPosix) GTEST_SKIP() << "names with < can't be made";
   std::string deep = "d0";
   for (int level = 1; level < 24; ++level) deep += "/d" + std::to_string(level) + " of <b>many";
   write(deep + "/f.fs", "");
@@ -109,12 +113,13 @@ TEST_F(OptionsFolders, DeepFoldersAreReachedByKeysAndSeen) {
 }
 
 TEST_F(OptionsFolders, DriveIsTheInnermostOneAndCanBeChanged) {
-  const std::string home = getenv("HOME");
+  if (!support::kPosix) GTEST_SKIP() << "no environment moves the folder of a user there";
+  const auto home = qgetenv("HOME");
   const auto parent = std::filesystem::path(AppFolder).parent_path().string();
   const auto alike = AppFolder.substr(0, AppFolder.rfind(' '));
   startWith("");
   for (const auto& drive : {parent, alike}) {
-    setenv("HOME", drive.c_str(), 1);
+    qputenv("HOME", drive.c_str());
     options([&](QWidget& window) {
       page(window, 4);
       auto& drives = get<QComboBox>(window, "Drive1");
@@ -129,16 +134,17 @@ TEST_F(OptionsFolders, DriveIsTheInnermostOneAndCanBeChanged) {
       }
     });
   }
-  setenv("HOME", home.c_str(), 1);
+  qputenv("HOME", home);
 }
 
 TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
   startWith(";ROMpaths=/r|");
-  for (const auto* name :
-       {"shaders/b.fs", "shaders/.A.fs", "empty/nothing/x", "shaders/.not text \xFF.fs",
-        "shaders/a=b.fs", "shaders/a;b.fs", "shaders/a[ b.fs", "shaders/my kestrivane ui®.fs"})
+  for (const auto* name : {"shaders/b.fs", "shaders/.A.fs", "empty/nothing/x", "shaders/a=b.fs",
+                           "shaders/a;b.fs", "shaders/a[ b.fs", "shaders/my kestrivane ui®.fs"})
     write(name, "");
-  options([](QWidget& window) {
+  if (support::kPosix) write("shaders/.not text \xFF.fs", "");
+  const auto shaders = AppFolder + support::kSeparator + "shaders";
+  options([&](QWidget& window) {
     page(window, 4);
     goTo(window, "empty");
     get<QListWidget>(window, "lstFolders(0)").clearSelection();
@@ -167,18 +173,17 @@ TEST_F(OptionsFolders, ChoosingAShaderLocksThePage) {
     for (int row = 0; row < files.count(); ++row)
       choices += (files.item(row)->flags() == Qt::NoItemFlags ? "-" : "") +
                  files.item(row)->text().toStdString() + "|";
-    EXPECT_EQ(
-        choices,
-        ".A.fs|-.not text \xEF\xBF\xBD.fs|-a;b.fs|-a=b.fs|-a[ b.fs|b.fs|-my kestrivane ui®.fs|");
-    clickRow(files, 2, true);
+    const std::string odd = support::kPosix ? "-.not text \xEF\xBF\xBD.fs|" : "";
+    EXPECT_EQ(choices, ".A.fs|" + odd + "-a;b.fs|-a=b.fs|-a[ b.fs|b.fs|-my kestrivane ui®.fs|");
+    clickRow(files, files.count() - 5, true);
     EXPECT_EQ(folders(window, 3), "<-- Select the Shader file with double clic|");
-    clickRow(files, 5, true);
-    EXPECT_EQ(folders(window, 3), AppFolder + "/shaders\\b.fs*|");
+    clickRow(files, files.count() - 2, true);
+    EXPECT_EQ(folders(window, 3), shaders + "\\b.fs*|");
     EXPECT_EQ(get(window, "lstFolders(3)").palette(), plain);
     EXPECT_EQ(enabled(window, "cmdAddPath"), "11101");
     save(window);
   });
-  EXPECT_EQ(saved(), "FragmentShader = \"" + AppFolder + "/shaders\\b.fs\"|;ROMpaths=/r|");
+  EXPECT_EQ(saved(), "FragmentShader = \"" + shaders + "\\b.fs\"|;ROMpaths=/r|");
   options([](QWidget& window) {
     page(window, 4);
     press(window, "cmdAddPath(4)");

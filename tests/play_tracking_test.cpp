@@ -41,11 +41,11 @@ TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
   countPlay("a;b", 30);
   EXPECT_EQ(row(0) + settings(), ",,");
   countPlay("a", 21);
-  countPlay("A", 30);
   countPlay("a", 79);
   EXPECT_EQ(row(0), "a,2,100");
-  EXPECT_EQ(row(1), "A,1,30") << "names mind case";
   EXPECT_NE(settings().find("a=\"2,100\""), std::string::npos);
+  countPlay("A", 30);
+  EXPECT_EQ(row(1), "A,1,30") << "names mind case";
 }
 
 TEST_F(PlayTracking, OddRowsOfThePlayLogSurvive) {
@@ -104,7 +104,7 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
     EXPECT_TRUE(ErrorText.ends_with("x\r\n...")) << "a long report is cut";
   }
   write("error.log", "a report that would be one");
-  const support::Unprivileged user(Module1::AppFolder);
+  const support::Unprivileged user(path(""));
   EXPECT_FALSE(ReadErrorLog()) << "can't be deleted";
 }
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for the tasks named: build, demo, display, test,
-# fuzz, tidy, spoken, contrast, bench. Where nothing can be installed it names them in one line, and fails.
+# windows (the logic's tests under wine), qt-windows, fuzz, tidy, spoken, contrast, bench. Where
+# nothing can be installed it names them in one line, and fails.
 set -euo pipefail
 
 declare -A packages=(
@@ -8,6 +9,8 @@ declare -A packages=(
     [demo]="fonts-dejavu-core imagemagick"
     [display]="xvfb openbox xdotool procps"
     [test]="fonts-dejavu-core libgtest-dev"
+    [windows]="g++-mingw-w64-x86-64-posix googletest locales wine wine64"
+    [qt-windows]="dpkg-dev qt6-base-dev"
     [fuzz]="clang libclang-rt-dev"
     [tidy]="clang clang-tidy"
     [spoken]="orca python3-speechd at-spi2-core dbus"

@@ -2,9 +2,13 @@
 # the toolkit. All goes into one folder, the emulator's, where other files of these kinds may be.
 function(install_program) # options of each installation
   install(TARGETS KestrivaneUI RUNTIME DESTINATION . ${ARGN})
-  install(FILES assets/KestrivaneUI.txt DESTINATION . ${ARGN})
   install(FILES LICENSE DESTINATION . RENAME KestrivaneUI-LICENSE.txt ${ARGN})
-  if(NOT WIN32)
+  if(WIN32)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/KestrivaneUI.txt" DESTINATION . ${ARGN})
+    install(FILES "${QT_FOR_WINDOWS}/licences.txt" DESTINATION .
+      RENAME KestrivaneUI-LICENSE-Qt.txt ${ARGN})
+  else()
+    install(FILES assets/KestrivaneUI.txt DESTINATION . ${ARGN})
     install(PROGRAMS assets/KestrivaneUI-menu.sh DESTINATION . ${ARGN})
     install(FILES assets/kestrivane-ui.desktop DESTINATION . ${ARGN})
     install(FILES assets/icon.png DESTINATION . RENAME kestrivane-ui.png ${ARGN})
@@ -36,6 +40,11 @@ if(CMAKE_SYSTEM_NAME STREQUAL Linux)
 endif()
 
 set(CPACK_GENERATOR TGZ)
+if(WIN32)
+  configure_file(assets/KestrivaneUI-windows.txt KestrivaneUI.txt @ONLY NEWLINE_STYLE CRLF)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_ARCHIVE_PROGRAM_FILE_NAME KestrivaneUI-${PROJECT_VERSION}-windows)
+endif()
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)

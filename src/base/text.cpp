@@ -78,8 +78,9 @@ std::vector<std::string> SortedIgnoringCase(std::vector<std::string> texts) {
 }
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted) {
-  const auto* const at = std::search(text.begin(), text.end(), wanted.begin(), wanted.end(),
-                                     [](char a, char b) { return Lower(a) == Lower(b); });
+  const std::string_view::const_iterator at =
+      std::search(text.begin(), text.end(), wanted.begin(), wanted.end(),
+                  [](char a, char b) { return Lower(a) == Lower(b); });
   if (at == text.end() && !wanted.empty()) return std::string_view::npos;
   return static_cast<std::size_t>(at - text.begin());
 }

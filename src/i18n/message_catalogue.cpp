@@ -172,7 +172,8 @@ constexpr auto kMessages = std::to_array<Row>({
 }  // namespace
 
 std::string Msg(Message message) {
-  const auto* const row = std::ranges::lower_bound(kMessages, message, {}, &Row::message);
+  const decltype(kMessages)::const_iterator row =
+      std::ranges::lower_bound(kMessages, message, {}, &Row::message);
   if (row == kMessages.end() || row->message != message) return {};
   const auto language = Module1::CurrentLanguage;
   return std::string(row->texts[language < row->texts.size() ? language : 0]);

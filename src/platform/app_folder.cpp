@@ -7,9 +7,9 @@
 #include "base/failure.h"
 
 #ifdef _WIN32
-#include <windows.h>
-
 #include <array>
+
+#include "platform/system_windows.h"
 #endif
 
 namespace platform {

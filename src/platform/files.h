@@ -14,6 +14,9 @@ namespace platform {
 // The path of what has this name in a folder, with one separator between them.
 std::string Joined(std::string_view folder, std::string_view name);
 
+// Whether the path is this folder or leads into it, as the system compares names. Asks no disk.
+bool IsWithin(std::string_view path, std::string_view folder);
+
 // The path in the system's spelling; components that don't exist stay as given.
 std::string SystemPath(std::string_view path);
 

@@ -42,6 +42,12 @@ std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const
 
 }  // namespace
 
+bool IsWithin(std::string_view path, std::string_view folder) {
+  if (!path.starts_with(folder)) return false;
+  const auto rest = path.substr(folder.size());
+  return rest.empty() || rest.front() == '/' || folder.ends_with('/');
+}
+
 std::string SystemPath(std::string_view path) { return Find(path).path; }
 
 bool IsFile(std::string_view path) { return Find(path).kind == FoundPath::Kind::file; }

@@ -1,155 +1,238 @@
-#include <windows.h>
-
 #include <algorithm>
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <system_error>
-#include <utility>
+#include <chrono>
 
 #include "base/failure.h"
 #include "base/text.h"
-
-// The system's headers rename this one to suit their character set.
-#undef DeleteFile
+#include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/system_windows.h"
 
 namespace platform {
 namespace {
 
-namespace fs = std::filesystem;
+constexpr DWORD kEveryone = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-fs::path ToPath(std::string_view path) {
-  return fs::path(std::u8string(path.begin(), path.end()), fs::path::native_format)
-      .make_preferred();
+// Those of what a link leads to; INVALID_FILE_ATTRIBUTES if there is nothing of that name.
+DWORD Attributes(const std::wstring& name) {
+  const DWORD attributes = GetFileAttributesW(name.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT))
+    return attributes;
+  const Handle target(CreateFileW(name.c_str(), 0, kEveryone, nullptr, OPEN_EXISTING,
+                                  FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  BY_HANDLE_FILE_INFORMATION found{};
+  return target && GetFileInformationByHandle(target.get(), &found) ? found.dwFileAttributes
+                                                                    : INVALID_FILE_ATTRIBUTES;
 }
 
-std::string ToText(const fs::path& path) {
-  const auto text = path.u8string();
-  return {text.begin(), text.end()};
+bool IsFileKind(DWORD attributes) {
+  return attributes != INVALID_FILE_ATTRIBUTES &&
+         !(attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE));
 }
 
-void Check(bool success) {
-  if (!success)
-    throw base::Failure(std::system_category().message(static_cast<int>(GetLastError())));
+bool IsFolderKind(DWORD attributes) {
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-// The folder's names of regular files or of folders, sorted ignoring case.
-std::vector<std::string> NamesIn(std::string_view folder, fs::file_type wanted) {
+std::vector<std::string> NamesIn(std::string_view folder, bool (*wanted)(DWORD attributes)) {
+  auto start = FullName(folder);
+  if (!start.ends_with(L'\\')) start += L'\\';
+  WIN32_FIND_DATAW entry{};
+  const HANDLE search = FindFirstFileExW((start + L'*').c_str(), FindExInfoBasic, &entry,
+                                         FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+  Check(search != INVALID_HANDLE_VALUE);
   std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(ToPath(folder))) {
-    std::error_code unreadable;
-    if (entry.status(unreadable).type() == wanted) names.push_back(ToText(entry.path().filename()));
-  }
+  do {
+    const std::wstring_view wide = entry.cFileName;
+    if (wide == L"." || wide == L"..") continue;
+    const DWORD attributes = entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT
+                                 ? Attributes(start + entry.cFileName)
+                                 : entry.dwFileAttributes;
+    auto name = FromWide(wide);
+    if (wanted(attributes) && !name.empty()) names.push_back(std::move(name));
+  } while (FindNextFileW(search, &entry));
+  FindClose(search);
   return base::SortedIgnoringCase(std::move(names));
 }
 
-// A file that is there keeps its content when it is opened. One that is not is gone again unless
-// its writing came to an end.
-class FileToWrite {
- public:
-  explicit FileToWrite(fs::path path)
-      : path_(std::move(path)),
-        handle_(CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_ALWAYS,
-                            FILE_ATTRIBUTE_NORMAL, nullptr)) {
-    Check(handle_ != INVALID_HANDLE_VALUE);
-    keep_ = GetLastError() == ERROR_ALREADY_EXISTS;
+// Repeats for at most a second what another program is in the way of, which `error` tells.
+template <class Call>
+bool Patiently(DWORD error, const Call& call) {
+  constexpr int kTries = 200;
+  constexpr std::chrono::milliseconds kPause(5);
+  for (int tries = 1;; ++tries) {
+    if (call()) return true;
+    if (GetLastError() != error || tries == kTries) return false;
+    TheClock().sleep(kPause);
   }
-  ~FileToWrite() {
-    CloseHandle(handle_);
-    if (!keep_) DeleteFileW(path_.c_str());
-  }
-  FileToWrite(const FileToWrite&) = delete;
-  FileToWrite& operator=(const FileToWrite&) = delete;
+}
 
-  void keep() { keep_ = true; }
-  long long size() const {
-    LARGE_INTEGER size{};
-    Check(GetFileSizeEx(handle_, &size) != 0);
-    return size.QuadPart;
+HANDLE Open(const std::wstring& name, DWORD access, DWORD others, DWORD existence) {
+  HANDLE handle = INVALID_HANDLE_VALUE;
+  // A search for viruses or an index may hold the file for a moment.
+  Check(Patiently(ERROR_SHARING_VIOLATION, [&] {
+    handle = CreateFileW(name.c_str(), access, others, nullptr, existence, FILE_ATTRIBUTE_NORMAL,
+                         nullptr);
+    return handle != INVALID_HANDLE_VALUE;
+  }));
+  return handle;
+}
+
+// Two front-ends that save at once must not mix their texts, nor one read what the other has half
+// written. The byte that they lock lies far behind the end of every file: the system keeps everyone
+// from what is locked, and the emulator reads whenever it likes.
+class Lock {
+ public:
+  Lock(HANDLE file, DWORD kind) : file_(file) {
+    const bool known = Patiently(ERROR_LOCK_VIOLATION, [&] {
+      locked_ = LockFileEx(file_, kind | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place_) != 0;
+      return locked_;
+    });
+    // Some file systems know no locks.
+    Check(known || GetLastError() != ERROR_LOCK_VIOLATION);
   }
-  // Cuts the file, or makes room on the disk. The next byte is written at the file's start.
-  void setSize(long long size) {
-    moveTo(size);
-    Check(SetEndOfFile(handle_) != 0);
-    moveTo(0);
+  ~Lock() {
+    if (locked_) UnlockFileEx(file_, 0, 1, 0, &place_);
   }
-  void write(std::string_view bytes) {
-    while (!bytes.empty()) {
-      const auto part = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 20U));
-      DWORD done = 0;
-      Check(WriteFile(handle_, bytes.data(), part, &done, nullptr) != 0 && done > 0);
-      bytes.remove_prefix(done);
-    }
-  }
+  Lock(const Lock&) = delete;
+  Lock& operator=(const Lock&) = delete;
 
  private:
-  void moveTo(long long position) {
-    LARGE_INTEGER distance{};
-    distance.QuadPart = position;
-    Check(SetFilePointerEx(handle_, distance, nullptr, FILE_BEGIN) != 0);
-  }
-
-  fs::path path_;
-  HANDLE handle_;
-  bool keep_ = false;
+  HANDLE file_;
+  OVERLAPPED place_ = [] {
+    OVERLAPPED place{};
+    place.Offset = 0xFFFFFFFE;
+    place.OffsetHigh = 0x7FFFFFFF;
+    return place;
+  }();
+  bool locked_ = false;
 };
+
+long long SizeOf(HANDLE file) {
+  LARGE_INTEGER size{};
+  Check(GetFileSizeEx(file, &size) != 0);
+  return size.QuadPart;
+}
+
+bool MoveTo(HANDLE file, long long position) {
+  LARGE_INTEGER distance{};
+  distance.QuadPart = position;
+  return SetFilePointerEx(file, distance, nullptr, FILE_BEGIN);
+}
+
+bool Cut(HANDLE file, long long size) { return MoveTo(file, size) && SetEndOfFile(file); }
+
+// Reserves room on the disk without a change of the file's length; false if there is none. What a
+// file system can't reserve shows when it is written.
+bool Reserve(HANDLE file, long long size) {
+  FILE_ALLOCATION_INFO room{};
+  room.AllocationSize.QuadPart = size;
+  return SetFileInformationByHandle(file, FileAllocationInfo, &room, sizeof room) ||
+         GetLastError() != ERROR_DISK_FULL;
+}
+
+bool Write(HANDLE file, std::string_view bytes) {
+  if (!MoveTo(file, 0)) return false;
+  while (!bytes.empty()) {
+    const auto part = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30U));
+    DWORD done = 0;
+    if (!WriteFile(file, bytes.data(), part, &done, nullptr)) return false;
+    bytes.remove_prefix(done);
+  }
+  return true;
+}
+
+// At most `most` bytes from this place on.
+std::string Read(HANDLE file, long long from, std::size_t most) {
+  Check(MoveTo(file, from));
+  std::string bytes(most, '\0');
+  std::size_t done = 0;
+  for (DWORD count = 1; count > 0 && done < most; done += count) {
+    const auto part = static_cast<DWORD>(std::min<std::size_t>(most - done, 1U << 30U));
+    Check(ReadFile(file, bytes.data() + done, part, &count, nullptr));
+  }
+  bytes.resize(done);
+  return bytes;
+}
 
 }  // namespace
 
-std::string SystemPath(std::string_view path) { return ToText(ToPath(path)); }
-
-bool IsFile(std::string_view path) {
-  std::error_code unreadable;
-  return fs::is_regular_file(ToPath(path), unreadable);
+std::string SystemPath(std::string_view path) {
+  std::string text(path);
+  std::replace(text.begin(), text.end(), '/', '\\');
+  return text;
 }
 
-bool IsFolder(std::string_view path) {
-  std::error_code unreadable;
-  return fs::is_directory(ToPath(path), unreadable);
+bool IsWithin(std::string_view path, std::string_view folder) {
+  const auto inner = base::FoldCase(SystemPath(path));
+  const auto outer = base::FoldCase(SystemPath(folder));
+  if (!inner.starts_with(outer)) return false;
+  return inner.size() == outer.size() || inner[outer.size()] == '\\' || outer.ends_with('\\');
 }
+
+bool IsFile(std::string_view path) { return IsFileKind(Attributes(FullName(path))); }
+
+bool IsFolder(std::string_view path) { return IsFolderKind(Attributes(FullName(path))); }
 
 std::vector<std::string> SubfolderNames(std::string_view folder) {
-  return NamesIn(folder, fs::file_type::directory);
+  return NamesIn(folder, IsFolderKind);
 }
 
-std::vector<std::string> FileNames(std::string_view folder) {
-  return NamesIn(folder, fs::file_type::regular);
+std::vector<std::string> FileNames(std::string_view folder) { return NamesIn(folder, IsFileKind); }
+
+void MakeFolder(std::string_view path) {
+  Check(CreateDirectoryW(FullName(path).c_str(), nullptr) != 0);
 }
 
-void MakeFolder(std::string_view path) { fs::create_directory(ToPath(path)); }
-
-void DeleteFile(std::string_view path) { Check(DeleteFileW(ToPath(path).c_str()) != 0); }
+void DeleteFile(std::string_view path) { Check(DeleteFileW(FullName(path).c_str()) != 0); }
 
 std::string ReadBytes(std::string_view path, long long most) {
-  if (!IsFile(path)) throw base::Failure("not a regular file");
-  if (fs::file_size(ToPath(path)) > static_cast<std::uintmax_t>(most))
-    throw base::Failure("file too large");
-  std::ifstream file;
-  file.exceptions(std::ios::badbit | std::ios::failbit);
-  file.open(ToPath(path), std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  const Handle file(Open(FullName(path), GENERIC_READ, kEveryone, OPEN_EXISTING));
+  const Lock lock(file.get(), 0);
+  const auto size = SizeOf(file.get());
+  if (size > most) throw base::Failure("file too large");
+  auto bytes = Read(file.get(), 0, static_cast<std::size_t>(size));
+  if (static_cast<long long>(bytes.size()) < size)
+    throw base::Failure("the file was cut while it was read");
+  return bytes;
 }
 
 void ReadPieces(std::string_view path, std::size_t most,
                 const std::function<bool(std::string_view piece)>& takesMore) {
-  if (!IsFile(path)) throw base::Failure("not a regular file");
-  std::ifstream file(ToPath(path), std::ios::binary);
-  std::string bytes(most, '\0');
-  do {
-    file.read(bytes.data(), static_cast<std::streamsize>(most));
-  } while (file.gcount() > 0 && takesMore({bytes.data(), static_cast<std::size_t>(file.gcount())}));
+  const Handle file(Open(FullName(path), GENERIC_READ, kEveryone, OPEN_EXISTING));
+  for (long long from = 0;; from += static_cast<long long>(most)) {
+    const auto piece = Read(file.get(), from, most);
+    if (piece.empty() || !takesMore(piece)) return;
+  }
 }
 
 void WriteBytes(std::string_view path, std::string_view bytes) {
-  FileToWrite file(ToPath(path));
+  const auto name = FullName(path);
+  Handle file(
+      Open(name, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_ALWAYS));
+  const bool isNew = GetLastError() != ERROR_ALREADY_EXISTS;
+  const Lock lock(file.get(), LOCKFILE_EXCLUSIVE_LOCK);
+  const auto oldSize = SizeOf(file.get());
   const auto size = static_cast<long long>(bytes.size());
-  // Room first, and only then the bytes: a full disk must not cost the old content.
-  if (size > file.size()) file.setSize(size);
-  file.write(bytes);
-  file.setSize(size);
-  file.keep();
+  const auto oldBytes = Read(file.get(), 0, static_cast<std::size_t>(oldSize));
+
+  // Until the file is cut, empty lines stand for the end of a longer old text: it can be read at
+  // any time, and comes to the disk before its length does.
+  std::string text(bytes);
+  while (text.size() < oldBytes.size()) text += text.ends_with('\r') ? '\n' : '\r';
+  if (!Reserve(file.get(), static_cast<long long>(text.size())) || !Write(file.get(), text) ||
+      !FlushFileBuffers(file.get())) {
+    const auto error = GetLastError();
+    Write(file.get(), oldBytes);
+    Cut(file.get(), oldSize);
+    if (isNew && oldSize == 0) {
+      file.close();
+      DeleteFileW(name.c_str());
+    }
+    SetLastError(error);
+    Check(false);
+  }
+  if (size >= oldSize) return;
+  Check(Cut(file.get(), size) && FlushFileBuffers(file.get()));
 }
 
 }  // namespace platform

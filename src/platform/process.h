@@ -2,6 +2,7 @@
 // program. No shell sees it.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,6 +26,9 @@ std::optional<Command> FindCommand(std::string_view commandLine);
 // standard output, as text. Standard error is dropped. Our end is also the command's. Throws if it
 // can't be started.
 std::string CaptureOutput(std::string_view commandLine, bool showWindow);
+
+// How much of a command's output is kept, in bytes.
+inline constexpr std::size_t kMostOutput = 16U << 20U;
 
 inline constexpr int kStillActive = 259;
 

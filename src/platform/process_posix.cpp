@@ -20,7 +20,6 @@
 namespace platform {
 namespace {
 
-constexpr std::size_t kMostOutput = 16U << 20U;
 constexpr const char* kNothing = "/dev/null";
 
 bool IsForWindows(const std::string& program) {

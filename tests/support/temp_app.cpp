@@ -1,10 +1,8 @@
 #include "support/temp_app.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <utility>
 
 #include "base/quietly.h"
@@ -12,43 +10,34 @@
 #include "platform/app_folder.h"
 
 namespace support {
-namespace {
 
 namespace fs = std::filesystem;
 
+fs::path ToPath(std::string_view text) { return std::u8string(text.begin(), text.end()); }
+
+std::string ToText(const fs::path& path) {
+  const auto text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 fs::path NewFolder() {
-  std::string name = (fs::temp_directory_path() / "kestrivane-test-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  fs::permissions(name, fs::perms(0755));
-  return name;
+  std::random_device random;
+  fs::path folder;
+  do folder = fs::temp_directory_path() / ("kestrivane-test-" + std::to_string(random()));
+  while (!fs::create_directory(folder));
+  return folder;
 }
-
-// The toolkit remembers where its settings are, so that the place is the same for the whole run.
-struct SettingsFolder : testing::Environment {
-  void SetUp() override { setenv("XDG_CONFIG_HOME", (folder = NewFolder()).c_str(), 1); }
-  void TearDown() override { fs::remove_all(folder); }
-  static inline fs::path folder;
-};
-
-const auto* const kSettingsFolder = testing::AddGlobalTestEnvironment(new SettingsFolder);
-
-std::string ReadFile(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
-}  // namespace
 
 TempApp::TempApp()
     : root_(NewFolder()),
       oldWorkingFolder_(fs::current_path()),
       oldProgramFolder_(platform::ProgramFolder()) {
-  Module1::AppFolder = (root_ / "Mis juegos é").string();
-  fs::create_directory(Module1::AppFolder);
+  Module1::AppFolder = ToText(root_ / ToPath("Mis juegos é"));
+  fs::create_directory(ToPath(Module1::AppFolder));
   platform::SetProgramFolder(Module1::AppFolder);
   platform::SetWorkingFolder(Module1::AppFolder);
   startup::FillSharedState();
-  fs::remove_all(settingsFile());
+  clearSettings();
   base::OnFault() = [](const std::string& what) {
     ADD_FAILURE() << "a fault, not a failure: " << what;
   };
@@ -58,7 +47,7 @@ TempApp::~TempApp() {
   base::OnFault() = nullptr;
   platform::SetProgramFolder(oldProgramFolder_);
   fs::current_path(oldWorkingFolder_);
-  fs::remove_all(root_);
+  RemoveAll(root_);
 }
 
 std::optional<i18n::Message> TempApp::load() {
@@ -68,18 +57,16 @@ std::optional<i18n::Message> TempApp::load() {
   return failure;
 }
 
-fs::path TempApp::path(std::string_view name) { return fs::path(Module1::AppFolder) / name; }
+fs::path TempApp::path(std::string_view name) { return ToPath(Module1::AppFolder) / ToPath(name); }
 
-std::string TempApp::read(std::string_view name) { return ReadFile(path(name)); }
+std::string TempApp::read(std::string_view name) {
+  std::ifstream in(path(name), std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
 
 void TempApp::write(std::string_view name, std::string_view bytes) {
   fs::create_directories(path(name).parent_path());
   std::ofstream(path(name), std::ios::binary) << bytes;
-}
-
-void TempApp::writeProgram(std::string_view name, std::string_view script) {
-  write(name, "#!/bin/sh\n" + std::string(script) + "\n");
-  fs::permissions(path(name), fs::perms(0755));
 }
 
 void TempApp::addEmulator(std::string_view fault) {
@@ -88,25 +75,6 @@ void TempApp::addEmulator(std::string_view fault) {
   write("standin.mode", fault);
 }
 
-void TempApp::addGames(std::string_view names) {
-  writeProgram("Kestrivane.exe",
-               "printf '%s\\r\\n' '-------         -----'; for game in " + std::string(names) +
-                   "; do printf '%-16s%s\\r\\n' $game $(echo $game | tr a-z A-Z); done");
-}
-
-fs::path TempApp::settingsFile() { return SettingsFolder::folder / "Kestrivane UI.conf"; }
-
-std::string TempApp::settings() { return ReadFile(settingsFile()); }
-
-Unprivileged::Unprivileged(fs::path locked) : locked_(std::move(locked)) {
-  constexpr uid_t kNobody = 65534;
-  if (!locked_.empty()) fs::permissions(locked_, fs::perms(0222), fs::perm_options::remove);
-  if (geteuid() == 0 && seteuid(kNobody) != 0) throw std::runtime_error("user can't be changed");
-}
-
-Unprivileged::~Unprivileged() {
-  if (seteuid(getuid()) != 0) std::abort();
-  if (!locked_.empty()) fs::permissions(locked_, fs::perms::owner_write, fs::perm_options::add);
-}
+void TempApp::addGames(std::string_view names) { addEmulator("games=" + std::string(names)); }
 
 }  // namespace support

@@ -3,12 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "startup/startup.h"
 
 namespace support {
+
+// UTF-8 to a path and back, whatever the system's own texts are.
+std::filesystem::path ToPath(std::string_view text);
+std::string ToText(const std::filesystem::path& path);
+
+// A new folder of a name that no other has.
+std::filesystem::path NewFolder();
 
 // A fresh AppFolder, whose path holds a blank and letters outside ASCII, as program and working
 // folder, with the shared state as at a program's start. The settings store is a file of the
@@ -26,14 +35,17 @@ class TempApp : public testing::Test {
   static bool exists(std::string_view name) { return std::filesystem::exists(path(name)); }
   static std::string read(std::string_view name);
   static void write(std::string_view name, std::string_view bytes);
+  // On POSIX systems only.
   static void writeProgram(std::string_view name, std::string_view script);
+  static std::filesystem::path settingsFile();
 
   // The stand-in emulator, and how it is to misbehave.
   static void addEmulator(std::string_view fault = {});
   // An emulator that lists games of these names; the titles are the names in capitals.
   static void addGames(std::string_view names);
 
-  static std::filesystem::path settingsFile();
+  static void clearSettings();
+  // Lines such as "name=value"; a value with a comma stands in quotes.
   static std::string settings();
 
  private:
@@ -41,17 +53,33 @@ class TempApp : public testing::Test {
   std::string oldProgramFolder_;
 };
 
+// Also what other functions find too long.
+void RemoveAll(const std::filesystem::path& folder);
+
+// Whether the system has scripts, links, and files that some can't read.
+#ifdef _WIN32
+inline constexpr bool kPosix = false;
+#else
+inline constexpr bool kPosix = true;
+#endif
+inline constexpr const char* kSeparator = kPosix ? "/" : "\\";
+// False where the system has no such files.
+bool MakePipe(const std::filesystem::path& path);
+
+// Waits until a program that this one started has ended.
+void WaitForChild();
+
 // For its lifetime the rights of a plain user, also under root, and nobody may write to this file
-// or folder.
+// or folder. On Windows another program has the file, or all files in the folder, open.
 class Unprivileged {
  public:
-  explicit Unprivileged(std::filesystem::path locked = {});
-  ~Unprivileged();
+  explicit Unprivileged(const std::filesystem::path& locked = {});
+  ~Unprivileged() { undo_(); }
   Unprivileged(const Unprivileged&) = delete;
   Unprivileged& operator=(const Unprivileged&) = delete;
 
  private:
-  std::filesystem::path locked_;
+  std::function<void()> undo_;
 };
 
 }  // namespace support

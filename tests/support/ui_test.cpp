@@ -15,7 +15,7 @@ namespace {
 
 struct Toolkit : testing::Environment {
   void SetUp() override {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application = std::make_unique<forms::Application>();
   }
   void TearDown() override { application.reset(); }

@@ -14,7 +14,7 @@ namespace {
 std::vector<std::string> Drives() {
   std::vector<std::string> drives;
   const auto add = [&](const QString& path) {
-    auto text = path.toStdString();
+    auto text = QDir::toNativeSeparators(path).toStdString();
     if (std::find(drives.begin(), drives.end(), text) == drives.end())
       drives.push_back(std::move(text));
   };
@@ -25,9 +25,9 @@ std::vector<std::string> Drives() {
   return drives;
 }
 
-bool Holds(const std::string& drive, const std::string& folder) {
-  return folder == drive ||
-         folder.starts_with(drive.ends_with('/') || drive.ends_with('\\') ? drive : drive + "/");
+// The folder "\\machine\share" that a path on another machine is in.
+std::string ShareOf(const std::string& path) {
+  return path.substr(0, path.find('\\', path.find('\\', 2) + 1));
 }
 
 }  // namespace
@@ -51,9 +51,15 @@ DriveList::DriveList(Container& parent, const char* name, const Box& box,
 std::string DriveList::drive() const { return paths_.at(static_cast<std::size_t>(selectedRow())); }
 
 void DriveList::selectFor(const std::string& folder) {
+  const auto holds = [&](const std::string& drive) { return platform::IsWithin(folder, drive); };
+  if (folder.starts_with("\\\\") && std::none_of(paths_.begin(), paths_.end(), holds)) {
+    paths_.push_back(ShareOf(folder));
+    add(paths_.back());
+  }
   std::size_t best = 0;
   for (std::size_t row = 0; row < paths_.size(); ++row)
-    if (Holds(paths_[row], folder) && paths_[row].size() >= paths_[best].size()) best = row;
+    if (holds(paths_[row]) && (!holds(paths_[best]) || paths_[row].size() >= paths_[best].size()))
+      best = row;
   accepted_ = static_cast<int>(best);
   select(accepted_);
 }

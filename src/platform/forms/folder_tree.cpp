@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <QTreeWidget>
 #include <algorithm>
+#include <filesystem>
 
 #include "base/quietly.h"
 #include "platform/files.h"
@@ -24,7 +25,9 @@ std::string PathOf(const QTreeWidgetItem& item) {
 }
 
 std::string Joined(const std::string& folder, const std::string& name) {
-  return folder.ends_with('/') || folder.ends_with('\\') ? folder + name : folder + "/" + name;
+  constexpr auto kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
+  return folder.ends_with('/') || folder.ends_with(kSeparator) ? folder + name
+                                                               : folder + kSeparator + name;
 }
 
 QTreeWidgetItem* NewItem(const std::string& path, const std::string& name) {
@@ -114,8 +117,7 @@ QTreeWidget* Native(QWidget* widget) { return static_cast<QTreeWidget*>(widget);
 
 QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder) {
   for (int row = 0; row < item.childCount(); ++row) {
-    const auto path = PathOf(*item.child(row));
-    if (folder == path || folder.starts_with(path + "/")) return item.child(row);
+    if (platform::IsWithin(folder, PathOf(*item.child(row)))) return item.child(row);
   }
   return nullptr;
 }

@@ -205,6 +205,12 @@ void Form::prepareToShow() {
   native_->client->setFont(FormFont());
   for (auto* control : native_->window.findChildren<QWidget*>()) {
     control->ensurePolished();
+    if (control->testAttribute(Qt::WA_StyleSheet)) {
+      // One with a style of its own takes no family from the form.
+      auto font = control->font();
+      font.setFamily(FormFont().family());
+      control->setFont(font);
+    }
     control->fontMetrics().horizontalAdvance('x');
   }
 }

@@ -1,0 +1,106 @@
+#include <sys/stat.h>
+
+#include <chrono>
+#include <fstream>
+#include <thread>
+
+#include "config/user_settings.h"
+#include "core/module1.h"
+#include "platform/file_search.h"
+#include "platform/files.h"
+#include "support/temp_app.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+using Module1::AppFolder;
+
+class PosixFiles : public support::TempApp {};
+
+TEST_F(PosixFiles, AreFoundInAnySpelling) {
+  for (const auto* name : {"ROMs/Éclair One.ZIP", "ROMs/two.zip", "ROMs/TWO.zip"}) write(name, "");
+  fs::create_symlink("gone.zip", path("ROMs/link.zip"));
+  fs::create_directory_symlink(".", path("ROMs/loop"));
+  fs::create_directory(path("ROMs/folder.zip"));
+  const struct {
+    const char *name, *file;  // the latter empty: no such file
+  } rows[] = {{"\\roms\\éclair one.zip", "ROMs/Éclair One.ZIP"},
+              {"/roms\\two.zip", "ROMs/two.zip"},
+              {"\\roms\\TWO.zip", "ROMs/TWO.zip"},
+              {"\\roms\\\\two.zip", "ROMs/two.zip"},
+              {"\\roms\\LOOP\\loop\\two.zip", "ROMs/two.zip"},
+              {"\\roms\\link.zip", ""},
+              {"\\roms\\folder.zip", ""},
+              {"\\roms\\two.zip\\x", ""},
+              {"\\none\\two.zip", ""}};
+  for (const auto& [name, file] : rows) {
+    EXPECT_EQ(IsFile(AppFolder + name), *file != '\0') << name;
+    EXPECT_TRUE(!*file || fs::equivalent(SystemPath(AppFolder + name), path(file))) << name;
+  }
+  EXPECT_EQ(FirstFolderOfEach({"Two.zip", "link.zip", "folder.zip", "loop"},
+                              {AppFolder + "\\ROMS\\loop"}),
+            std::vector<std::size_t>({0, 1, 1, 1}));
+  // An exact spelling in a later folder is no better than another one in an earlier.
+  const std::vector<std::string> folders = {AppFolder + "\\none", AppFolder, AppFolder + "\\roms"};
+  write("TWO.ZIP", "");
+  write("Éclair one.zip", "");
+  fs::create_directory(path("three.zip"));
+  for (const auto* name : {"Three.ZIP", "ROMs/three.zip", "ROMs/FOUR.zip"}) write(name, "");
+  EXPECT_EQ(FirstFolderOfEach({"two.zip", "éclair one.zip", "Three.ZIP", "three.zip", "four.zip"},
+                              folders),
+            std::vector<std::size_t>({1, 1, 1, 2, 2}));
+  EXPECT_TRUE(IsFolder(AppFolder + "\\roms") && IsFolder(AppFolder + "\\roms\\"));
+  EXPECT_FALSE(IsFolder(AppFolder + "\\roms\\two.zip"));
+  EXPECT_TRUE(IsFile("roms\\two.zip")) << "relative to the working folder";
+  EXPECT_FALSE(IsFile(""));
+}
+
+TEST_F(PosixFiles, ThatHaveJustComeOrGoneAreSeen) {
+  fs::create_directory(path("ROMs"));
+  const auto name = AppFolder + "\\ROMS\\GAME.ZIP";
+  const auto now = fs::file_time_type::clock::now();
+  const auto rested = now - std::chrono::milliseconds(12345);
+  const auto coarse = std::chrono::floor<std::chrono::seconds>(now - std::chrono::seconds(1));
+  for (const auto& changed : {now, fs::file_time_type(coarse), rested}) {
+    fs::last_write_time(path("ROMs"), changed);
+    ASSERT_FALSE(IsFile(name));
+    write("ROMs/game.zip", "");
+    // A second change within one tick of the file system's clock leaves the folder's time alone.
+    if (changed != rested) fs::last_write_time(path("ROMs"), changed);
+    EXPECT_TRUE(IsFile(name));
+    fs::remove(path("ROMs/game.zip"));
+    EXPECT_FALSE(IsFile(name));
+  }
+}
+
+TEST_F(PosixFiles, APipeIsNeitherReadNorWaitedFor) {
+  mkfifo(path("pipe").c_str(), 0666);
+  EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));
+  EXPECT_ANY_THROW(ReadBytes(AppFolder + "\\pipe"));
+  EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
+}
+
+TEST_F(PosixFiles, ASettingsStoreThatAnotherProgramKeepsIsLeftToItself) {
+  const auto lock = settingsFile().string() + ".lock";
+  std::ofstream(lock) << "another";
+  config::SaveUserSettings();
+  EXPECT_EQ(settings(), "");
+  fs::remove(lock);
+  for (int tries = 0; settings().empty() && tries < 5000; ++tries)
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  EXPECT_NE(settings(), "");
+}
+
+TEST_F(PosixFiles, AreNotSeenInAWorkingFolderThatCantBeLookedInto) {
+  write("x.zip", "");
+  fs::permissions(AppFolder, fs::perms(0));
+  {
+    const support::Unprivileged user;
+    EXPECT_FALSE(IsFile("x.zip"));
+  }
+  fs::permissions(AppFolder, fs::perms(0755));
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,60 @@
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "support/temp_app.h"
+
+namespace support {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The toolkit remembers where its settings are, so that the place is the same for the whole run.
+struct SettingsFolder : testing::Environment {
+  void SetUp() override { setenv("XDG_CONFIG_HOME", (folder = NewFolder()).c_str(), 1); }
+  void TearDown() override { fs::remove_all(folder); }
+  static inline fs::path folder;
+};
+
+const auto* const kSettingsFolder = testing::AddGlobalTestEnvironment(new SettingsFolder);
+
+}  // namespace
+
+void TempApp::writeProgram(std::string_view name, std::string_view script) {
+  write(name, "#!/bin/sh\n" + std::string(script) + "\n");
+  fs::permissions(path(name), fs::perms(0755));
+}
+
+fs::path TempApp::settingsFile() { return SettingsFolder::folder / "Kestrivane UI.conf"; }
+
+void TempApp::clearSettings() { fs::remove_all(settingsFile()); }
+
+std::string TempApp::settings() {
+  std::ifstream in(settingsFile(), std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void RemoveAll(const fs::path& folder) { fs::remove_all(folder); }
+
+bool MakePipe(const fs::path& path) { return mkfifo(path.c_str(), 0666) == 0; }
+
+void WaitForChild() {
+  siginfo_t ended;
+  waitid(P_ALL, 0, &ended, WEXITED | WNOWAIT);
+}
+
+Unprivileged::Unprivileged(const fs::path& locked) {
+  constexpr uid_t kNobody = 65534;
+  if (!locked.empty()) fs::permissions(locked, fs::perms(0222), fs::perm_options::remove);
+  if (geteuid() == 0 && seteuid(kNobody) != 0) throw std::runtime_error("user can't be changed");
+  undo_ = [locked] {
+    if (seteuid(getuid()) != 0) std::abort();
+    if (!locked.empty()) fs::permissions(locked, fs::perms::owner_write, fs::perm_options::add);
+  };
+}
+
+}  // namespace support

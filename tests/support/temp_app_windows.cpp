@@ -1,0 +1,104 @@
+#include "platform/files.h"
+#include "platform/system_windows.h"
+#include "support/temp_app.h"
+
+#include <tlhelp32.h>
+
+#include <stdexcept>
+
+namespace support {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const wchar_t* kSettings = L"Software\\Kestrivane UI tests";
+
+// The user's part of the registry leads to a place of the test run's own.
+struct Registry : testing::Environment {
+  void SetUp() override {
+    RegDeleteTreeW(HKEY_CURRENT_USER, kSettings);
+    RegCreateKeyW(HKEY_CURRENT_USER, kSettings, &key);
+    RegOverridePredefKey(HKEY_CURRENT_USER, key);
+  }
+  void TearDown() override {
+    RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+    RegCloseKey(key);
+    RegDeleteTreeW(HKEY_CURRENT_USER, kSettings);
+  }
+  static inline HKEY key = nullptr;
+};
+
+const auto* const kRegistry = testing::AddGlobalTestEnvironment(new Registry);
+
+// The values of a key as a settings file of another system has them.
+std::string ValuesOf(const wchar_t* name) {
+  HKEY key = nullptr;
+  if (RegOpenKeyW(HKEY_CURRENT_USER, name, &key) != ERROR_SUCCESS) return {};
+  std::string text;
+  for (DWORD index = 0;; ++index) {
+    wchar_t value[256], data[4096];
+    DWORD length = 256, size = sizeof data;
+    if (RegEnumValueW(key, index, value, &length, nullptr, nullptr, reinterpret_cast<BYTE*>(data),
+                      &size) != ERROR_SUCCESS)
+      break;
+    const auto plain = platform::FromWide(data);
+    const auto* const quote = plain.find(',') == std::string::npos ? "" : "\"";
+    text += platform::FromWide({value, length}) + "=" + quote + plain + quote + "\n";
+  }
+  RegCloseKey(key);
+  return text;
+}
+
+}  // namespace
+
+void TempApp::clearSettings() { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Kestrivane UI"); }
+
+std::string TempApp::settings() {
+  std::string text;
+  for (const auto* section : {L"General", L"Path", L"GameTimeLog"})
+    text += ValuesOf((L"Software\\Kestrivane UI\\" + std::wstring(section)).c_str());
+  return text;
+}
+
+void RemoveAll(const fs::path& folder) {
+  const auto name = ToText(folder);
+  for (const auto& file : platform::FileNames(name)) {
+    SetFileAttributesW(platform::FullName(name + "\\" + file).c_str(), FILE_ATTRIBUTE_NORMAL);
+    platform::DeleteFile(name + "\\" + file);
+  }
+  for (const auto& inner : platform::SubfolderNames(name)) RemoveAll(folder / ToPath(inner));
+  RemoveDirectoryW(platform::FullName(name).c_str());
+}
+
+void TempApp::writeProgram(std::string_view, std::string_view) {
+  throw std::logic_error("a script is no program here");
+}
+
+bool MakePipe(const fs::path&) { return false; }
+
+void WaitForChild() {
+  const platform::Handle all(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
+  PROCESSENTRY32W process{};
+  process.dwSize = sizeof process;
+  for (auto more = Process32FirstW(all.get(), &process); more;
+       more = Process32NextW(all.get(), &process)) {
+    if (process.th32ParentProcessID != GetCurrentProcessId()) continue;
+    const platform::Handle child(OpenProcess(SYNCHRONIZE, FALSE, process.th32ProcessID));
+    WaitForSingleObject(child.get(), INFINITE);
+  }
+}
+
+// Another program has the files open.
+Unprivileged::Unprivileged(const fs::path& locked) {
+  std::vector<fs::path> files{locked};
+  if (fs::is_directory(locked)) files.assign(fs::directory_iterator(locked), {});
+  std::vector<HANDLE> handles;
+  for (const auto& file : files)
+    handles.push_back(CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  undo_ = [handles] {
+    for (auto* const handle : handles) CloseHandle(handle);
+  };
+}
+
+}  // namespace support

@@ -1,0 +1,181 @@
+// What only Windows has.
+#include <cstdlib>
+#include <thread>
+
+#include "core/module1.h"
+#include "platform/code_page.h"
+#include "platform/file_search.h"
+#include "platform/files.h"
+#include "platform/process.h"
+#include "platform/system_windows.h"
+#include "support/fake_clock.h"
+#include "support/temp_app.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+using Module1::AppFolder;
+
+class Windows : public support::TempApp {
+ protected:
+  // What other programs have open: no access that is not shared.
+  static HANDLE open(const char* name, DWORD shared) {
+    return CreateFileW(path(name).c_str(), GENERIC_READ | GENERIC_WRITE, shared, nullptr,
+                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  }
+  static int run(const std::string& command) {
+    StartedProcess process(command);
+    while (process.ExitStatus() == kStillActive)
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    return process.ExitStatus();
+  }
+};
+
+TEST_F(Windows, FileInUseIsWaitedForAndThenLeftAlone) {
+  const auto file = AppFolder + "\\a.txt";
+  write("a.txt", "old");
+  support::FakeClock clock;
+  auto* handle = open("a.txt", FILE_SHARE_READ);
+  clock.onSleep = [&] { CloseHandle(handle); };
+  EXPECT_NO_THROW(WriteBytes(file, "new"));
+  EXPECT_EQ(clock.sleeps.size(), 1U);
+  clock.onSleep = {};
+  EXPECT_EQ(read("a.txt"), "new");
+  // An editor that shares all but deleting.
+  handle = open("a.txt", FILE_SHARE_READ | FILE_SHARE_WRITE);
+  EXPECT_EQ(ReadBytes(file), "new");
+  EXPECT_ANY_THROW(DeleteFile(file));
+  CloseHandle(handle);
+  handle = open("a.txt", 0);
+  EXPECT_ANY_THROW(ReadBytes(file));
+  EXPECT_ANY_THROW(WriteBytes(file, "newer"));
+  CloseHandle(handle);
+  SetFileAttributesW(path("a.txt").c_str(), FILE_ATTRIBUTE_READONLY);
+  handle = open("a.txt", FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+  if (handle == INVALID_HANDLE_VALUE) {
+    EXPECT_ANY_THROW(WriteBytes(file, "newer"));
+    EXPECT_ANY_THROW(DeleteFile(file));
+    EXPECT_EQ(ReadBytes(file), "new");
+  } else {
+    CloseHandle(handle);  // wine under root
+  }
+  SetFileAttributesW(path("a.txt").c_str(), FILE_ATTRIBUTE_HIDDEN);
+  EXPECT_NO_THROW(WriteBytes(file, "newer"));
+  EXPECT_EQ(ReadBytes(file), "newer");
+}
+
+TEST_F(Windows, NoReadAmongSavesOfTwoSeesAMixture) {
+  const auto file = AppFolder + "\\a.txt";
+  const std::string texts[] = {std::string(300000, 'a'), std::string(200000, 'b')};
+  write("a.txt", texts[0]);
+  const auto save = [&](const std::stop_token& enough, const std::string& text) {
+    for (; !enough.stop_requested(); std::this_thread::sleep_for(std::chrono::milliseconds(1)))
+      EXPECT_NO_THROW(WriteBytes(file, text));
+  };
+  const std::jthread first(save, texts[0]), second(save, texts[1]);
+  int torn = 0, changes = 0;
+  for (int reads = 0, last = 0; reads < 1000; ++reads) {
+    const auto text = ReadBytes(file);
+    const int which = text == texts[1] ? 1 : 0;
+    torn += text != texts[which];
+    changes += which != last;
+    last = which;
+  }
+  EXPECT_EQ(torn, 0);
+  EXPECT_GT(changes, 10) << "the saves did not come between the reads";
+}
+
+TEST_F(Windows, FullDiskLeavesTheOldContent) {
+  if (!std::getenv("KESTRIVANE_DISK_FULL")) GTEST_SKIP() << "files may have any size";
+  write("a.txt", "old");
+  for (const auto* name : {"\\a.txt", "\\b.txt"})
+    EXPECT_ANY_THROW(WriteBytes(AppFolder + name, std::string(100000, 'x')));
+  EXPECT_EQ(read("a.txt"), "old");
+  EXPECT_FALSE(exists("b.txt"));
+}
+
+TEST_F(Windows, PathsMayBeLongAndHoldAnyCharacter) {
+  auto folder = AppFolder + "\\日本🎮";
+  for (int level = 0; level < 8; ++level) {
+    MakeFolder(folder);
+    folder += "\\" + std::string(60, static_cast<char>('a' + level));
+  }
+  MakeFolder(folder);
+  ASSERT_GT(ToWide(folder).size(), 500U);
+  WriteBytes(folder + "/Kestrivane.exe", "");
+  WriteBytes(folder + "\\é.zip", "seconds=0");
+  EXPECT_TRUE(IsFolder(folder) && IsFile(folder + "\\\\É.ZIP"));
+  EXPECT_EQ(FileNames(folder), std::vector<std::string>({"Kestrivane.exe", "é.zip"}));
+  EXPECT_EQ(FirstFolderOfEach({"é.zip"}, {AppFolder, folder + "\\"}),
+            std::vector<std::size_t>({1}));
+  EXPECT_EQ(SubfolderNames(AppFolder), std::vector<std::string>({"日本🎮"}));
+  EXPECT_TRUE(FindCommand(folder + "\\Kestrivane -print-games")) << "wine can't start it";
+  DeleteFile(folder + "\\É.zip");
+  EXPECT_FALSE(IsFile(folder + "\\é.zip"));
+}
+
+TEST_F(Windows, FoldersHoldPathsInAnySpelling) {
+  for (const auto* folder : {"c:/", "C:\\", "C:/GAMES", "c:\\games\\É"})
+    EXPECT_TRUE(IsWithin("C:\\Games\\é\\x", folder)) << folder;
+  for (const auto* folder : {"D:\\", "C:\\Game", "C:\\Games\\é\\x\\y"})
+    EXPECT_FALSE(IsWithin("C:\\Games\\é\\x", folder)) << folder;
+}
+
+TEST_F(Windows, DevicesAreNoFiles) {
+  for (const auto* name : {"con", "nul.zip", "com1", "\\\\.\\nul", "\\\\.\\pipe\\x"}) {
+    const auto file = *name == '\\' ? name : AppFolder + "\\" + name;
+    EXPECT_FALSE(IsFile(file) || IsFolder(file)) << name;
+    EXPECT_ANY_THROW(ReadBytes(file)) << name;
+    EXPECT_ANY_THROW(WriteBytes(file, "x")) << name;
+    EXPECT_FALSE(FindCommand(file)) << name;
+  }
+  EXPECT_EQ(FirstFolderOfEach({"con.zip", "nul"}, {AppFolder}), std::vector<std::size_t>({1, 1}));
+}
+
+TEST_F(Windows, FoldersOfOtherMachinesAreLikeOurOwn) {
+  const std::string share = "\\\\kestrivane\\tests";
+  if (!IsFolder(share)) GTEST_SKIP() << "there is no " << share;
+  WriteBytes(share + "\\A.ZIP", "x");
+  EXPECT_EQ(FileNames(share), std::vector<std::string>({"A.ZIP"}));
+  EXPECT_EQ(FirstFolderOfEach({"a.zip"}, {share + "\\"}), std::vector<std::size_t>({0}));
+  EXPECT_EQ(ReadBytes("//kestrivane/tests/a.zip"), "x");
+  DeleteFile(share + "\\a.zip");
+}
+
+TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAsTheyAre) {
+  addEmulator();
+  write("日本 é/game.zip", "seconds=0");
+  // The system itself would run this one.
+  const auto shorter = path("").parent_path().parent_path() / "Mis.exe";
+  fs::copy_file(path("Kestrivane.exe"), shorter);
+  EXPECT_EQ(run(AppFolder + "\\kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" \"-x y\\\""), 1);
+  EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
+      << read("error.log");
+  EXPECT_EQ(run("Kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" -input-system=xinput"), 0)
+      << read("error.log");
+  EXPECT_NE(read("error.log").find("Input system: xinput"), std::string::npos);
+}
+
+TEST_F(Windows, CodePageIsTheSystems) {
+  const struct {
+    UINT page;
+    const char *text, *bytes;
+  } rows[] = {{1252, "ñ€®\r\n表", "\xF1\x80\xAE\r\n表"},
+              {1251, "Жук\r\né\r\n表", "\xC6\xF3\xEA\r\né\r\n表"},
+              {932, "日本ｶ\\表\r\né\r\nЖ", "\x93\xFA\x96{\xB6\\\x95\\\r\né\r\n\x84\x47"}};
+  bool known = false;
+  for (const auto& [page, text, bytes] : rows) {
+    if (page != GetACP()) continue;
+    known = true;
+    EXPECT_EQ(EncodeCodePage(text), bytes);
+    EXPECT_EQ(DecodeCodePage(bytes), text);
+  }
+  if (!known) GTEST_SKIP() << "code page " << GetACP();
+  // Half a character of several bytes is taken for one of the western page.
+  EXPECT_EQ(DecodeCodePage("x\x93").substr(0, 1), "x");
+  EXPECT_EQ(DecodeCodePage(EncodeCodePage(DecodeCodePage("x\x93"))), DecodeCodePage("x\x93"));
+}
+
+}  // namespace
+}  // namespace platform

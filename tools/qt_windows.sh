@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Builds Qt for Windows, static, with what this program and its tests need, into a folder that
+# outlives the build folders: from the source package of Debian's own Qt, or from a changed source of
+# the same version. Does nothing where the folder has it already; takes some 30 minutes of processor
+# time otherwise.
+# Usage: qt_windows.sh FOLDER [SOURCE]
+set -euo pipefail
+toolchain=$(cd "$(dirname "${BASH_SOURCE[0]}")/../cmake" && pwd)/windows.cmake
+mkdir -p "$1"
+cache=$(cd "$1" && pwd)
+version=$(dpkg-query -W -f '${source:Version}' qt6-base-dev)
+[[ -n ${2:-} || $(cat "$cache/version" 2>/dev/null) != "$version" ]] || exit 0
+
+work=$cache/work
+source=${2:-$work/source}
+rm -rf "$work" "$cache/version"
+mkdir -p "$work"
+
+# The package lists have a place of their own here: the system's may know no sources.
+fetch_source() {
+    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT) # $(ORIGIN)' \
+        'Created-By: Packages' | grep '# Debian$' | sort -u >sources.list
+    local options=(-qq -o "Dir::Etc::SourceList=$work/sources.list" -o Dir::Etc::SourceParts=-
+        -o "Dir::State::Lists=$work/lists" -o "Dir::Cache=$work" -o APT::Sandbox::User=)
+    mkdir -p lists/partial archives/partial
+    apt-get "${options[@]}" update
+    apt-get "${options[@]}" source --download-only "qt6-base=$version"
+    dpkg-source --no-check -x qt6-base_*.dsc source >/dev/null
+}
+if [[ -z ${2:-} ]]; then
+    echo "Qt $version for Windows: fetching the source"
+    (cd "$work" && fetch_source) >"$work/log" 2>&1 || { cat "$work/log" && exit 1; }
+fi
+
+features=()
+# The last two need headers that Debian's compiler or source package lacks.
+for feature in concurrent dbus glib gif icu network printsupport sql system_zlib vulkan xml \
+    direct2d1_1 tabletevent; do
+    features+=("-DFEATURE_$feature=OFF")
+done
+echo "Qt $version for Windows: building, some 30 minutes of processor time"
+cmake -S "$source" -B "$work/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$cache/qt" -DBUILD_SHARED_LIBS=OFF \
+    -DFEATURE_static_runtime=ON -DINPUT_opengl=no "${features[@]}" -DQT_BUILD_EXAMPLES=OFF \
+    -DQT_BUILD_TESTS=OFF >>"$work/log" 2>&1 || { tail -n 40 "$work/log" && exit 1; }
+if [[ -t 1 ]]; then
+    NINJA_STATUS='%p of Qt for Windows ' ninja -C "$work/build"
+else
+    ninja -C "$work/build" >>"$work/log" 2>&1 || { tail -n 40 "$work/log" && exit 1; }
+fi
+rm -rf "$cache/qt" "$cache/source"
+cmake --install "$work/build" >>"$work/log"
+
+# What who hands the program on has to hand on too.
+{
+    printf '%s\n' "Qt $version, as Debian's source package qt6-base has it, and what it contains." ""
+    parts=(double-conversion freetype harfbuzz-ng libjpeg libpng md4c pcre2 tinycbor zlib)
+    files=("$source"/LICENSES/{LGPL-3.0-only,GPL-3.0-only}.txt)
+    for part in "${parts[@]}"; do
+        files+=("$source/src/3rdparty/$part"/*{LICEN,licen,COPYING}*)
+    done
+    files+=(/usr/share/doc/{mingw-w64-x86-64-dev,gcc-mingw-w64-base}/copyright)
+    for file in "${files[@]}"; do
+        [[ -f $file ]] || continue
+        printf '\n======== %s\n\n' "${file#"$source"/}"
+        cat "$file"
+    done
+} >"$cache/qt/licences.txt"
+mkdir "$cache/source"
+[[ -n ${2:-} ]] || mv "$work"/qt6-base_* "$cache/source"
+rm -rf "$work"
+echo "$version" >"$cache/version"

@@ -1,0 +1,20 @@
+# To be sourced: Windows programs under wine, in a prefix of their own.
+
+# Makes the prefix where there is none, and starts its server. A folder in it also stands as what
+# another machine shares: \\kestrivane\tests.
+start_wine() { # folder for the prefix
+    mkdir -p "$1"
+    WINEPREFIX=$(cd "$1" && pwd)/wine
+    # It would put the programs into the desktop's menu, and ask for what runs other programs.
+    export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
+    if [[ ! -e $WINEPREFIX/system.reg ]]; then
+        # Without a display; its server would keep others from one.
+        DISPLAY= wineboot -i >/dev/null 2>&1
+        wineserver -k -w
+    fi
+    mkdir -p "$WINEPREFIX/dosdevices/unc/kestrivane" "$WINEPREFIX/share"
+    ln -sfn "$WINEPREFIX/share" "$WINEPREFIX/dosdevices/unc/kestrivane/tests"
+    wineserver -p
+}
+
+stop_wine() { wineserver -k 2>/dev/null || true; }

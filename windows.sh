@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Builds the front-end for Windows on a Debian machine, runs its tests under wine, and leaves
+# KestrivaneUI-VERSION-windows.zip. The toolkit for it is built once, into a folder outside this one.
+# Usage: windows.sh [FOLDER_FOR_QT]
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+cache=${1:-${XDG_CACHE_HOME:-$HOME/.cache}/kestrivane-ui-qt-windows}
+build=build-windows
+
+tools/install.sh build windows qt-windows demo display
+tools/qt_windows.sh "$cache"
+cache=$(cd "$cache" && pwd)
+cmake -S . -B $build -G Ninja -DCMAKE_TOOLCHAIN_FILE=cmake/windows.cmake \
+    -DQT_FOR_WINDOWS="$cache/qt" -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=ON
+cmake --build $build --parallel "$(nproc)"
+(cd $build && cpack)
+
+echo "Tests of the logic, under wine"
+tests/windows_logic.sh $build
+echo "Tests of the windows, under wine"
+tests/windows_ui.sh $build
+echo "The package on a virtual display, under wine"
+tests/e2e/windows.sh $build/KestrivaneUI-*-windows.zip $build/standin/Kestrivane.exe $build
+mv $build/KestrivaneUI-*-windows.zip .
+ls KestrivaneUI-*-windows.zip
