@@ -27,7 +27,7 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 QColor MarkColour(const QWidget& on) {
-  const auto palette = on.palette();
+  const auto& palette = on.palette();
   return WithContrast(palette.color(QPalette::Highlight), palette.color(on.backgroundRole()),
                       kMarkContrast);
 }
@@ -65,7 +65,7 @@ void PaintFocusRing(QWidget& on, int pixels) {
 
 void PaintFrame(QWidget& on) {
   constexpr double kFrameContrast = 1.5;
-  const auto palette = on.palette();
+  const auto& palette = on.palette();
   const auto background = palette.color(QPalette::Base);
   QPainter painter(&on);
   painter.setPen(WithContrast(palette.color(QPalette::Mid), background, kFrameContrast));
