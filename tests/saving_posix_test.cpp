@@ -88,6 +88,10 @@ class Saving : public support::TempApp {
 
 TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNew) {
   const std::string old = "old\r\n\r\nlines", longer(20000, 'x'), shorter = "new", odd = "odd!";
+  // Some file systems know no files without a name.
+  const int probe = open(AppFolder.c_str(), O_TMPFILE | O_WRONLY, 0600);
+  const bool nameless = probe >= 0;
+  close(probe);
   for (const auto& text : {longer, shorter, odd, std::string("new\r\n\r\nlines")}) {
     write("a.ini", old);
     const int calls = save(text, 0, 0);
@@ -101,7 +105,8 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNew) {
         EXPECT_TRUE(saved() == old || saved() == text) << saved();
         fs::remove(path("a.ini"));
         save(text, call, error);
-        EXPECT_TRUE(saved() == "none" || saved() == text || (error == kKill && saved().empty()));
+        EXPECT_TRUE(saved() == "none" || saved() == text || (!nameless && saved().empty()))
+            << saved();
         fs::remove(path("a.ini"));
       }
   }

@@ -44,11 +44,16 @@ bool Reserve(int file, off_t from, off_t length) {
          disk.f_bavail * disk.f_frsize >= static_cast<fsblkcnt_t>(length);
 }
 
-// Fails if a file of this size can't take the place of one of the old size.
-void EnsureRoom(int file, off_t oldSize, off_t size) {
+// Whether this process may write files so large.
+bool IsWithinLimit(off_t size) {
   rlimit limit{};
   Check(getrlimit(RLIMIT_FSIZE, &limit) == 0);
-  if (static_cast<rlim_t>(std::max(oldSize, size)) > limit.rlim_cur)
+  return static_cast<rlim_t>(size) <= limit.rlim_cur;
+}
+
+// Fails if a file of this size can't take the place of one of the old size.
+void EnsureRoom(int file, off_t oldSize, off_t size) {
+  if (!IsWithinLimit(std::max(oldSize, size)))
     throw base::Failure("beyond the limit on file sizes");
   // Some file systems write everything to a new place, so that room inside the file is none: what
   // can be reserved behind its end, and given back, is there for the whole of both texts.
@@ -58,11 +63,32 @@ void EnsureRoom(int file, off_t oldSize, off_t size) {
   if (!hasRoom) throw base::Failure("no room on the disk");
 }
 
+// Gives a file that is not there yet its name only once it holds all of its text. False where the
+// file system can't, or something has the name.
+bool SaveAsNew(const std::string& path, std::string_view bytes) {
+  if (!IsWithinLimit(static_cast<off_t>(bytes.size()))) return false;
+  const auto folder = std::filesystem::path(path).parent_path();
+  const int file = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
+  if (file < 0) return false;
+  bool done = true;
+  while (done && !bytes.empty()) {
+    const auto count = Patiently([&] { return write(file, bytes.data(), bytes.size()); });
+    done = count > 0;
+    if (done) bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  const auto nameless = "/proc/self/fd/" + std::to_string(file);
+  done = done && fsync(file) == 0 &&
+         linkat(AT_FDCWD, nameless.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+  close(file);
+  return done;
+}
+
 }  // namespace
 
 void WriteBytes(std::string_view path, std::string_view bytes) {
   const auto spelled = SystemPath(path);
   const bool isNew = !IsFile(path);
+  if (isNew && SaveAsNew(spelled, bytes)) return;
   const OpenFile file(spelled, O_RDWR | O_CREAT);
   const auto oldSize = file.size();
   const auto size = static_cast<off_t>(bytes.size());
