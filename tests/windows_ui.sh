@@ -6,5 +6,6 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/wine.sh
 trap stop_wine EXIT
 start_wine "$1"
-export QT_QPA_PLATFORM=offscreen QT_QPA_FONTDIR='Z:\usr\share\fonts\truetype\dejavu'
+# wine keeps the toolkit's variables from what it runs, unless they come from its own registry.
+wine reg add 'HKCU\Environment' /v QT_QPA_FONTDIR /d 'Z:\usr\share\fonts\truetype\dejavu' /f >/dev/null
 wine "$1/tests/ui_tests.exe" --gtest_brief=1

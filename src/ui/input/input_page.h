@@ -56,8 +56,8 @@ class InputPage {
   forms::OptionButton optTypeInputs[kGroups] = {
       {frame_, "optTypeInputs(0)", {120, 300, 1080, 255}, "BASICS"},
       {frame_, "optTypeInputs(1)", {1215, 300, 1005, 255}, "GUN"},
-      {frame_, "optTypeInputs(2)", {2235, 300, 1110, 255}, "RACE"},
-      {frame_, "optTypeInputs(3)", {3360, 300, 1050, 255}, "OTHERS"}};
+      {frame_, "optTypeInputs(2)", {2235, 300, 1155, 255}, "RACE"},
+      {frame_, "optTypeInputs(3)", {3390, 300, 1050, 255}, "OTHERS"}};
   forms::Label Label11{frame_, "Label11", {4455, 330, 690, 255}, "Player", {}, forms::Align::Right};
   forms::OptionButton optPlayer[2] = {{frame_, "optPlayer(0)", {5175, 300, 405, 255}, "1"},
                                       {frame_, "optPlayer(1)", {5595, 300, 405, 255}, "2"}};
