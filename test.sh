@@ -12,7 +12,7 @@ for preset in sanitize release; do
     cmake --build --preset "$preset" --parallel "$(nproc)"
 done
 echo "Fuzzers, some seconds each"
-fuzz/run.sh 5
+fuzz/run.sh 3
 echo "Tests of the logic for Windows, under wine"
 tests/windows_logic.sh build-windows-logic
 echo "Tests under the sanitizers"
