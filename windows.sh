@@ -14,12 +14,15 @@ cmake -S . -B $build -G Ninja -DCMAKE_TOOLCHAIN_FILE=cmake/windows.cmake \
     -DQT_FOR_WINDOWS="$cache/qt" -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=ON
 cmake --build $build --parallel "$(nproc)"
 (cd $build && cpack)
+cmake --preset release
+cmake --build --preset release --parallel "$(nproc)" --target KestrivaneUI
 
 echo "Tests of the logic, under wine"
 tests/windows_logic.sh $build
 echo "Tests of the windows, under wine"
 tests/windows_ui.sh $build
 echo "The package on a virtual display, under wine"
-tests/e2e/windows.sh $build/KestrivaneUI-*-windows.zip $build/standin/Kestrivane.exe $build
+tests/e2e/windows.sh $build/KestrivaneUI-*-windows.zip $build/standin/Kestrivane.exe $build \
+    build/KestrivaneUI
 mv $build/KestrivaneUI-*-windows.zip .
 ls KestrivaneUI-*-windows.zip

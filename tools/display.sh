@@ -14,8 +14,8 @@ wait_until() { # seconds, command...
 }
 
 # Starts a display with a free number and puts it into the environment.
-start_display() { # private folder for its files
-    Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp 3>"$1/display" 2>/dev/null &
+start_display() { # private folder for its files, [size in pixels]
+    Xvfb -displayfd 3 -screen 0 "${2:-1280x960}x24" -nolisten tcp 3>"$1/display" 2>/dev/null &
     display_processes+=($!)
     wait_until 20 grep -q . "$1/display" || return 1
     DISPLAY=:$(<"$1/display")

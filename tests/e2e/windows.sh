@@ -33,8 +33,9 @@ fail() {
     exit 1
 }
 expect_window() { wait_until "$1" title_is "$2" || fail "no window \"$2\""; }
+is_titled() { [[ $(xdotool getwindowfocus getwindowname) == "$1"* ]]; }
 # The window manager may leave wine's windows without the focus.
-is_main_window() { xdotool search --onlyvisible --name "Kestrivane 0.3a" windowactivate && title_is "$main_title"; }
+is_main_window() { xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
 back_in_main_window() {
     wait_until 30 is_main_window || fail "not back in the main window"
     xdotool mousemove --window "$(xdotool getwindowfocus)" 600 40 click 1 # where nothing is
@@ -48,16 +49,30 @@ start() {
     front_end=$!
 }
 has_ended() { ! ps -o stat= -p "$1" | grep -q '^[^Z]'; }
-expect_end() {
+escape_ends() {
+    press Escape
+    sleep 1
+    has_ended "$front_end"
+}
+# A release that the window manager gave to no window makes the next press of that key a repetition.
+expect_end_by_escape() {
     local status=0
-    wait_until 20 has_ended "$front_end" || fail "the program did not end"
+    wait_until 20 escape_ends || fail "the program did not end"
     wait "$front_end" || status=$?
     [[ $status == 0 ]] || fail "exit status $status"
 }
 
-start_display "$work" || fail "no display"
+# Takes what wine runs down and up again.
+scale_desktop() { # dots per inch
+    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
+    wineserver -k -w || true
+    start_wine "$build"
+}
+
+start_display "$work" 1600x1200 || fail "no display"
 unset QT_QPA_PLATFORM
 start_wine "$build"
+scale_desktop 96
 wine reg delete 'HKCU\Software\Kestrivane UI' /f >/dev/null 2>&1 || true
 (cd "$app" && cmake -E tar xf "$package")
 cp "$emulator" "$app/Kestrivane.exe"
@@ -92,43 +107,36 @@ back_in_main_window
 grep -q "^;GameTimeLog=7undertow,1,2" "$app/Config/Kestrivane.ini" || fail "no play log in the file"
 [[ $(registry General Language) == 0 ]] || fail "the language is $(registry General Language)"
 wine reg query 'HKCU\Software\Kestrivane UI\Path' /v ROMS1 >/dev/null || fail "no folders"
-press Escape
-expect_end
+expect_end_by_escape
 
-echo "Pictures of the windows in three languages and at three scales: $pictures"
+echo "Pictures of the windows at three scales and in three languages: $pictures"
+page_names=(audio video inputs machine folders)
 # A click in the window in focus, in pixels of a window that is not scaled.
 click() { # x, y
-    xdotool mousemove --window "$(xdotool getwindowfocus)" $(awk "BEGIN { print int($1 * $scale), int($2 * $scale) }") click 1
+    xdotool mousemove --window "$(xdotool getwindowfocus)" $(($1 * dpi / 96)) $(($2 * dpi / 96)) click 1
     sleep 1
 }
-page_names=(audio video inputs machine folders)
-for scale in 1 1.5 2; do
+for dpi in 96 144 192; do
+    scale_desktop $dpi
     for language in 0 1 2; do
         sed -i '/^;KVLLanguage=/d' "$app/Config/Kestrivane.ini"
         ((language == 0)) || printf '\r\n;KVLLanguage=%d\r\n' $language >>"$app/Config/Kestrivane.ini"
-        export QT_SCALE_FACTOR=$scale
         start
-        wait_until 60 bash -c '[[ $(xdotool getwindowfocus getwindowname) == "Kestrivane UI"* ]]' ||
-            fail "no window"
+        wait_until 60 is_titled "Kestrivane UI" || fail "no window"
         sleep 1
-        screenshot "$pictures/main-$language-$scale.png"
-        press alt+t
-        sleep 0.5
-        import -window root "$pictures/menu-$language-$scale.png"
+        screenshot "$pictures/main-$language-$dpi.png"
+        click 57 10
         press Down Return
-        wait_until 30 bash -c '[[ $(xdotool getwindowfocus getwindowname) == "   "* ]]' ||
-            fail "no options"
+        wait_until 20 is_titled "   " || fail "no options"
         for page in 0 1 2 3 4; do
             click $((29 + 41 * page)) 28
-            screenshot "$pictures/options-${page_names[page]}-$language-$scale.png"
+            screenshot "$pictures/options-${page_names[page]}-$language-$dpi.png"
         done
         press Escape
-        sleep 1
-        press Escape
-        expect_end
+        wait_until 20 is_main_window || fail "not back in the main window"
+        expect_end_by_escape
     done
 done
-unset QT_SCALE_FACTOR
 [[ -n $front_end_here ]] || exit 0
 
 echo "The front-end of this system plays with the emulator for Windows"
@@ -144,5 +152,4 @@ press Return
 sleep 3
 expect_window 60 "$main_title"
 grep -qx '7undertow="1,2[1-9]"' "$work/settings/Kestrivane UI.conf" || fail "the play was not counted"
-press Escape
-expect_end
+expect_end_by_escape
