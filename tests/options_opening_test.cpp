@@ -86,6 +86,9 @@ TEST_F(OptionsOpening, WaysOutThatKeepNothing) {
       press(window, "chkFlipStereo");
       escape ? key(Qt::Key_Escape) : press(window, "btnCancel");
       EXPECT_FALSE(window.isVisible());
+      // What was typed and clicked too late.
+      type(window, "cmdSave", Qt::Key_Space);
+      save(window);
     });
     EXPECT_EQ(OptionsSaved, escape);
   }

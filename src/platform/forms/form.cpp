@@ -37,6 +37,11 @@ Qt::WindowFlags FlagsOf(Border border) {
   return Qt::Dialog | Qt::FramelessWindowHint;
 }
 
+bool IsInput(QEvent::Type type) {
+  return type == QEvent::KeyPress || type == QEvent::MouseButtonPress ||
+         type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
+}
+
 class FormWindow : public QMainWindow {
  public:
   FormWindow(Form& form, Border border) : QMainWindow(nullptr, FlagsOf(border)), form_(form) {
@@ -79,8 +84,11 @@ class FormWindow : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Expose && watched == windowHandle() && centreOnceShown)
       centreOn(*std::exchange(centreOnceShown, {}), nullptr);
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    if (!watched->isWidgetType()) return false;
     auto* target = static_cast<QWidget*>(watched);
+    // The system may still hold keys and clicks for a window that has closed.
+    if (IsInput(event->type()) && target->window() == this && !isVisible()) return true;
+    if (event->type() != QEvent::KeyPress) return false;
     // An event that a control ignores climbs to its parents; the form has seen it by then.
     const QWidget* focus = QApplication::focusWidget();
     if (target->window() != this || target != (focus ? focus : this)) return false;
