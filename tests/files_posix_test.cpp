@@ -92,15 +92,5 @@ TEST_F(PosixFiles, ASettingsStoreThatAnotherProgramKeepsIsLeftToItself) {
   EXPECT_NE(settings(), "");
 }
 
-TEST_F(PosixFiles, AreNotSeenInAWorkingFolderThatCantBeLookedInto) {
-  write("x.zip", "");
-  fs::permissions(AppFolder, fs::perms(0));
-  {
-    const support::Unprivileged user;
-    EXPECT_FALSE(IsFile("x.zip"));
-  }
-  fs::permissions(AppFolder, fs::perms(0755));
-}
-
 }  // namespace
 }  // namespace platform

@@ -2,33 +2,16 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
-#include <thread>
 
-#include "core/module1.h"
-#include "launch/process_capture.h"
-#include "platform/process.h"
 #include "platform/program_start.h"
-#include "support/temp_app.h"
+#include "support/process_app.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using Module1::AppFolder;
 
-class PosixProcess : public support::TempApp {
- protected:
-  static std::string capture(const std::string& command) {
-    return launch::ShellExecuteCapture(AppFolder + "\\" + command, false);
-  }
-  static int run(const char* command) {
-    platform::StartedProcess process(command);
-    while (process.ExitStatus() == platform::kStillActive)
-      std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    return process.ExitStatus();
-  }
-};
+class PosixProcess : public support::ProcessApp {};
 
 TEST_F(PosixProcess, CaptureGivesStandardOutputAsTextIfThereIsAny) {
   writeProgram("a tool.exe",
@@ -53,14 +36,6 @@ TEST_F(PosixProcess, AProgramForWindowsIsHandedToWine) {
   setenv("PATH", before.c_str(), 1);
 }
 
-TEST_F(PosixProcess, StartedProgramIsNotTiedToUs) {
-  writeProgram("tool.exe", "cut -d ' ' -f 6 /proc/$$/stat > session; exit 7");
-  EXPECT_EQ(run("tool"), 7);
-  EXPECT_NE(read("session"), std::to_string(getsid(0)) + "\n");
-  writeProgram("tool.exe", "kill -9 $$");
-  EXPECT_NE(run("tool"), 0);
-}
-
 // Does the step in a child process, which must end by itself then.
 template <class Step>
 pid_t Fork(const Step& step) {
@@ -81,17 +56,13 @@ TEST_F(PosixProcess, AListingEndsWithUsAndAPlayDoesNot) {
   prctl(PR_SET_CHILD_SUBREAPER, 1);
   for (const bool play : {false, true}) {
     fs::remove(path("pid"));
-    const auto us = Fork([&] {
-      if (play)
-        run("hang");
-      else
-        capture("hang.exe");
-      return 0;
-    });
+    const auto us =
+        Fork([&] { return play ? run("hang") : static_cast<int>(capture("hang.exe").size()); });
     while (!exists("pid")) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    const auto emulator = std::stoi(read("pid"));
+    EXPECT_EQ(getsid(emulator) != getsid(us), play) << "the end of a terminal is the end of both";
     kill(us, SIGTERM);
     StatusOf(us);
-    const auto emulator = std::stoi(read("pid"));
     if (play) kill(emulator, SIGINT);
     EXPECT_EQ(StatusOf(emulator), play ? SIGINT : SIGKILL);
   }
@@ -99,13 +70,13 @@ TEST_F(PosixProcess, AListingEndsWithUsAndAPlayDoesNot) {
 
 TEST_F(PosixProcess, AProgramWithoutStandardHandlesRunsOthersAndWithstandsItsOutputsEnd) {
   writeProgram("tool.exe", "echo out; kill -PIPE $$; echo the signal is ignored");
-  EXPECT_EQ(StatusOf(Fork([&] {
-              for (const int standard : {0, 1, 2}) close(standard);
-              platform::PrepareProgram();
-              for (const int signal : {SIGPIPE, SIGXFSZ}) raise(signal);
-              return capture("tool.exe") == "out\r\n" ? 0 : 1;
-            })),
-            0);
+  const auto us = Fork([&] {
+    for (const int standard : {0, 1, 2}) close(standard);
+    platform::PrepareProgram();
+    for (const int signal : {SIGPIPE, SIGXFSZ}) raise(signal);
+    return capture("tool.exe") == "out\r\n" ? 0 : 1;
+  });
+  EXPECT_EQ(StatusOf(us), 0);
 }
 
 }  // namespace

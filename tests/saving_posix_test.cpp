@@ -11,7 +11,6 @@
 #include "base/failure.h"
 #include "core/module1.h"
 #include "platform/files.h"
-#include "platform/settings_store.h"
 #include "support/fake_clock.h"
 #include "support/temp_app.h"
 
@@ -151,12 +150,6 @@ TEST_F(Saving, AnotherProgramsFileIsReadAndAfterASecondNotWritten) {
   clock.onSleep = [&] { fcntl(other, F_SETLEASE, F_UNLCK); };
   EXPECT_EQ(ReadBytes(file), "new");
   close(other);
-}
-
-TEST_F(Saving, SettingsThatCantBeWrittenAreNoError) {
-  fs::create_directory(settingsFile());
-  SettingsStore("Kestrivane UI").save("General", "Language", "1");
-  EXPECT_TRUE(fs::is_directory(settingsFile()));
 }
 
 }  // namespace

@@ -2,11 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "base/quietly.h"
-#include "core/module1.h"
-#include "i18n/message_catalogue.h"
 #include "platform/code_page.h"
 
 namespace base {
@@ -53,9 +49,7 @@ TEST(CodePage, EachLineIsReadAsWhatItIs) {
       {"one\ntwo\rthree\r\n\n", "one\ntwo\r\nthree\r\n\n"},
   };
   for (const auto& [bytes, text] : rows) EXPECT_EQ(platform::DecodeCodePage(bytes), text);
-  EXPECT_EQ(platform::DecodeLines("a\nb"), "a\r\nb\r\n");
   EXPECT_EQ(platform::DecodeLines("a\rb\r"), "a\r\nb\r\n");
-  EXPECT_EQ(platform::DecodeLines(""), "");
 }
 
 TEST(CodePage, WhatIsWrittenReadsBack) {
@@ -74,21 +68,6 @@ TEST(CodePage, WhatIsWrittenReadsBack) {
   for (const auto& [text, bytes] : rows) {
     EXPECT_EQ(platform::EncodeCodePage(text), bytes);
     EXPECT_EQ(platform::DecodeCodePage(platform::EncodeCodePage(text)), text);
-  }
-}
-
-TEST(MessageCatalogue, AnswersItsNumbersInThreeLanguagesAndInEnglishForOthers) {
-  std::map<int, std::string> english;
-  for (int number = 0; number < 256; ++number) {
-    for (const int language : {0, 1, 2, 3, 4}) {
-      Module1::CurrentLanguage = static_cast<unsigned char>(language);
-      const bool known = number <= 18 || (number == 99 && language == 2) ||
-                         (number >= 100 && number <= 164) || (number >= 170 && number <= 173);
-      const auto text = i18n::Msg(static_cast<i18n::Message>(number));
-      EXPECT_EQ(!text.empty(), known) << number << " " << language;
-      if (language == 0) english[number] = text;
-      EXPECT_TRUE(language <= 2 || text == english[number]) << number;
-    }
   }
 }
 

@@ -1,15 +1,12 @@
 // What only Windows has.
 #include <cstdlib>
-#include <thread>
 
-#include "core/module1.h"
 #include "platform/code_page.h"
 #include "platform/file_search.h"
 #include "platform/files.h"
-#include "platform/process.h"
 #include "platform/system_windows.h"
 #include "support/fake_clock.h"
-#include "support/temp_app.h"
+#include "support/process_app.h"
 
 namespace platform {
 namespace {
@@ -17,18 +14,12 @@ namespace {
 namespace fs = std::filesystem;
 using Module1::AppFolder;
 
-class Windows : public support::TempApp {
+class Windows : public support::ProcessApp {
  protected:
   // What other programs have open: no access that is not shared.
   static HANDLE open(const char* name, DWORD shared) {
     return CreateFileW(path(name).c_str(), GENERIC_READ | GENERIC_WRITE, shared, nullptr,
                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  }
-  static int run(const std::string& command) {
-    StartedProcess process(command);
-    while (process.ExitStatus() == kStillActive)
-      std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    return process.ExitStatus();
   }
 };
 

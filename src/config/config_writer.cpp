@@ -129,10 +129,13 @@ void WriteConfigFile() {
   base::Quietly([] {
     const auto text = ConfigText();
     const auto file = platform::Joined(AppFolder, core::kConfigFile);
-    if (ConfigFileHeld == core::FileHeld::UpToAFailure && platform::IsFile(file))
+    if (ConfigFileHeld == core::FileHeld::UpToAFailure && platform::IsFile(file)) {
       platform::CopyFileBytes(file, UnusedName(file + ".unread"));
-    ConfigFileHeld = core::FileHeld::Whole;
+      ConfigFileHeld = core::FileHeld::Whole;
+    }
     platform::WriteText(file, text);
+    // Until then there may be one where nobody could look for it.
+    ConfigFileHeld = core::FileHeld::Whole;
   });
 }
 
