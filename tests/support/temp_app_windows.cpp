@@ -82,7 +82,10 @@ void WaitForChild() {
   process.dwSize = sizeof process;
   for (auto more = Process32FirstW(all.get(), &process); more;
        more = Process32NextW(all.get(), &process)) {
-    if (process.th32ParentProcessID != GetCurrentProcessId()) continue;
+    // The desktop's own process may be a child too, and stays.
+    if (process.th32ParentProcessID != GetCurrentProcessId() ||
+        std::wstring_view(process.szExeFile) != L"Kestrivane.exe")
+      continue;
     const platform::Handle child(OpenProcess(SYNCHRONIZE, FALSE, process.th32ProcessID));
     WaitForSingleObject(child.get(), INFINITE);
   }
