@@ -14,7 +14,7 @@ start_wine() { # folder for the prefix
     fi
     mkdir -p "$WINEPREFIX/dosdevices/unc/kestrivane" "$WINEPREFIX/share"
     ln -sfn "$WINEPREFIX/share" "$WINEPREFIX/dosdevices/unc/kestrivane/tests"
-    wineserver -p
+    wineserver -p || true # one may run already
 }
 
-stop_wine() { wineserver -k 2>/dev/null || true; }
+stop_wine() { wineserver -k -w 2>/dev/null || true; }
