@@ -51,8 +51,7 @@ TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
 TEST_F(PlayTracking, OddRowsOfThePlayLogSurvive) {
   const struct {
     const char *what, *plays, *seconds, *after;
-  } rows[] = {{"a count that is no number", "x", "5", "g,x,5"},
-              {"seconds that are no number", "1", "", "g,1,"},
+  } rows[] = {{"seconds that are no number", "1", "", "g,1,"},
               {"blanks", " 1 ", "5", "g,2,35"},
               {"the largest count", "2147483647", "5", "g,2147483647,5"}};
   for (const auto& [what, plays, seconds, after] : rows) {
@@ -82,9 +81,7 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
       {"a good end in capitals", head + "so: PROGRAM TERMINATED NORMALLY.", false, ""},
       {"a good end in the header", "Program terminated normally.\r\n" + head, true, "7\r\n"},
       {"a report", head + "  one \r\ntw\xF6\r\n  ", true, "one \r\ntwö\r\n  \r\n"},
-      {"lines of LF", "1\n2\n3\n4\n5\n6\n7\none\ntwo", true, "one\r\ntwo\r\n"},
       {"lines of CR", "1\r2\r3\r4\r5\r6\r7\rone\n\rtwo", true, "one\n\r\ntwo\r\n"},
-      {"seven lines", head, true, ""},
       {"an empty file", "", true, ""}};
   for (const auto& row : rows) {
     write("error.log", row.log);
