@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 seconds=${1:-60}
 build="build-sanitize"
 # Most is spent on checks that go with the length of an input.
-declare -A longest=([config]=256 [error_log]=1024)
+declare -A longest=([command]=256 [config]=256 [error_log]=1024)
 # Freed memory that is kept for long has to be cleared for each input anew.
 export ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=8
 
