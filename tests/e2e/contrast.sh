@@ -35,8 +35,7 @@ for desktop in "light" "qt6ct QT_QPA_PLATFORMTHEME=qt6ct" "gtk QT_QPA_PLATFORMTH
         [[ $shot == - ]] || import -window "$(xdotool getwindowfocus)" "$shots/$theme-$shot.png"
     done 3<"$here/contrast.tsv"
     kill "$front_end"
-    wait "$front_end" 2>/dev/null || true
-    front_end=
+    expect_end 143
     echo "$theme"
     "$here/contrast.py" "$here/contrast.tsv" "$shots/$theme-" || low=$((low + $?))
 done

@@ -19,9 +19,7 @@ picture() { screenshot "$pictures/$1.png"; } # name
 is_titled() { [[ $(xdotool getwindowfocus getwindowname) == "$1"* ]]; }
 # The window manager may leave wine's windows without the focus.
 is_main_window() { xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
-back_in_main_window() {
-    wait_until 30 is_main_window || fail "not back in the main window"
-}
+back_in_main_window() { wait_until 30 is_main_window || fail "not back in the main window"; }
 registry() { wine reg query "HKCU\\Software\\Kestrivane UI\\$1" /v "$2" | tr -d '\r' | sed -n "s/^ *$2 *REG_SZ *//p"; }
 start_package() {
     wine "$app/KestrivaneUI.exe" &
