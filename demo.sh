@@ -28,49 +28,24 @@ if has_display; then
     exec "$demo/KestrivaneUI"
 fi
 
-. tools/display.sh
-work=$(mktemp -d)
-front_end=
-clean_up() {
-    [[ -z $front_end ]] || stop_front_end "$front_end"
-    stop_display
-    rm -rf "$work"
-}
-trap clean_up EXIT
-trap 'exit 1' INT TERM
-
-fail() {
-    echo "demo.sh: $*" >&2
-    exit 1
-}
-
-main_title="Kestrivane UI®  (Kestrivane 0.3a detected)"
-game=7undertow # the first title of the list, which runs for 24 seconds
-in_game() { ! title_is "$main_title" && (($(xdotool search --onlyvisible --class KestrivaneUI | wc -l) == 2)); }
-play_count() { sed -n "s/^$game=\"\([0-9]*\),.*/\1/p" "$settings/Kestrivane UI.conf" 2>/dev/null; }
+. tools/front_end.sh
+export XDG_CONFIG_HOME=$settings
 
 echo "No display: starting a virtual one"
 start_display "$work" || fail "the virtual display did not start"
-"$demo/KestrivaneUI" &
-front_end=$!
-wait_until 30 title_is "$main_title" || fail "the main window did not appear"
+start_to_main_window "$demo"
 sleep 0.5
 screenshot "$demo/before.png"
 echo "The main window stands; pressing Enter to play the selected game"
-
-press Return
-wait_until 10 in_game || fail "the in-game window did not appear"
+play
 echo "The game runs; waiting for its end"
 sleep 5
 screenshot "$demo/playing.png"
-wait_until 60 title_is "$main_title" || fail "the in-game window did not close"
+expect_main_window 60
 sleep 0.5
 screenshot "$demo/after.png"
 press Escape
-wait "$front_end" || fail "the front-end ended with status $?"
-front_end=
-
-count=$(play_count || true)
-echo "Plays counted of $game: ${count:-0}"
+expect_end 0
+expect_counted "1,2[4-9]"
+echo "Plays counted of $game: 1"
 echo "Screenshots: build/demo/before.png, build/demo/playing.png, build/demo/after.png"
-[[ $count == 1 ]] || fail "the play was not counted"

@@ -1,10 +1,6 @@
 #!/usr/bin/python3
-"""Measures screenshots: contrast.py text FILE BOX LEAST or contrast.py change BEFORE AFTER BOX LEAST.
-
-BOX is "left,top,width,height" in twips, 15 to a pixel, counted from the left and lower edge of a
-client area of the height that follows after a colon. Text must stand out from the colour behind it,
-and a change must show in a stroke's worth of pixels, by the ratio LEAST.
-"""
+# Measures screenshots: contrast.py TABLE START_OF_THEIR_PATHS. Ends with how many ratios are too low.
+# Text must stand out from the colour behind it, and a change must show in a stroke's worth of pixels.
 import sys
 from collections import Counter
 
@@ -14,11 +10,8 @@ STROKE = 12  # pixels: a short side of the smallest mark
 
 
 def luminance(colour):
-    def linear(part):
-        part /= 255
-        return part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4
-
-    red, green, blue = (linear(part) for part in colour)
+    red, green, blue = (part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4
+                        for part in (value / 255 for value in colour))
     return 0.2126 * red + 0.7152 * green + 0.0722 * blue
 
 
@@ -35,25 +28,23 @@ def pixels(file, box):
     return list(image.crop((left, top, left + width, top + height)).getdata())
 
 
-def text_contrast(file, box):
-    colours = Counter(pixels(file, box))
+def text_contrast(shot):
+    colours = Counter(shot)
     background = colours.most_common(1)[0][0]
     # A letter's strokes hold the colour at several places; a single pixel may be an edge of its own.
-    ratios = sorted((contrast(colour, background) for colour, count in colours.items() if count > 2),
-                    reverse=True)
-    return ratios[0] if ratios else 1
+    return max(contrast(colour, background) for colour, count in colours.items() if count > 2)
 
 
-def change_contrast(before, after, box):
-    ratios = sorted((contrast(one, other)
-                     for one, other in zip(pixels(before, box), pixels(after, box))
-                     if one != other), reverse=True)
-    return ratios[STROKE] if len(ratios) > STROKE else 1
+def change_contrast(before, after):
+    return sorted(map(contrast, before, after), reverse=True)[STROKE]
 
 
-if sys.argv[1] == "text":
-    ratio = text_contrast(*sys.argv[2:4])
-else:
-    ratio = change_contrast(*sys.argv[2:5])
-print(f"{ratio:.1f}")
-sys.exit(ratio < float(sys.argv[-1]))
+low = 0
+for row in (line.rstrip("\n").split("\t") for line in open(sys.argv[1], encoding="utf-8")):
+    if row[0] in ("text", "change"):
+        kind, what, shots, box, least = row
+        measure = text_contrast if kind == "text" else change_contrast
+        ratio = measure(*(pixels(f"{sys.argv[2]}{shot}.png", box) for shot in shots.split()))
+        low += ratio < float(least)
+        print(f"  {kind:6} {what:29} {ratio:4.1f}:1", f"TOO LOW, less than {least}" if ratio < float(least) else "")
+sys.exit(low)
