@@ -1,36 +1,25 @@
-#include "support/layout.h"
-
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QLabel>
 #include <QMainWindow>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
-#include <algorithm>
+#include <set>
+
+#include "support/ui_test.h"
 
 namespace support {
 namespace {
-
-// Names, without their index, of what is meant to lie on each other.
-constexpr std::pair<const char*, const char*> kMeant[] = {
-    {"frmOPT", "optOPT"},
-    {"frame", "optADV"},    // tabs cut into their page's frame
-    {"Label1", "lblInfo"},  // a bar and the text on it
-    {"Label1", "Label2"},
-    {"Label6", "Label5"}};  // a title and its shadow
 
 std::string NameOf(const QWidget& control) {
   return control.objectName().section('(', 0, 0).toStdString();
 }
 
-bool IsMeant(const QWidget& a, const QWidget& b) {
-  const auto is = [](const auto& pair, const QWidget& x, const QWidget& y) {
-    return NameOf(x) == pair.first && NameOf(y) == pair.second;
-  };
-  return std::any_of(std::begin(kMeant), std::end(kMeant),
-                     [&](const auto& pair) { return is(pair, a, b) || is(pair, b, a); });
+// Whether the second is meant to lie on the first.
+bool IsMeant(const QWidget& under, const QWidget& above) {
+  const std::set<std::string> meant = {"frmOPT optOPT",
+                                       "frame optADV",    // tabs cut into their page's frame
+                                       "Label1 lblInfo",  // a bar and the text on it
+                                       "Label1 Label2", "Label6 Label5"};  // a title and its shadow
+  return meant.contains(NameOf(under) + " " + NameOf(above));
 }
 
 bool IsFrameOf(const QWidget& outer, const QWidget& inner) {
@@ -97,10 +86,9 @@ bool Fits(const QWidget& control) {
   const auto element = button->inherits("QCheckBox")      ? QStyle::SE_CheckBoxContents
                        : button->inherits("QRadioButton") ? QStyle::SE_RadioButtonContents
                                                           : QStyle::SE_PushButtonContents;
-  const bool isPicture = button->text().isEmpty();
-  const auto room = isPicture ? button->rect() : button->style()->subElementRect(element, &option);
-  return isPicture ? room.size().expandedTo(button->iconSize()) == room.size()
-                   : width(button->text()) <= room.width() && metrics.height() <= button->height();
+  const auto room = button->style()->subElementRect(element, &option);
+  return button->text().isEmpty() ||
+         (width(button->text()) <= room.width() && metrics.height() <= button->height());
 }
 
 void ExpectLaidOutIn(const QWidget& parent) {
@@ -116,7 +104,8 @@ void ExpectLaidOutIn(const QWidget& parent) {
       // Neighbours may share a line.
       const auto both = SeenOf(*control) & SeenOf(*other);
       EXPECT_TRUE(both.width() <= 1 || both.height() <= 1 || IsMeant(*control, *other) ||
-                  IsFrameOf(*control, *other) || IsFrameOf(*other, *control))
+                  IsMeant(*other, *control) || IsFrameOf(*control, *other) ||
+                  IsFrameOf(*other, *control))
           << what << " lies on " << other->objectName().toStdString();
     }
     seen.append(control);

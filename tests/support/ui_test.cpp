@@ -3,12 +3,12 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QRegularExpression>
-#include <QTest>
 #include <QToolTip>
 #include <cstdlib>
 
+#include "base/text.h"
+#include "platform/code_page.h"
 #include "platform/forms/application.h"
-#include "startup/startup.h"
 
 namespace support {
 namespace {
@@ -32,6 +32,10 @@ std::string UiTest::textOf(const QWidget& window, const std::string& name) {
   return (text.isValid() ? text : child.property("plainText")).toString().toStdString();
 }
 
+std::string UiTest::indexed(const char* name, int index) {
+  return name + ("(" + std::to_string(index) + ")");
+}
+
 std::string UiTest::rows(const QListWidget& list) {
   std::string text;
   for (int row = 0; row < list.count(); ++row)
@@ -46,6 +50,7 @@ std::string UiTest::tipAt(QWidget& widget, QPoint at) {
 }
 
 UiTest::UiTest() {
+  addGames("a b");
   forms::EndProgram() = [this](int status) { ends.push_back(status); };
 }
 
@@ -59,6 +64,12 @@ void UiTest::start() {
   ASSERT_EQ(QTest::qWaitForWindowActive(&window(), form->visible() ? 5000 : 0), form->visible());
 }
 
+void UiTest::startWith(const std::string& lines) {
+  write("Config/Kestrivane.ini",
+        base::ReplaceIgnoringCase(";*** Kestrivane UI\xae|[ Global ]|" + lines, "|", "\r\n"));
+  start();
+}
+
 void UiTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   const auto* popup = QApplication::activePopupWidget();
   const auto* target = popup ? popup : QApplication::activeWindow();
@@ -66,12 +77,45 @@ void UiTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(target->windowHandle(), key, modifiers);
 }
 
-void UiTest::click(const char* name) const { QTest::mouseClick(&widget(name), Qt::LeftButton); }
-
 void UiTest::clickRow(const QListWidget& list, int row, bool twice) {
   const auto at = list.visualItemRect(list.item(row)).center();
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
   if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+}
+
+void UiTest::press(const QWidget& window, const std::string& name) {
+  auto& control = get(window, name);
+  QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(9, control.height() / 2));
+}
+
+void UiTest::type(const QWidget& window, const std::string& name, Qt::Key key, int times) {
+  for (; times > 0; --times) QTest::keyClick(&get(window, name), key);
+}
+
+void UiTest::answer(const QWidget& box, QMessageBox::StandardButton button) {
+  dynamic_cast<const QMessageBox&>(box).button(button)->click();
+}
+
+void UiTest::options(std::function<void(QWidget&)> step) {
+  const WhenModal modal("Form2", std::move(step));
+  item("mConfig").trigger();
+}
+
+void UiTest::gameOptions(int row, std::function<void(QWidget&)> step) {
+  const WhenModal modal("Form2", std::move(step));
+  clickRow(row);
+  click("cmdConfGame");
+}
+
+std::string UiTest::saved() {
+  std::string text;
+  const auto decoded = platform::DecodeCodePage(file());
+  for (const auto line : base::Split(decoded, base::kLineEnd))
+    if (!line.empty() && !line.starts_with(";*") && line != "[ Global ]" &&
+        (!line.starts_with("Input") || line.starts_with("InputKey") ||
+         line.starts_with("InputMouse")))
+      text += std::string(line) + "|";
+  return text;
 }
 
 WhenModal::WhenModal(const char* name, std::function<void(QWidget&)> step)

@@ -1,18 +1,23 @@
 #pragma once
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QTest>
 #include <functional>
 #include <memory>
 #include <vector>
 
+#include "core/module1.h"
 #include "support/temp_app.h"
 #include "ui/main/form1.h"
 
 namespace support {
 
-// The main window over a fresh AppFolder, driven by object names and real events. The end of the
-// program is noted and does not happen.
+// The main window over a fresh AppFolder with an emulator of two games, driven by object names and
+// real events. The end of the program is noted and does not happen.
 class UiTest : public TempApp {
  protected:
   UiTest();
@@ -20,10 +25,13 @@ class UiTest : public TempApp {
 
   // Loads the main window and waits until it is active.
   void start();
+  // The same with a configuration file of these lines, each ended by "|", behind the banner and the
+  // heading of all games.
+  void startWith(const std::string& lines);
 
   QWidget& window() const { return *form->clientArea()->window(); }
   QWidget& widget(const char* name) const { return get(window(), name); }
-  QListWidget& list() const { return dynamic_cast<QListWidget&>(widget("lstGames")); }
+  QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
   QAction& item(const std::string& name) const { return get<QAction>(window(), name); }
   std::string caption(const char* name) const { return textOf(window(), name); }
 
@@ -35,6 +43,7 @@ class UiTest : public TempApp {
     return *child;
   }
   static std::string textOf(const QWidget& window, const std::string& name);
+  static std::string indexed(const char* name, int index);
 
   // The rows of a list, a star behind those that are selected, each ended by "|".
   static std::string rows(const QListWidget& list);
@@ -44,12 +53,24 @@ class UiTest : public TempApp {
 
   // Key and mouse events as the window system sends them.
   static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-  void click(const char* name) const;
-  static QPoint placeOf(const QListWidget& list, int row) {
-    return list.visualItemRect(list.item(row)).center();
-  }
+  void click(const char* name) const { QTest::mouseClick(&widget(name), Qt::LeftButton); }
   static void clickRow(const QListWidget& list, int row, bool twice = false);
   void clickRow(int row, bool twice = false) const { clickRow(list(), row, twice); }
+  // Near the left end, where a check box has its box.
+  static void press(const QWidget& window, const std::string& name);
+  static void type(const QWidget& window, const std::string& name, Qt::Key key, int times = 1);
+  static void answer(const QWidget& box, QMessageBox::StandardButton button);
+
+  // Runs the step in the options dialog of all games or of one; it is closed afterwards if it still
+  // stands.
+  void options(std::function<void(QWidget&)> step);
+  void gameOptions(int row, std::function<void(QWidget&)> step);
+  static void page(const QWidget& options, int index) { press(options, indexed("optOPT", index)); }
+  static void save(const QWidget& options) { press(options, "cmdSave"); }
+
+  static std::string file() { return read("Config/Kestrivane.ini"); }
+  // The saved file as startWith takes it, without the bindings.
+  static std::string saved();
 
   std::unique_ptr<ui::Form1> form;
   std::vector<int> ends;  // exit statuses
@@ -74,5 +95,9 @@ class WhenModal : public QObject {
   int patience_ = 2000;
   bool done_ = false;
 };
+
+// Of what a window shows, nothing lies on something else unless it is meant to, all is inside its
+// parent, and no text is cut off.
+void ExpectLaidOut(const QWidget& window);
 
 }  // namespace support
