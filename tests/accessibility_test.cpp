@@ -72,20 +72,22 @@ TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKey) {
     gameOptions(0, ExpectAccessible);
     options([&](QWidget& dialog) {
       for (const int index : {0, 1, 3, 4, 2}) {
-        page(dialog, index);
+        use(dialog, QString("optOPT(%1)").arg(index));
         ExpectAccessible(dialog);
       }
-      type(dialog, "lstInput(1)", Qt::Key_Down);
-      WhenModal("frmInput2", ExpectAccessible).during([&] {
-        type(dialog, "lstInput(1)", Qt::Key_F2);
-      });
-      type(dialog, "cmbInputType", Qt::Key_Down, language);
+      const auto leave = [](QWidget& chooser) {
+        ExpectAccessible(chooser);
+        key(Qt::Key_Escape);
+        EXPECT_FALSE(chooser.isVisible());
+      };
+      WhenModal("frmInput2", leave).during([&] { use(dialog, "lstInput(1)=Down lstInput(1)=F2"); });
+      use(dialog, QString("cmbInputType=Down ").repeated(language));
       const WhenModal advanced("frmFF", [](QWidget& pages) {
         ExpectAccessible(pages);
-        press(pages, "optADV(1)");
+        use(pages, "optADV(1)");
         ExpectAccessible(pages);
       });
-      press(dialog, "lblAdvOpts");
+      use(dialog, "lblAdvOpts");
     });
     const WhenModal about("Form3", [&](QWidget& box) {
       ExpectAccessible(box);
@@ -108,13 +110,13 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
   EXPECT_TRUE(games->child(0)->state().selected && !games->child(1)->state().selected);
   options([](QWidget& dialog) {
     key(Qt::Key_Right);
-    for (const auto* bar : {"hslVolume(1)", "hslBalance"}) type(dialog, bar, Qt::Key_Left);
+    use(dialog, "hslVolume(1)=Left hslBalance=Left");
     EXPECT_EQ(told(dialog, {"optOPT(1)", "cmbRes", "hslVolume(1)", "hslBalance", "lstInput(3)"}),
               "Video *|Resolución 496x384|Música Volumen 99%|"
               "Balance Trasero/Frontal +1% al Trasero|Botón 3 |");
     const auto* cells = QAccessible::queryAccessibleInterface(&get(dialog, "lstInput(3)"));
     EXPECT_EQ(cells->child(1)->text(QAccessible::Name), "Coin1") << "the cell is empty";
-    page(dialog, 2);
+    use(dialog, "optOPT(2)");
     auto& link = get(dialog, "lblAdvOpts");
     const auto plain = link.grab().toImage();
     link.setFocus();
@@ -124,7 +126,7 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
       EXPECT_EQ(yes->text().toStdString(), "&Sí");
       EXPECT_FALSE(box.windowIcon().isNull());
     });
-    press(dialog, "lblLoadDefaults");
+    use(dialog, "lblLoadDefaults");
   });
   clock.onSleep = [] { ExpectAccessible(*QApplication::activeModalWidget()); };
   const WhenModal report("Form4", ExpectAccessible);

@@ -31,18 +31,18 @@ TEST_F(OptionsFolders, AreUpToThreeThatCanBeAddedAndRemoved) {
   write(".hidden/b.zip", "");
   const auto hidden = AppFolder + support::kSeparator + ".hidden";
   options([&](QWidget& window) {
-    page(window, 4);
+    use(window, "optOPT(4)");
     EXPECT_EQ(folders(window, 1), "/s/<b>one*|/s/2|/s/3|");
     EXPECT_EQ(enabled(window, "cmdAddPath"), "10111");
     EXPECT_EQ(enabled(window, "cmdRemovePath"), "01000");
     goTo(window, ".hidden");
-    for (int times = 0; times < 3; ++times) press(window, "cmdAddPath(0)");
+    use(window, "cmdAddPath(0) cmdAddPath(0) cmdAddPath(0)");
     EXPECT_EQ(enabled(window, "cmdAddPath"), "00111");
-    press(window, "cmdRemovePath(0)");
+    use(window, "cmdRemovePath(0)");
     EXPECT_EQ(folders(window, 0), hidden + "|" + hidden + "*|");
     clickRow(get<QListWidget>(window, "lstFolders(1)"), 1);
     for (const std::string left : {"/s/<b>one*|/s/3|", "/s/3*|", ""}) {
-      press(window, "cmdRemovePath(1)");
+      use(window, "cmdRemovePath(1)");
       EXPECT_EQ(folders(window, 1), left);
       EXPECT_EQ(get(window, "lstFolders(1)").toolTip().toStdString() + "*|",
                 left.substr(0, left.find('|')) + (left.empty() ? "*|" : "|"))
@@ -68,7 +68,7 @@ TEST_F(OptionsFolders, OfTheTreeCanBeSavedAndAreReachedByKeysAndSeen) {
   start();
   AppFolder += "/" + parent;
   options([&](QWidget& window) {
-    page(window, 4);
+    use(window, "optOPT(4)");
     auto& tree = get<QTreeWidget>(window, "Dir1");
     std::string names;
     for (int row = 0; row < tree.currentItem()->childCount(); ++row)
@@ -86,7 +86,7 @@ TEST_F(OptionsFolders, OfTheTreeCanBeSavedAndAreReachedByKeysAndSeen) {
     };
     afterKeys(Qt::Key_Right, 0, "d22");
     afterKeys(Qt::Key_Right, 4, "d23");
-    press(window, "cmdAddPath(0)");
+    use(window, "cmdAddPath(0)");
     EXPECT_TRUE(folders(window, 0).ends_with("/d23 of <b>many*|"));
     afterKeys(Qt::Key_Left, 4, "d21");
     EXPECT_FALSE(tree.currentItem()->isExpanded());
@@ -107,7 +107,7 @@ TEST_F(OptionsFolders, OfADriveAreThoseOfTheInnermostOneThatHoldsOurs) {
   for (const auto& drive : {parent, alike}) {
     qputenv("HOME", drive.c_str());
     options([&](QWidget& window) {
-      page(window, 4);
+      use(window, "optOPT(4)");
       auto& drives = get<QComboBox>(window, "Drive1");
       const auto first = drives.currentText();
       EXPECT_EQ(first.toStdString() == drive, drive == parent);
@@ -128,7 +128,7 @@ TEST_F(OptionsFolders, LockThePageWhileAShaderIsChosen) {
   write("empty/nothing/x", "");
   const auto shaders = AppFolder + support::kSeparator + "shaders";
   options([&](QWidget& window) {
-    page(window, 4);
+    use(window, "optOPT(4)");
     get<QListWidget>(window, "lstFolders(0)").clearSelection();
     goTo(window, "empty");
     const std::pair<const char*, const char*> refused[] = {
@@ -137,10 +137,10 @@ TEST_F(OptionsFolders, LockThePageWhileAShaderIsChosen) {
     for (const auto& [button, text] : refused)
       WhenModal("", [text = text](QWidget& box) {
         EXPECT_EQ(textOf(box, "qt_msgbox_label"), text);
-      }).during([&, button = button] { press(window, button); });
+      }).during([&, button = button] { use(window, button); });
     EXPECT_EQ(folders(window, 0), "/r|");
     goTo(window, "shaders");
-    press(window, "cmdAddPath(3)");
+    use(window, "cmdAddPath(3)");
     const auto plain = get(window, "lstFolders(4)").palette();
     EXPECT_NE(get(window, "lstFolders(3)").palette(), plain) << "a hint";
     for (const auto* name : {"optOPT", "cmdAddPath", "cmdRemovePath"})

@@ -28,15 +28,10 @@ class Options : public support::UiTest {
       text += "," + textOf(window, name);
     return text;
   }
-  // The file after these clicks, and keys such as "control=Left", the last of which closes the
-  // dialog.
-  std::string fileAfter(int game, const QString& touches) {
+  // The file after a use of the dialog that closes it.
+  std::string fileAfter(int game, const QString& controls) {
     const auto step = [&](QWidget& window) {
-      for (const auto& touch : touches.split(' ')) {
-        const auto control = touch.section('=', 0, 0).toStdString();
-        const QKeySequence typed(touch.section('=', 1));
-        typed.isEmpty() ? press(window, control) : type(window, control, typed[0].key());
-      }
+      use(window, controls);
       EXPECT_FALSE(window.isVisible());
     };
     game == kAllGames ? options(step) : gameOptions(game, step);
@@ -70,7 +65,7 @@ TEST_F(Options, ShowTheValuesInForce) {
     EXPECT_EQ(
         shown(window),
         "Audio(1) FlipStereo CustRes Vsync Multi 496x384,641,384,100 %,100 %,Centered,50 MHz");
-    page(window, 4);
+    use(window, "optOPT(4)");
     EXPECT_FALSE(get(window, "lstFolders(0)").isVisible());
     EXPECT_EQ(rows(get<QListWidget>(window, "lstFolders(3)")), "/s/g.fs*|");
     EXPECT_EQ(rows(get<QListWidget>(window, "lstFolders(4)")), "/s/b.vs*|");
@@ -171,10 +166,7 @@ TEST_F(Options, OfAGameCanBeRestored) {
   for (const auto& row : rows) {
     startWith(row.file);
     gameOptions(0, [&](QWidget& window) {
-      const support::WhenModal question("", [&](QWidget& box) {
-        if (row.yes) answer(box, QMessageBox::Yes);
-      });
-      press(window, "lblGameDef");
+      answer(row.yes ? QMessageBox::Yes : QMessageBox::No, [&] { use(window, "lblGameDef"); });
       EXPECT_EQ(window.isVisible(), !row.closes) << row.saved;
     });
     EXPECT_EQ(saved(), row.saved);
@@ -187,11 +179,10 @@ TEST_F(Options, AreNotKeptOnTheOtherWaysOutNorByWhatComesTooLate) {
   for (const bool escape : {true, false}) {
     OptionsSaved = true;
     gameOptions(0, [&](QWidget& window) {
-      press(window, "chkFlipStereo");
-      escape ? key(Qt::Key_Escape) : press(window, "btnCancel");
+      use(window, "chkFlipStereo");
+      escape ? key(Qt::Key_Escape) : use(window, "btnCancel");
       EXPECT_FALSE(window.isVisible());
-      type(window, "cmdSave", Qt::Key_Space);
-      save(window);
+      use(window, "cmdSave=Space cmdSave");
     });
     EXPECT_EQ(OptionsSaved, escape);
     EXPECT_EQ(file(), before);
@@ -201,7 +192,7 @@ TEST_F(Options, AreNotKeptOnTheOtherWaysOutNorByWhatComesTooLate) {
 TEST_F(Options, OfTheSizeTakeFourDigitsAndDropTheRest) {
   startWith("XResolution = 641|");
   options([](QWidget& window) {
-    page(window, 1);
+    use(window, "optOPT(1)");
     auto& box = get<QLineEdit>(window, "tbxCustRes(0)");
     box.setFocus();
     const auto paste = [&](const char* text) {
@@ -223,10 +214,12 @@ TEST_F(Options, OfTheSizeTakeFourDigitsAndDropTheRest) {
 TEST_F(Options, AreTurnedByTheWheelInFocusOnlyAndByTheEndOfADrag) {
   start();
   options([](QWidget& window) {
-    const std::tuple<int, const char*, const char*> rows[] = {
-        {2, "cmbInputType", "currentIndex"}, {4, "Drive1", "currentIndex"}, {3, "hslPPC", "value"}};
-    for (const auto& [index, name, property] : rows) {
-      page(window, index);
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"optOPT(2)", "cmbInputType", "currentIndex"},
+        {"optOPT(4)", "Drive1", "currentIndex"},
+        {"optOPT(3)", "hslPPC", "value"}};
+    for (const auto& [page, name, property] : rows) {
+      use(window, page);
       auto& box = get(window, name);
       const auto turn = [&, what = property, before = box.property(property)](int by) {
         QWheelEvent wheel({5, 5}, box.mapToGlobal(QPointF(5, 5)), {}, {0, by}, {}, {}, {}, false);

@@ -83,17 +83,21 @@ void UiTest::clickRow(const QListWidget& list, int row, bool twice) {
   if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
 }
 
-void UiTest::press(const QWidget& window, const std::string& name) {
-  auto& control = get(window, name);
-  QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(9, control.height() / 2));
+void UiTest::use(const QWidget& window, const QString& controls) {
+  for (const auto& part : controls.split(' ', Qt::SkipEmptyParts)) {
+    auto& control = get(window, part.section('=', 0, 0).toStdString());
+    const QKeySequence keys(part.section('=', 1));
+    if (keys.isEmpty())
+      QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(9, control.height() / 2));
+    else
+      QTest::keyClick(&control, keys[0].key());
+  }
 }
 
-void UiTest::type(const QWidget& window, const std::string& name, Qt::Key key, int times) {
-  for (; times > 0; --times) QTest::keyClick(&get(window, name), key);
-}
-
-void UiTest::answer(const QWidget& box, QMessageBox::StandardButton button) {
-  dynamic_cast<const QMessageBox&>(box).button(button)->click();
+void UiTest::answer(QMessageBox::StandardButton button, const std::function<void()>& action) {
+  WhenModal("", [=](QWidget& box) {
+    dynamic_cast<const QMessageBox&>(box).button(button)->click();
+  }).during(action);
 }
 
 void UiTest::options(std::function<void(QWidget&)> step) {

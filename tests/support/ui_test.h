@@ -56,17 +56,17 @@ class UiTest : public TempApp {
   void click(const char* name) const { QTest::mouseClick(&widget(name), Qt::LeftButton); }
   static void clickRow(const QListWidget& list, int row, bool twice = false);
   void clickRow(int row, bool twice = false) const { clickRow(list(), row, twice); }
-  // Near the left end, where a check box has its box.
-  static void press(const QWidget& window, const std::string& name);
-  static void type(const QWidget& window, const std::string& name, Qt::Key key, int times = 1);
-  static void answer(const QWidget& box, QMessageBox::StandardButton button);
+  // Clicks near the left end of controls, where a check box has its box, and keys in them: such as
+  // "chkMulti hslPPC=End".
+  static void use(const QWidget& window, const QString& controls);
+  // Does what asks something, and gives this answer.
+  static void answer(QMessageBox::StandardButton button, const std::function<void()>& action);
 
   // Runs the step in the options dialog of all games or of one; it is closed afterwards if it still
   // stands.
   void options(std::function<void(QWidget&)> step);
   void gameOptions(int row, std::function<void(QWidget&)> step);
-  static void page(const QWidget& options, int index) { press(options, indexed("optOPT", index)); }
-  static void save(const QWidget& options) { press(options, "cmdSave"); }
+  static void save(const QWidget& options) { use(options, "cmdSave"); }
 
   static std::string file() { return read("Config/Kestrivane.ini"); }
   // The saved file as startWith takes it, without the bindings.
