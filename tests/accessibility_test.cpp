@@ -71,10 +71,12 @@ TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKey) {
     ExpectAccessible(window());
     gameOptions(0, ExpectAccessible);
     options([&](QWidget& dialog) {
-      for (const int index : {0, 1, 3, 4, 2}) {
-        use(dialog, QString("optOPT(%1)").arg(index));
+      for (int index = 0; index < 5; ++index) {
+        EXPECT_TRUE(get(dialog, indexed("frmOPT", index)).isVisible());
         ExpectAccessible(dialog);
+        key(Qt::Key_Right);
       }
+      use(dialog, "optOPT(2)");
       const auto leave = [](QWidget& chooser) {
         ExpectAccessible(chooser);
         key(Qt::Key_Escape);
@@ -105,15 +107,15 @@ TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKey) {
 TEST_F(Accessibility, ValuesAndStatesAreTold) {
   support::FakeClock clock;
   write("roms/a.zip", "seconds=0\nend=error\n");
-  startWith(";KVLLanguage=1|");
+  startWith("Balance = 30|;KVLLanguage=1|");
   const auto* games = QAccessible::queryAccessibleInterface(&list());
   EXPECT_TRUE(games->child(0)->state().selected && !games->child(1)->state().selected);
   options([](QWidget& dialog) {
     key(Qt::Key_Right);
-    use(dialog, "hslVolume(1)=Left hslBalance=Left");
+    use(dialog, "hslVolume(1)=Left");
     EXPECT_EQ(told(dialog, {"optOPT(1)", "cmbRes", "hslVolume(1)", "hslBalance", "lstInput(3)"}),
               "Video *|Resolución 496x384|Música Volumen 99%|"
-              "Balance Trasero/Frontal +1% al Trasero|Botón 3 |");
+              "Balance Trasero/Frontal +30% al Frontal|Botón 3 |");
     const auto* cells = QAccessible::queryAccessibleInterface(&get(dialog, "lstInput(3)"));
     EXPECT_EQ(cells->child(1)->text(QAccessible::Name), "Coin1") << "the cell is empty";
     use(dialog, "optOPT(2)");
@@ -121,13 +123,16 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
     const auto plain = link.grab().toImage();
     link.setFocus();
     EXPECT_NE(link.grab().toImage(), plain) << "the focus is seen";
-    const WhenModal question("", [](QWidget& box) {
+    WhenModal("", [](QWidget& box) {
       const auto* yes = dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes);
       EXPECT_EQ(yes->text().toStdString(), "&Sí");
       EXPECT_FALSE(box.windowIcon().isNull());
-    });
-    use(dialog, "lblLoadDefaults");
+    }).during([&] { use(dialog, "lblLoadDefaults"); });
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    key(Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); })) << "the key of Save";
   });
+  EXPECT_EQ(saved(), "MusicVolume = 99|Balance = 30|;KVLLanguage=1|");
   clock.onSleep = [] { ExpectAccessible(*QApplication::activeModalWidget()); };
   const WhenModal report("Form4", ExpectAccessible);
   click("cmdPlay");

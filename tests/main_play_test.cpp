@@ -12,11 +12,6 @@ using namespace Module1;
 
 class MainPlay : public support::UiTest {
  protected:
-  void startWithGame(const std::string& archive) {
-    write("roms/a.zip", archive);
-    start();
-  }
-
   // In the first second, so that one or two are all that the play takes.
   void waitForEmulator() const {
     if (clock.sleeps.size() == 1) support::WaitForChild();
@@ -26,7 +21,8 @@ class MainPlay : public support::UiTest {
 };
 
 TEST_F(MainPlay, InGameWindowShowsTheGameItsClockAndTheKeys) {
-  startWithGame("seconds=0\nend=nolog\n");
+  write("roms/a.zip", "seconds=0\nend=nolog\n");
+  start();
   item("mLang(2)").trigger();
   clock.onSleep = [&] {
     auto& gaming = *QApplication::activeModalWidget();
@@ -48,7 +44,8 @@ TEST_F(MainPlay, InGameWindowShowsTheGameItsClockAndTheKeys) {
 }
 
 TEST_F(MainPlay, PauseGoesByTheLogAndAnEndWithoutOneIsSilent) {
-  startWithGame("");
+  write("roms/a.zip", "");
+  start();
   clock.onSleep = [this] { waitForEmulator(); };
   clock.firstSleepTakes = std::chrono::seconds(20);
   for (const std::string end : {"good", "nolog", "crash"}) {
@@ -66,7 +63,8 @@ TEST_F(MainPlay, PauseGoesByTheLogAndAnEndWithoutOneIsSilent) {
 }
 
 TEST_F(MainPlay, InputOfThePlayAndThePauseIsDropped) {
-  startWithGame("seconds=0\nend=good");
+  write("roms/a.zip", "seconds=0\nend=good");
+  start();
   const auto post = [](const QWidget& target, QEvent* event) {
     QApplication::postEvent(target.windowHandle(), event);
   };

@@ -44,11 +44,9 @@ TEST_F(OptionsFolders, AreUpToThreeThatCanBeAddedAndRemoved) {
     for (const std::string left : {"/s/<b>one*|/s/3|", "/s/3*|", ""}) {
       use(window, "cmdRemovePath(1)");
       EXPECT_EQ(folders(window, 1), left);
-      EXPECT_EQ(get(window, "lstFolders(1)").toolTip().toStdString() + "*|",
-                left.substr(0, left.find('|')) + (left.empty() ? "*|" : "|"))
-          << "of the selected row";
+      const auto tip = get(window, "lstFolders(1)").toolTip().toStdString();
+      EXPECT_TRUE(left.starts_with(tip) && tip.empty() == left.empty()) << "of the selected row";
     }
-    EXPECT_EQ(enabled(window, "cmdRemovePath"), "10000");
     save(window);
   });
   EXPECT_EQ(saved(), ";ROMpaths=" + hidden + "*" + hidden + "|");
