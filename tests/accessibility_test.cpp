@@ -1,7 +1,6 @@
 // What a screen reader is told of every window, in every language, and the access keys.
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QApplication>
 #include <QMenu>
 #include <QRegularExpression>
 #include <set>
@@ -10,8 +9,6 @@
 #include "support/ui_test.h"
 
 namespace {
-
-using support::WhenModal;
 
 void ExpectNamed(const QAccessibleInterface& control, std::set<std::pair<int, QString>>& taken) {
   const auto role = control.role();
@@ -82,25 +79,26 @@ TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKey) {
         key(Qt::Key_Escape);
         EXPECT_FALSE(chooser.isVisible());
       };
-      WhenModal("frmInput2", leave).during([&] { use(dialog, "lstInput(1)=Down lstInput(1)=F2"); });
+      inModal("frmInput2", leave, [&] { use(dialog, "lstInput(1)=Down lstInput(1)=F2"); });
       use(dialog, QString("cmbInputType=Down ").repeated(language));
-      const WhenModal advanced("frmFF", [](QWidget& pages) {
+      const auto turnPage = [](QWidget& pages) {
         ExpectAccessible(pages);
         use(pages, "optADV(1)");
         ExpectAccessible(pages);
-      });
-      use(dialog, "lblAdvOpts");
+      };
+      inModal("frmFF", turnPage, [&] { use(dialog, "lblAdvOpts"); });
     });
-    const WhenModal about("Form3", [&](QWidget& box) {
+    const auto closeAbout = [&](QWidget& box) {
       ExpectAccessible(box);
       EXPECT_EQ(textOf(box, "lblCredits"),
                 language == 1 ? "Traduzido em português por a comunidade Kestrivane UI" : "");
-      language == 0   ? key(Qt::Key_Escape)
-      : language == 1 ? QTest::mouseDClick(&get(box, "Image1"), Qt::LeftButton)
-                      : QTest::mouseDClick(&box, Qt::LeftButton);
-      EXPECT_FALSE(box.isVisible()) << language;
-    });
-    item("mAbout").trigger();
+      if (language == 0)
+        key(Qt::Key_Escape);
+      else
+        QTest::mouseDClick(language == 1 ? &get(box, "Image1") : &box, Qt::LeftButton);
+      EXPECT_FALSE(box.isVisible());
+    };
+    inModal("Form3", closeAbout, [&] { item("mAbout").trigger(); });
   }
 }
 
@@ -123,19 +121,19 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
     const auto plain = link.grab().toImage();
     link.setFocus();
     EXPECT_NE(link.grab().toImage(), plain) << "the focus is seen";
-    WhenModal("", [](QWidget& box) {
+    const auto look = [](QWidget& box) {
       const auto* yes = dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes);
       EXPECT_EQ(yes->text().toStdString(), "&Sí");
       EXPECT_FALSE(box.windowIcon().isNull());
-    }).during([&] { use(dialog, "lblLoadDefaults"); });
+    };
+    inModal("", look, [&] { use(dialog, "lblLoadDefaults"); });
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     key(Qt::Key_G, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); })) << "the key of Save";
   });
   EXPECT_EQ(saved(), "MusicVolume = 99|Balance = 30|;KVLLanguage=1|");
   clock.onSleep = [] { ExpectAccessible(*QApplication::activeModalWidget()); };
-  const WhenModal report("Form4", ExpectAccessible);
-  click("cmdPlay");
+  inModal("Form4", ExpectAccessible, [this] { click("cmdPlay"); });
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // The input table, the binding editor, the chooser, the input systems and the advanced options.
 #include <QAccessible>
-#include <QApplication>
 #include <QScrollBar>
 
 #include "support/ui_test.h"
@@ -8,7 +7,6 @@
 namespace {
 
 using namespace Module1;
-using support::WhenModal;
 
 class Inputs : public support::UiTest {
  protected:
@@ -23,13 +21,14 @@ class Inputs : public support::UiTest {
   }
   // What these controls open is a chooser, used so.
   static void choose(const QWidget& window, const char* opening, const char* picking) {
-    WhenModal("frmInput2", [=](QWidget& chooser) {
+    const auto pick = [=](QWidget& chooser) {
       EXPECT_FALSE(get(chooser, "cmdOK(0)").isEnabled() || get(chooser, "cmdOK(2)").isEnabled());
       use(chooser, picking);
-    }).during([&] { use(window, opening); });
+    };
+    inModal("frmInput2", pick, [&] { use(window, opening); });
   }
-  static void advanced(const QWidget& options, std::function<void(QWidget&)> step) {
-    WhenModal("frmFF", std::move(step)).during([&] { use(options, "optOPT(2) lblAdvOpts"); });
+  static void advanced(const QWidget& options, const std::function<void(QWidget&)>& step) {
+    inModal("frmFF", step, [&] { use(options, "optOPT(2) lblAdvOpts"); });
   }
   static void expectPage(const QWidget& advanced, int shown) {
     for (int index = 0; index < 4; ++index)
@@ -81,7 +80,7 @@ TEST_F(Inputs, AreEditedCellByCell) {
     auto* cell = QAccessible::queryAccessibleInterface(&column(window, 1))->child(3);
     EXPECT_EQ(cell->text(QAccessible::Name), "KEY_6");
     const auto pick = [](QWidget& chooser) { use(chooser, "cmbInputs(0)=End cmdOK(0)"); };
-    WhenModal("frmInput2", pick).during([&] {
+    inModal("frmInput2", pick, [&] {
       cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
       QApplication::processEvents();
     });

@@ -1,5 +1,4 @@
 // The start of the main window, its menus and languages, and the program's ends.
-#include <QApplication>
 #include <QDesktopServices>
 #include <QMenu>
 #include <QTextBrowser>
@@ -87,12 +86,12 @@ TEST_F(MainMenus, NvramsAreClearedAndTheHomepageOpensInTheBrowser) {
 
 TEST_F(MainMenus, FailureShowsABoxInTheConfiguredLanguageAndNoWindow) {
   std::filesystem::remove(path("Kestrivane.exe"));
-  const support::WhenModal answer("", [&](QWidget& box) {
+  const auto look = [&](QWidget& box) {
     EXPECT_EQ(box.windowTitle().toStdString() + textOf(box, "qt_msgbox_label"),
               "Erro!Kestrivane.exe não é encontrada na pasta deste programa!");
     EXPECT_FALSE(form->visible());
-  });
-  startWith(";KVLLanguage=2|");
+  };
+  inModal("", look, [this] { startWith(";KVLLanguage=2|"); });
   EXPECT_EQ(ends, std::vector<int>({1}));
   window().close();
   EXPECT_EQ(settings(), "") << "the unload step does nothing after a failure";

@@ -1,5 +1,4 @@
 // Playing a game: the in-game window, the count, and the report of a failed run.
-#include <QApplication>
 #include <QTimer>
 #include <QWindow>
 
@@ -99,17 +98,17 @@ TEST_F(MainPlay, DoubleClickPlaysAlsoWhatIsNotThereAndTextFromOutsideIsShownAsIt
     EXPECT_EQ(textOf(gaming, "lblGameTitle"), caption("lblGameTitle"));
   };
   clock.firstSleepTakes = std::chrono::seconds(21);
+  const auto leave = [&](QWidget& report) {
+    const auto text = textOf(report, "tbxError");
+    EXPECT_TRUE(text.starts_with("Error: there is no archive ")) << text;
+    EXPECT_TRUE(text.ends_with(LaunchRequest.RomName + ".zip\n")) << text;
+    EXPECT_FALSE(exists("error.log"));
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(report.isVisible());
+  };
   for (const int row : {0, 1}) {
     clock.sleeps.clear();
-    const support::WhenModal answer("Form4", [&](QWidget& report) {
-      const auto text = textOf(report, "tbxError");
-      EXPECT_TRUE(text.starts_with("Error: there is no archive ")) << text;
-      EXPECT_TRUE(text.ends_with(LaunchRequest.RomName + ".zip\n")) << text;
-      EXPECT_FALSE(exists("error.log"));
-      key(Qt::Key_Escape);
-      EXPECT_FALSE(report.isVisible());
-    });
-    clickRow(row, true);
+    inModal("Form4", leave, [&] { clickRow(row, true); });
   }
   EXPECT_EQ(caption("lblTP"), "Play Count: 1\r\nPlay Time: 0:00:21");
 }

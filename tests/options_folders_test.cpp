@@ -6,7 +6,6 @@
 namespace {
 
 using namespace Module1;
-using support::WhenModal;
 
 class OptionsFolders : public support::UiTest {
  protected:
@@ -132,10 +131,12 @@ TEST_F(OptionsFolders, LockThePageWhileAShaderIsChosen) {
     const std::pair<const char*, const char*> refused[] = {
         {"cmdAddPath(3)", "The selected folder is empty!"},
         {"cmdRemovePath(0)", "Select an item from the list."}};
-    for (const auto& [button, text] : refused)
-      WhenModal("", [text = text](QWidget& box) {
-        EXPECT_EQ(textOf(box, "qt_msgbox_label"), text);
-      }).during([&, button = button] { use(window, button); });
+    for (const auto& [name, text] : refused) {
+      const auto look = [&, told = text](QWidget& box) {
+        EXPECT_EQ(textOf(box, "qt_msgbox_label"), told);
+      };
+      inModal("", look, [&, button = name] { use(window, button); });
+    }
     EXPECT_EQ(folders(window, 0), "/r|");
     goTo(window, "shaders");
     use(window, "cmdAddPath(3)");

@@ -1,6 +1,5 @@
 // The options dialog: what it shows in either scope, what a save leaves in the file, the ways out,
 // and the restoring of a game.
-#include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QScrollBar>

@@ -1,8 +1,8 @@
 #include "support/ui_test.h"
 
-#include <QApplication>
 #include <QHelpEvent>
 #include <QRegularExpression>
+#include <QTimer>
 #include <QToolTip>
 #include <cstdlib>
 
@@ -94,21 +94,37 @@ void UiTest::use(const QWidget& window, const QString& controls) {
   }
 }
 
+void UiTest::inModal(const char* name, const std::function<void(QWidget&)>& step,
+                     const std::function<void()>& action) {
+  bool done = false;
+  int patience = 2000;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* modal = QApplication::activeModalWidget();
+    const bool wanted = modal && modal->isActiveWindow() && modal->objectName() == name;
+    if (!wanted && --patience > 0) return;
+    timer.stop();
+    done = wanted;
+    if (wanted) step(*modal);
+    if (modal) modal->close();
+  });
+  timer.start(5);
+  action();
+  EXPECT_TRUE(done) << "no window " << name;
+}
+
 void UiTest::answer(QMessageBox::StandardButton button, const std::function<void()>& action) {
-  WhenModal("", [=](QWidget& box) {
-    dynamic_cast<const QMessageBox&>(box).button(button)->click();
-  }).during(action);
+  const auto press = [&](QWidget& box) { dynamic_cast<QMessageBox&>(box).button(button)->click(); };
+  inModal("", press, action);
 }
 
-void UiTest::options(std::function<void(QWidget&)> step) {
-  const WhenModal modal("Form2", std::move(step));
-  item("mConfig").trigger();
+void UiTest::options(const std::function<void(QWidget&)>& step) {
+  inModal("Form2", step, [this] { item("mConfig").trigger(); });
 }
 
-void UiTest::gameOptions(int row, std::function<void(QWidget&)> step) {
-  const WhenModal modal("Form2", std::move(step));
+void UiTest::gameOptions(int row, const std::function<void(QWidget&)>& step) {
   clickRow(row);
-  click("cmdConfGame");
+  inModal("Form2", step, [this] { click("cmdConfGame"); });
 }
 
 std::string UiTest::saved() {
@@ -120,23 +136,6 @@ std::string UiTest::saved() {
          line.starts_with("InputMouse")))
       text += std::string(line) + "|";
   return text;
-}
-
-WhenModal::WhenModal(const char* name, std::function<void(QWidget&)> step)
-    : name_(name), step_(std::move(step)) {
-  startTimer(5);
-}
-
-WhenModal::~WhenModal() { EXPECT_TRUE(done_) << "no window " << name_.toStdString(); }
-
-void WhenModal::timerEvent(QTimerEvent* event) {
-  auto* modal = QApplication::activeModalWidget();
-  const bool wanted = modal && modal->isActiveWindow() && modal->objectName() == name_;
-  if (!wanted && --patience_ > 0) return;
-  killTimer(event->timerId());
-  done_ = wanted;
-  if (wanted) step_(*modal);
-  if (modal) modal->close();
 }
 
 }  // namespace support

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
@@ -59,13 +60,15 @@ class UiTest : public TempApp {
   // Clicks near the left end of controls, where a check box has its box, and keys in them: such as
   // "chkMulti hslPPC=End".
   static void use(const QWidget& window, const QString& controls);
-  // Does what asks something, and gives this answer.
+  // Does what opens a modal window of this name, "" for a message box, and runs the step in it; it
+  // is closed afterwards if it still stands. If it doesn't come within seconds, the test fails.
+  static void inModal(const char* name, const std::function<void(QWidget&)>& step,
+                      const std::function<void()>& action);
   static void answer(QMessageBox::StandardButton button, const std::function<void()>& action);
 
-  // Runs the step in the options dialog of all games or of one; it is closed afterwards if it still
-  // stands.
-  void options(std::function<void(QWidget&)> step);
-  void gameOptions(int row, std::function<void(QWidget&)> step);
+  // The same in the options dialog of all games or of one.
+  void options(const std::function<void(QWidget&)>& step);
+  void gameOptions(int row, const std::function<void(QWidget&)>& step);
   static void save(const QWidget& options) { use(options, "cmdSave"); }
 
   static std::string file() { return read("Config/Kestrivane.ini"); }
@@ -74,26 +77,6 @@ class UiTest : public TempApp {
 
   std::unique_ptr<ui::Form1> form;
   std::vector<int> ends;  // exit statuses
-};
-
-// Runs `step` once on the next modal window of this name, and closes it. No name: the next message
-// box. If it doesn't come within seconds, the test fails.
-class WhenModal : public QObject {
- public:
-  WhenModal(const char* name, std::function<void(QWidget&)> step);
-  ~WhenModal() override;
-
-  // Does what opens the window. At the end of the statement it must have come.
-  void during(const std::function<void()>& action) && { action(); }
-
- protected:
-  void timerEvent(QTimerEvent* event) override;
-
- private:
-  QString name_;
-  std::function<void(QWidget&)> step_;
-  int patience_ = 2000;
-  bool done_ = false;
 };
 
 // Of what a window shows, nothing lies on something else unless it is meant to, all is inside its
