@@ -60,11 +60,22 @@ class Accessibility : public support::UiTest {
   }
 };
 
-TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKey) {
+TEST_F(Accessibility, EveryControlOfEveryWindowHasItsNameAndKeyInEveryLanguage) {
+  constexpr const char* kTexts[] = {"&Spanish, PLAY!, detected)", "Espanhol, JOGAR!, detectado)",
+                                    "&Español, JUGAR!, detectado)"};
   start();
   for (int language = 0; language < 3; ++language) {
     SCOPED_TRACE(language);
+    clickRow(1);
+    widget("cmdConfGame").setFocus();
     item(indexed("mLang", language)).trigger();
+    const auto title = window().windowTitle().section(' ', -1).toStdString();
+    EXPECT_EQ(item("mLang(2)").text().toStdString() + ", " + caption("cmdPlay") + ", " + title,
+              kTexts[language]);
+    for (int index = 0; index < 3; ++index)
+      EXPECT_EQ(item(indexed("mLang", index)).isChecked(), index == language);
+    EXPECT_EQ(rows(list()), "A*|B|");
+    EXPECT_EQ(window().focusWidget(), &list());
     ExpectAccessible(window());
     gameOptions(0, ExpectAccessible);
     options([&](QWidget& dialog) {

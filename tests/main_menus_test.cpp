@@ -1,4 +1,4 @@
-// The start of the main window, its menus and languages, and the program's ends.
+// The start of the main window, its menus, and the program's ends.
 #include <QDesktopServices>
 #include <QMenu>
 #include <QTextBrowser>
@@ -8,26 +8,6 @@
 namespace {
 
 class MainMenus : public support::UiTest {};
-
-TEST_F(MainMenus, LanguageChangesTheWindowAtOnce) {
-  const std::pair<int, const char*> languages[] = {{1, "Espanhol JOGAR! detectado)"},
-                                                   {1, "Espanhol JOGAR! detectado)"},
-                                                   {2, "&Español JUGAR! detectado)"},
-                                                   {0, "&Spanish PLAY! detected)"}};
-  start();
-  for (const auto& [language, texts] : languages) {
-    clickRow(1);
-    widget("cmdConfGame").setFocus();
-    item(indexed("mLang", language)).trigger();
-    const auto title = window().windowTitle().section(' ', -1).toStdString();
-    EXPECT_EQ(item("mLang(2)").text().toStdString() + " " + caption("cmdPlay") + " " + title,
-              texts);
-    for (int index = 0; index < 3; ++index)
-      EXPECT_EQ(item(indexed("mLang", index)).isChecked(), index == language);
-    EXPECT_EQ(rows(list()), "A*|B|");
-    EXPECT_TRUE(list().hasFocus());
-  }
-}
 
 TEST_F(MainMenus, KeysOpenMenusAndOnlyTheTitleBarEndsWithTheUnloadStep) {
   write("roms/a.zip", "");
