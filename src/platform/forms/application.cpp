@@ -28,28 +28,6 @@ void SleepAnswering(std::chrono::milliseconds time) {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-bool IsInput(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::Shortcut:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletRelease:
-      return true;
-    default:
-      return false;
-  }
-}
-
 bool dropsInput = false;
 
 // What holds for every window.
@@ -64,7 +42,7 @@ class Rules : public QObject {
       case QEvent::ToolTip:
         return watched->isWidgetType() && showToolTip(*static_cast<QWidget*>(watched), *event);
       default:
-        return dropsInput && IsInput(event->type());
+        return dropsInput && IsInput(*event);
     }
   }
 
@@ -99,6 +77,28 @@ class Rules : public QObject {
 };
 
 }  // namespace
+
+bool IsInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+      return true;
+    default:
+      return false;
+  }
+}
 
 struct Application::Native {
   // The toolkit wants a command line for as long as it lives; the program has none.

@@ -37,11 +37,6 @@ Qt::WindowFlags FlagsOf(Border border) {
   return Qt::Dialog | Qt::FramelessWindowHint;
 }
 
-bool IsInput(QEvent::Type type) {
-  return type == QEvent::KeyPress || type == QEvent::MouseButtonPress ||
-         type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
-}
-
 class FormWindow : public QMainWindow {
  public:
   FormWindow(Form& form, Border border) : QMainWindow(nullptr, FlagsOf(border)), form_(form) {
@@ -87,7 +82,7 @@ class FormWindow : public QMainWindow {
     if (!watched->isWidgetType()) return false;
     auto* target = static_cast<QWidget*>(watched);
     // The system may still hold keys and clicks for a window that has closed.
-    if (IsInput(event->type()) && target->window() == this && !isVisible()) return true;
+    if (IsInput(*event) && target->window() == this && !isVisible()) return true;
     if (event->type() != QEvent::KeyPress) return false;
     // An event that a control ignores climbs to its parents; the form has seen it by then.
     const QWidget* focus = QApplication::focusWidget();

@@ -7,6 +7,7 @@
 #include "base/quietly.h"
 
 class QColor;
+class QEvent;
 class QFont;
 class QPaintEvent;
 class QPalette;
@@ -24,6 +25,9 @@ template <class Handler, class... Arguments>
 void Raise(const Handler& handler, Arguments&&... arguments) {
   if (handler) base::Quietly([&] { handler(std::forward<Arguments>(arguments)...); });
 }
+
+// What a person does, and what the toolkit makes of it.
+bool IsInput(const QEvent& event);
 
 int ToPixels(int twips);
 QRect ToPixels(const Box& box);
