@@ -30,6 +30,6 @@ for place in ru_RU ja_JP; do
     export LOCPATH=$PWD/$build/locale LC_ALL=$place.UTF-8
     mkdir -p "$LOCPATH"
     [[ -e $LOCPATH/$LC_ALL ]] || localedef -i "$place" -f UTF-8 "$LOCPATH/$LC_ALL"
-    wineserver -k -w || true
+    stop_wine
     wine "$tests" --gtest_brief=1 --gtest_filter='*CodePageIsTheSystems'
 done

@@ -44,7 +44,7 @@ click() { # x, y
 scale_desktop() { # dots per inch
     dpi=$1
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
-    wineserver -k -w || true
+    stop_wine
     start_wine "$build"
 }
 

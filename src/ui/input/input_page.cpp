@@ -119,7 +119,7 @@ void InputPage::ClearRawInputNames() {
 }
 
 void InputPage::lblLoadDefaults_Click() {
-  if (!AskForDefaults()) return;
+  if (!AskForDefaults(form_)) return;
   core::ResetInputsToDefaults(Profiles);
   LoadBindings();
   if (inputSystem() == core::kRawInput) ApplyRawInputNames();

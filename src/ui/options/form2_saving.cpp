@@ -71,8 +71,7 @@ core::Profile* Form2::RowInHand() {
 }
 
 void Form2::lblGameDef_Click() {
-  if (!AskForDefaults() || Profiles.size() <= 2) return;
-  if (!visible()) return;  // closed while its question went: the scope may be another's
+  if (!AskForDefaults(*this) || Profiles.size() <= 2) return;
   if (const auto rows = core::RowsOfGame(game().RomName); !rows.empty()) {
     if (rows.front() + 1 < Profiles.size()) Profiles[rows.front()] = std::move(Profiles.back());
     Profiles.pop_back();

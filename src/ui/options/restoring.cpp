@@ -5,11 +5,13 @@
 
 namespace ui {
 
-bool AskForDefaults() {
+bool AskForDefaults(const forms::Form& asking) {
   using i18n::Message;
   using i18n::Msg;
   return forms::MsgBox(Msg(Message::RestoreQuestion), forms::Buttons::YesNo,
-                       forms::BoxIcon::Question, Msg(Message::Confirmation)) == forms::Answer::Yes;
+                       forms::BoxIcon::Question,
+                       Msg(Message::Confirmation)) == forms::Answer::Yes &&
+         asking.visible();
 }
 
 }  // namespace ui
