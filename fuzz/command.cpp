@@ -23,8 +23,9 @@ bool HasZero(std::string_view text) { return text.find('\0') != text.npos; }
 }  // namespace
 
 void fuzz::Examine(std::string_view bytes) {
-  static const TempApp app(
-      {"Kestrivane.exe", "a.exe", "a b.exe", "sub/Run.exe", "sub dir/a", "plain", "folder.exe/x"});
+  static const auto folder = MakeApp({"Kestrivane.exe", "a.exe", "a b.exe", "sub/Run.exe",
+                                      "sub dir/a", "plain", "folder.exe/x"})
+                                 .string();
   const auto command = platform::FindCommand(bytes);
   if (!command) return;
 
@@ -47,7 +48,6 @@ void fuzz::Examine(std::string_view bytes) {
            (name.ends_with(".exe") &&
             line == Bare(std::string(name.substr(0, name.size() - 4)) + arguments));
   };
-  const auto& folder = app.folder().string();
   Require(fits(program) || (program.starts_with("./") && fits(program.substr(2))) ||
               (program.starts_with(folder) && fits(program.substr(folder.size()))),
           "program and arguments are the line");

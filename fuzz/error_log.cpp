@@ -8,8 +8,8 @@
 #include "support.h"
 
 void fuzz::Examine(std::string_view bytes) {
-  static const TempApp app;
-  std::ofstream(app.folder() / "error.log", std::ios::binary) << bytes;
+  static const auto folder = MakeApp();
+  std::ofstream(folder / "error.log", std::ios::binary) << bytes;
   Module1::ErrorText = "as before";
   const bool failed = launch::ReadErrorLog();
 
@@ -20,5 +20,5 @@ void fuzz::Examine(std::string_view bytes) {
   Require(failed != good, "the good end decides");
   Require(Module1::ErrorText == (failed ? report : "as before"), "the report is the rest");
   Require(IsUtf8(Module1::ErrorText), "the report is UTF-8");
-  Require(!exists(app.folder() / "error.log"), "the file is gone");
+  Require(!exists(folder / "error.log"), "the file is gone");
 }

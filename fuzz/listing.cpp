@@ -49,7 +49,7 @@ void ParseAndCheck(std::string_view line, core::GameListing& listing) {
 }  // namespace
 
 void fuzz::Examine(std::string_view bytes) {
-  static const TempApp app({"roms/game_a.zip"});
+  static const auto folder = MakeApp({"roms/game_a.zip"});
   core::GameListing listing;
   auto& GameCatalog = listing.GameCatalog;
   const auto text = platform::DecodeCodePage(bytes);

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <stdexcept>
 
 #include "base/quietly.h"
 #include "core/module1.h"
@@ -31,20 +30,19 @@ void Require(bool holds, const char* what) {
   std::abort();
 }
 
-TempApp::TempApp(std::initializer_list<std::string_view> files) {
+std::filesystem::path MakeApp(std::initializer_list<std::string_view> files) {
   auto name = (std::filesystem::temp_directory_path() / "kestrivane-fuzz-XXXXXX").string();
-  if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  folder_ = name;
+  Require(mkdtemp(name.data()), "a folder can be made");
+  const std::filesystem::path folder = name;
   for (const auto file : files) {
-    std::filesystem::create_directories((folder_ / file).parent_path());
-    std::ofstream(folder_ / file).flush();
+    std::filesystem::create_directories((folder / file).parent_path());
+    std::ofstream(folder / file).flush();
   }
   Module1::AppFolder = name;
   platform::SetProgramFolder(name);
   platform::SetWorkingFolder(name);
+  return folder;
 }
-
-TempApp::~TempApp() { std::filesystem::remove_all(folder_); }
 
 }  // namespace fuzz
 

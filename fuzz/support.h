@@ -18,19 +18,8 @@ void Require(bool holds, const char* what);
 
 using base::IsUtf8;
 
-// A folder of this run's own as AppFolder, program folder and working folder; gone at its end.
-class TempApp {
- public:
-  // Holds an empty file of each of these names, in folders of its own.
-  explicit TempApp(std::initializer_list<std::string_view> files = {});
-  ~TempApp();
-  TempApp(const TempApp&) = delete;
-  TempApp& operator=(const TempApp&) = delete;
-
-  const std::filesystem::path& folder() const { return folder_; }
-
- private:
-  std::filesystem::path folder_;
-};
+// A new folder as AppFolder, program folder and working folder, with an empty file of each of these
+// names. Its parent is the run's own and goes with the run.
+std::filesystem::path MakeApp(std::initializer_list<std::string_view> files = {});
 
 }  // namespace fuzz

@@ -12,31 +12,27 @@ class MainMenus : public support::UiTest {};
 TEST_F(MainMenus, KeysOpenMenusAndOnlyTheTitleBarEndsWithTheUnloadStep) {
   write("roms/a.zip", "");
   start();
-  const auto menu = [] {
+  const auto menuAfter = [](const char* pressed) {
+    key(QKeySequence(pressed));
     QApplication::processEvents();
     const auto* popup = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
     return popup ? popup->menuAction()->objectName().toStdString() : "";
   };
-  key(Qt::Key_H, Qt::AltModifier);
-  EXPECT_EQ(menu(), "mHelp");
-  key(Qt::Key_Escape);
-  EXPECT_TRUE(menu().empty() && !list().hasFocus()) << "the bar has it";
-  key(Qt::Key_Escape);
-  EXPECT_TRUE(list().hasFocus());
-  widget("cmdConfGame").setFocus();
-  key(Qt::Key_F10);
-  key(Qt::Key_Right);
-  EXPECT_EQ(menu(), "mTools");
-  key(Qt::Key_Escape);
-  QApplication::processEvents();
-  EXPECT_TRUE(widget("cmdConfGame").hasFocus());
+  EXPECT_EQ(menuAfter("Alt+H"), "mHelp");
+  EXPECT_TRUE(menuAfter("Esc").empty() && !list().hasFocus()) << "the bar has it";
+  EXPECT_TRUE(menuAfter("Esc").empty() && list().hasFocus());
+  auto& button = get(window(), "cmdConfGame");
+  button.setFocus();
+  menuAfter("F10");
+  EXPECT_EQ(menuAfter("Right"), "mTools");
+  EXPECT_TRUE(menuAfter("Esc").empty() && button.hasFocus());
   for (const auto held : {Qt::Key_Escape, Qt::Key_Return})
     QTest::simulateEvent(window().windowHandle(), true, held, Qt::NoModifier, {}, true);
   EXPECT_TRUE(ends.empty()) << "a key held down closes and opens nothing";
-  item("mExit").trigger();
+  use("mExit");
   for (const auto* name : {"lstGames", "cmdPlay", "cmdConfGame", "optGames(0)"}) {
-    widget(name).setFocus();
-    key(Qt::Key_Escape);
+    get(window(), name).setFocus();
+    use("=Esc");
   }
   EXPECT_EQ(ends, std::vector<int>(5, 0));
   EXPECT_EQ(settings(), "");
@@ -47,10 +43,10 @@ TEST_F(MainMenus, KeysOpenMenusAndOnlyTheTitleBarEndsWithTheUnloadStep) {
 
 TEST_F(MainMenus, NvramsAreClearedAndTheHomepageOpensInTheBrowser) {
   start();
-  item("mClearNVRAM").trigger();
+  use("mClearNVRAM");
   for (const auto* name : {"NVRAM/a.nv", "NVRAM/B.NV", "NVRAM/c.nvx", "NVRAM/d.nv/e.nv"})
     write(name, "");
-  item("mClearNVRAM").trigger();
+  use("mClearNVRAM");
   EXPECT_FALSE(exists("NVRAM/a.nv") || exists("NVRAM/B.NV"));
   EXPECT_TRUE(exists("NVRAM/c.nvx") && exists("NVRAM/d.nv/e.nv"));
   if (!support::kPosix) return;  // the system opens the page there, not the toolkit
@@ -59,7 +55,7 @@ TEST_F(MainMenus, NvramsAreClearedAndTheHomepageOpensInTheBrowser) {
   QObject::connect(&browser, &QTextBrowser::anchorClicked,
                    [&](const QUrl& address) { opened = address.toString(); });
   QDesktopServices::setUrlHandler("https", &browser, "anchorClicked");
-  item("mHomepage").trigger();
+  use("mHomepage");
   QDesktopServices::unsetUrlHandler("https");
   EXPECT_EQ(opened, "https://kestrivane-ui.example/");
 }
@@ -67,11 +63,10 @@ TEST_F(MainMenus, NvramsAreClearedAndTheHomepageOpensInTheBrowser) {
 TEST_F(MainMenus, FailureShowsABoxInTheConfiguredLanguageAndNoWindow) {
   std::filesystem::remove(path("Kestrivane.exe"));
   const auto look = [&](QWidget& box) {
-    EXPECT_EQ(box.windowTitle().toStdString() + textOf(box, "qt_msgbox_label"),
-              "Erro!Kestrivane.exe não é encontrada na pasta deste programa!");
+    see(box);
     EXPECT_FALSE(form->visible());
   };
-  inModal("", look, [this] { startWith(";KVLLanguage=2|"); });
+  inModal(look, [this] { startWith(";KVLLanguage=2|"); });
   EXPECT_EQ(ends, std::vector<int>({1}));
   window().close();
   EXPECT_EQ(settings(), "") << "the unload step does nothing after a failure";

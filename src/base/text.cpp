@@ -90,9 +90,8 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view wanted) {
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                              [](char x, char y) { return Lower(x) == Lower(y); });
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 std::string ReplaceIgnoringCase(std::string_view text, std::string_view wanted,

@@ -80,13 +80,6 @@ click_and_type
 write_archive "$app" 1 error # another play would end with a report, and stay at that
 expect_main_window 10
 
-echo "Escape held down closes one window and not the next"
-open_options
-xdotool keydown Escape
-expect_main_window
-! wait_until 2 has_ended || fail "the next one closed"
-xdotool keyup Escape
-
 echo "A play that fails shows the report"
 play
 expect_window " Kestrivane has encountered an error:"
@@ -96,13 +89,3 @@ expect_main_window
 expect_counted "1,2[2-9]"
 press Escape
 expect_end 0
-
-echo "The emulator outlives the front-end"
-write_archive "$app" 3 good
-start_to_main_window "$app"
-play
-beside=$(pgrep -P "$front_end")
-kill -TERM -- "-$front_end" # and whatever is tied to it
-expect_end 143
-wait_until 10 grep -q "terminated normally" "$app/error.log" || fail "the emulator ended with it"
-beside=

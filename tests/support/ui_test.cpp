@@ -8,7 +8,6 @@
 #include <cstdlib>
 
 #include "base/text.h"
-#include "platform/code_page.h"
 #include "platform/forms/application.h"
 
 namespace support {
@@ -32,21 +31,10 @@ const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
 
 }  // namespace
 
-std::string UiTest::textOf(const QWidget& window, const std::string& name) {
+std::string UiTest::textOf(const QWidget& window, const char* name) {
   const auto& child = get(window, name);
   const auto text = child.property("text");
   return (text.isValid() ? text : child.property("plainText")).toString().toStdString();
-}
-
-std::string UiTest::indexed(const char* name, int index) {
-  return name + ("(" + std::to_string(index) + ")");
-}
-
-std::string UiTest::rows(const QListWidget& list) {
-  std::string text;
-  for (int row = 0; row < list.count(); ++row)
-    text += list.item(row)->text().toStdString() + (list.item(row)->isSelected() ? "*|" : "|");
-  return text;
 }
 
 std::string UiTest::tipAt(QWidget& widget, QPoint at) {
@@ -76,72 +64,82 @@ void UiTest::startWith(const std::string& lines) {
   start();
 }
 
-void UiTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void UiTest::key(const QKeySequence& key) {
   const auto* popup = QApplication::activePopupWidget();
   const auto* target = popup ? popup : QApplication::activeWindow();
   ASSERT_TRUE(target) << "no window takes keys";
-  QTest::keyClick(target->windowHandle(), key, modifiers);
+  QTest::keyClick(target->windowHandle(), key[0].key(), key[0].keyboardModifiers());
 }
 
-void UiTest::clickRow(const QListWidget& list, int row, bool twice) {
-  const auto at = list.visualItemRect(list.item(row)).center();
-  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
-  if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
-}
-
-void UiTest::use(const QWidget& window, const QString& controls) {
-  for (const auto& part : controls.split(' ', Qt::SkipEmptyParts)) {
-    auto& control = get(window, part.section('=', 0, 0).toStdString());
-    const QKeySequence keys(part.section('=', 1));
-    if (keys.isEmpty())
-      QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(9, control.height() / 2));
-    else
-      QTest::keyClick(&control, keys[0].key());
+void UiTest::use(QWidget& window, const QString& steps) {
+  for (qsizetype at = 0; at < steps.size();) {
+    auto end = at;
+    while (end < steps.size() && steps[end] != ' ' && steps[end] != '{') ++end;
+    const auto step = steps.mid(at, end - at);
+    note("> " + step.toStdString());
+    if (steps.mid(end, 1) == "{") {
+      const auto start = ++end;
+      for (int depth = 1; depth > 0; ++end)
+        depth += steps.at(end) == '{' ? 1 : steps.at(end) == '}' ? -1 : 0;
+      const auto inside = [&](QWidget& opened) {
+        see(opened);
+        use(opened, steps.mid(start, end - 1 - start));
+        note(opened.isVisible() ? "< left" : "<");
+      };
+      inModal(inside, [&] { act(window, step); });
+    } else {
+      act(window, step);
+    }
+    if (window.isVisible()) see(window);
+    seeState();
+    at = end + 1;
   }
 }
 
-void UiTest::inModal(const char* name, const std::function<void(QWidget&)>& step,
+void UiTest::act(QWidget& window, const QString& step) {
+  static const QRegularExpression form("^([^=@]*)(=|@*)(.*)$");
+  const auto parts = form.match(step);
+  const auto name = parts.captured(1), kind = parts.captured(2), what = parts.captured(3);
+  static const QMap<QString, QMessageBox::StandardButton> buttons = {
+      {"Yes", QMessageBox::Yes},
+      {"No", QMessageBox::No},
+      {"Cancel", QMessageBox::Cancel},
+      {"Ok", QMessageBox::Ok}};
+  if (auto* box = qobject_cast<QMessageBox*>(&window))
+    return box->button(buttons.value(name))->click();
+  if (name.isEmpty()) return key(QKeySequence(what));
+  if (auto* menu = window.findChild<QAction*>(name)) return menu->trigger();
+  auto& control = get(window, name);
+  if (kind == "=") return QTest::keyClick(&control, QKeySequence(what)[0].key());
+  auto* target = &control;
+  QPoint place(9, control.height() / 2);
+  if (const auto* list = qobject_cast<const QListWidget*>(&control); list && !kind.isEmpty()) {
+    target = list->viewport();
+    place = list->visualItemRect(list->item(what.toInt())).center();
+  }
+  QTest::mouseClick(target, Qt::LeftButton, {}, place);
+  if (kind == "@@") QTest::mouseDClick(target, Qt::LeftButton, {}, place);
+}
+
+void UiTest::inModal(const std::function<void(QWidget&)>& step,
                      const std::function<void()>& action) {
+  const auto* before = QApplication::activeModalWidget();
   bool done = false;
   int patience = 2000;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
     auto* modal = QApplication::activeModalWidget();
-    const bool wanted = modal && modal->isActiveWindow() && modal->objectName() == name;
-    if (!wanted && --patience > 0) return;
+    const bool opened = modal && modal != before && modal->isActiveWindow() &&
+                        modal->objectName() != "frmGaming";  // that goes by itself
+    if (!opened && --patience > 0) return;
     timer.stop();
-    done = wanted;
-    if (wanted) step(*modal);
-    if (modal) modal->close();
+    done = opened;
+    if (opened) step(*modal);
+    if (modal != before) modal->close();
   });
   timer.start(5);
   action();
-  EXPECT_TRUE(done) << "no window " << name;
-}
-
-void UiTest::answer(QMessageBox::StandardButton button, const std::function<void()>& action) {
-  const auto press = [&](QWidget& box) { dynamic_cast<QMessageBox&>(box).button(button)->click(); };
-  inModal("", press, action);
-}
-
-void UiTest::options(const std::function<void(QWidget&)>& step) {
-  inModal("Form2", step, [this] { item("mConfig").trigger(); });
-}
-
-void UiTest::gameOptions(int row, const std::function<void(QWidget&)>& step) {
-  clickRow(row);
-  inModal("Form2", step, [this] { click("cmdConfGame"); });
-}
-
-std::string UiTest::saved() {
-  std::string text;
-  const auto decoded = platform::DecodeCodePage(file());
-  for (const auto line : base::Split(decoded, base::kLineEnd))
-    if (!line.empty() && !line.starts_with(";*") && line != "[ Global ]" &&
-        (!line.starts_with("Input") || line.starts_with("InputKey") ||
-         line.starts_with("InputMouse")))
-      text += std::string(line) + "|";
-  return text;
+  EXPECT_TRUE(done) << "no window opened";
 }
 
 }  // namespace support

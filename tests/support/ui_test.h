@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QMap>
 #include <QMessageBox>
 #include <QTest>
 #include <functional>
@@ -19,10 +20,15 @@ namespace support {
 
 // The main window over a fresh AppFolder with an emulator of two games, driven by object names and
 // real events. The end of the program is noted and does not happen.
+//
+// What the steps change is noted: in the windows, the options in force, and the saved file. A test
+// ends by comparing its notes with those kept in tests/seen. With SEEN_ANEW in the environment it
+// keeps the new ones, to be read before they are committed.
 class UiTest : public TempApp {
  protected:
   UiTest();
   ~UiTest() override;
+  void TearDown() override;
 
   // Loads the main window and waits until it is active.
   void start();
@@ -30,53 +36,57 @@ class UiTest : public TempApp {
   // heading of all games.
   void startWith(const std::string& lines);
 
-  QWidget& window() const { return *form->clientArea()->window(); }
-  QWidget& widget(const char* name) const { return get(window(), name); }
-  QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
-  QAction& item(const std::string& name) const { return get<QAction>(window(), name); }
-  std::string caption(const char* name) const { return textOf(window(), name); }
+  // Does these steps, each ended by a blank:
+  //   cmdSave        a click near the left end, where a check box has its box; a menu item's choice
+  //   lstGames@1     a click on a row, "@@1" a double click, "@@" one on a control without rows
+  //   hslPPC=End     a key in a control, "=Esc" in the window
+  //   mConfig{...}   steps in the window that this one opens; it is closed if they leave it open
+  // A message box has the buttons Yes, No, Cancel and Ok.
+  void use(QWidget& window, const QString& steps);
+  void use(const QString& steps) { use(window(), steps); }
+  // Does what opens a modal window and runs the step in it. If it doesn't come within seconds, the
+  // test fails.
+  void inModal(const std::function<void(QWidget&)>& step, const std::function<void()>& action);
+  // A key to the active window.
+  static void key(const QKeySequence& key);
 
+  void note(const std::string& line);
+  // Notes what has changed of what a window shows and tells assistive technology.
+  void see(const QWidget& window);
+
+  QWidget& window() const { return *form->clientArea()->window(); }
+  QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
   // What has this name in a window, and the text of a label, button or text box there.
   template <class T = QWidget>
-  static T& get(const QWidget& window, const std::string& name) {
-    auto* child = window.findChild<T*>(QString::fromStdString(name));
-    if (!child) throw std::runtime_error("nothing is called " + name);
+  static T& get(const QWidget& window, const QString& name) {
+    auto* child = window.findChild<T*>(name);
+    if (!child) throw std::runtime_error("nothing is called " + name.toStdString());
     return *child;
   }
-  static std::string textOf(const QWidget& window, const std::string& name);
-  static std::string indexed(const char* name, int index);
-
-  // The rows of a list, a star behind those that are selected, each ended by "|".
-  static std::string rows(const QListWidget& list);
-
+  static std::string textOf(const QWidget& window, const char* name);
   // The tool tip, markup and all, that comes up there.
   static std::string tipAt(QWidget& widget, QPoint at);
 
-  // Key and mouse events as the window system sends them.
-  static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-  void click(const char* name) const { QTest::mouseClick(&widget(name), Qt::LeftButton); }
-  static void clickRow(const QListWidget& list, int row, bool twice = false);
-  void clickRow(int row, bool twice = false) const { clickRow(list(), row, twice); }
-  // Clicks near the left end of controls, where a check box has its box, and keys in them: such as
-  // "chkMulti hslPPC=End".
-  static void use(const QWidget& window, const QString& controls);
-  // Does what opens a modal window of this name, "" for a message box, and runs the step in it; it
-  // is closed afterwards if it still stands. If it doesn't come within seconds, the test fails.
-  static void inModal(const char* name, const std::function<void(QWidget&)>& step,
-                      const std::function<void()>& action);
-  static void answer(QMessageBox::StandardButton button, const std::function<void()>& action);
-
-  // The same in the options dialog of all games or of one.
-  void options(const std::function<void(QWidget&)>& step);
-  void gameOptions(int row, const std::function<void(QWidget&)>& step);
-  static void save(const QWidget& options) { use(options, "cmdSave"); }
-
   static std::string file() { return read("Config/Kestrivane.ini"); }
-  // The saved file as startWith takes it, without the bindings.
-  static std::string saved();
 
   std::unique_ptr<ui::Form1> form;
   std::vector<int> ends;  // exit statuses
+
+ private:
+  using Lines = QMap<QString, QString>;  // by control
+  struct Seen {
+    Lines lines;  // as they were last
+    QStringList visible;
+  };
+
+  void act(QWidget& window, const QString& step);
+  void seeState();
+  void tell(const QString& place, const Lines& shown);
+  QString plain(QString text) const;
+
+  const QString app_ = QString::fromStdString(Module1::AppFolder);
+  std::string transcript_;
+  QMap<QString, Seen> seen_;  // by window
 };
 
 // Of what a window shows, nothing lies on something else unless it is meant to, all is inside its

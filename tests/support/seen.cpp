@@ -1,0 +1,166 @@
+// What a window shows and tells assistive technology, and what the program holds, as text.
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QMetaEnum>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "base/text.h"
+#include "platform/code_page.h"
+#include "support/ui_test.h"
+
+namespace support {
+namespace {
+
+QString Looks(const QWidget& control) {
+  const auto box = control.geometry();
+  const auto font = control.font();
+  auto text = QString(" %1,%2 %3x%4").arg(box.x()).arg(box.y()).arg(box.width()).arg(box.height());
+  text += " " + QString::number(font.pixelSize()) + "px";
+  if (font.bold()) text += " bold";
+  if (font.italic()) text += " italic";
+  if (font.underline()) text += " underlined";
+  for (const auto role : {control.foregroundRole(), control.backgroundRole()})
+    if (control.palette().isBrushSet(QPalette::Active, role))
+      text += " " + control.palette().color(role).name();
+  return text;
+}
+
+QString Rows(const QWidget& control) {
+  QStringList rows;
+  if (const auto* list = qobject_cast<const QListWidget*>(&control))
+    for (int row = 0; row < list->count(); ++row)
+      rows << list->item(row)->text() + (list->item(row)->isSelected() ? "*" : "");
+  if (const auto* tree = qobject_cast<const QTreeWidget*>(&control))
+    rows << tree->currentItem()->text(0);
+  return rows.empty() ? QString() : " [" + rows.join('|') + "]";
+}
+
+QString Line(const QWidget& control) {
+  const auto& told = *QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
+  const auto name = told.text(QAccessible::Name), value = told.text(QAccessible::Value);
+  const auto caption = control.property("text").toString();
+  QString text = QMetaEnum::fromType<QAccessible::Role>().valueToKey(told.role());
+  text += " \"" + name + "\"";
+  if (caption != name) text += " \"" + caption + "\"";
+  // Every machine has drives of its own.
+  if (!value.isEmpty() && value != caption && control.objectName() != "Drive1")
+    text += " = " + value;
+  text += Rows(control);
+  if (!control.toolTip().isEmpty()) text += " tip \"" + control.toolTip() + "\"";
+  const auto* button = qobject_cast<const QPushButton*>(&control);
+  const auto state = told.state();
+  const std::pair<bool, const char*> states[] = {{state.checked, "checked"},
+                                                 {state.checkStateMixed, "mixed"},
+                                                 {state.disabled, "disabled"},
+                                                 {button && button->isDefault(), "default"},
+                                                 {control.hasFocus(), "focus"}};
+  for (const auto& [holds, what] : states)
+    if (holds) text += QString(" ") + what;
+  return text;
+}
+
+}  // namespace
+
+// Of what has a name, and of a message box its text and buttons, whose places are the toolkit's.
+void UiTest::see(const QWidget& window) {
+  ExpectLaidOut(window);
+  Lines shown;
+  for (const auto* item : window.findChildren<QAction*>())
+    if (!item->objectName().isEmpty())
+      shown[item->objectName()] =
+          "\"" + item->text() + "\"" + (item->isChecked() ? " checked" : "");
+  const bool isBox = qobject_cast<const QMessageBox*>(&window);
+  for (const auto* control : window.findChildren<QWidget*>()) {
+    const auto name = control->objectName();
+    if (!control->isVisible() || control->window() != &window) continue;
+    if (isBox && (name == "qt_msgbox_label" || qobject_cast<const QPushButton*>(control)))
+      shown[control->property("text").toString()] = Line(*control);
+    else if (!isBox && !name.isEmpty() && !name.startsWith("qt_"))
+      shown[name] = Line(*control) + Looks(*control);
+  }
+  QStringList order;
+  for (auto* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
+    if (next->isVisible() && next->focusPolicy() & Qt::TabFocus) order << next->objectName();
+  shown["Tab"] = order.join(' ');
+  if (isBox)
+    seen_.remove({});  // every one is another one
+  else
+    shown["Size"] = QString("%1x%2").arg(window.width()).arg(window.height());
+  shown["Title"] = window.windowTitle();
+  tell(window.objectName(), shown);
+}
+
+// The options in force where they are not the default, those that wait, and the saved file without
+// the default bindings.
+void UiTest::seeState() {
+  Lines held;
+  const auto& defaults = Module1::Profiles[0].Slots;
+  for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
+    const auto name = QString::fromStdString(defaults[slot].Name);
+    const auto& inForce = Module1::EffectiveValues[slot];
+    if (!inForce.empty() && inForce != defaults[slot].Value)
+      held[name] = QString::fromStdString(inForce);
+    if (slot < core::kPerGameSlots && !Module1::StagedOptions[slot].empty())
+      held[name + " waiting"] = QString::fromStdString(Module1::StagedOptions[slot]);
+  }
+  held["OptionsSaved"] = QString::number(Module1::OptionsSaved);
+  const auto text = platform::DecodeCodePage(file());
+  const auto isDefault = [&](std::string_view line) {
+    return std::any_of(defaults.begin(), defaults.end(), [&](const core::OptionSlot& slot) {
+      return slot.Value.starts_with('"') && line == slot.Name + " = " + slot.Value;
+    });
+  };
+  for (const auto line : base::Split(text, base::kLineEnd))
+    if (!line.empty() && !line.starts_with(";*") && !isDefault(line))
+      held["File"] += QString::fromUtf8(line.data(), static_cast<int>(line.size())) + "|";
+  tell("state", held);
+}
+
+// In one line, and the same in every run and on every system.
+QString UiTest::plain(QString text) const {
+  text.replace(app_, "<app>");
+  if (!kPosix) text.replace('\\', '/');
+  return text.remove('\r').replace('\n', "\\n");
+}
+
+void UiTest::tell(const QString& place, const Lines& shown) {
+  auto& [lines, visible] = seen_[place];
+  const auto before = std::exchange(visible, shown.keys());
+  QString changed, gone, back;
+  for (const auto& name : before)
+    if (!shown.contains(name)) gone += " " + name;
+  for (auto at = shown.begin(); at != shown.end(); ++at) {
+    if (std::exchange(lines[at.key()], at.value()) != at.value())
+      changed += at.key() + ": " + plain(at.value()) + "\n";
+    else if (!before.contains(at.key()))
+      back += " " + at.key();
+  }
+  if (!gone.isEmpty()) note("gone:" + gone.toStdString());
+  if (!back.isEmpty()) note("back:" + back.toStdString());
+  transcript_ += changed.toStdString();
+}
+
+void UiTest::note(const std::string& line) {
+  transcript_ += plain(QString::fromStdString(line)).toStdString() + "\n";
+}
+
+void UiTest::TearDown() {
+  if (transcript_.empty()) return;
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  const auto path = ToPath(SEEN) / (std::string(test->test_suite_name()) + "." + test->name());
+  if (std::getenv("SEEN_ANEW")) std::ofstream(path, std::ios::binary) << transcript_;
+  std::ifstream in(path, std::ios::binary);
+  const std::string kept(std::istreambuf_iterator<char>(in), {});
+  const auto differ =
+      std::mismatch(transcript_.begin(), transcript_.end(), kept.begin(), kept.end()).first;
+  const auto line = transcript_.rfind('\n', differ - transcript_.begin() - 1) + 1;
+  EXPECT_TRUE(transcript_ == kept)
+      << "now: " << transcript_.substr(line, 500) << "\nkept: " << kept.substr(line, 500);
+}
+
+}  // namespace support
