@@ -33,7 +33,7 @@ class MainGames : public support::UiTest {
 
 TEST_F(MainGames, AreSortedWithoutRegardToCaseAndTellWhereTheirArchiveIsOrBelongs) {
   addGames("zebra <b>&%s%1[*] beta");
-  write("More/BETA.ZIP", "");
+  write("more/beta.zip", "");
   startWith(platform::EncodeCodePage(";ROMpaths=" + AppFolder + "\\more*/gone|"));
   for (const auto* pressed : {"=Home", "=End", "=B"}) {
     use(pressed);
