@@ -38,6 +38,7 @@ TEST_F(Inputs, AreEditedCellByCell) {
         "optOPT(2) lstInput(0)@@2 "
         "lstInput(3)=F2{cmbHardN(2)=Down cmbInputs(2)=End cmdOK(2)} "
         "lstInput(1)=F2{cmbInputs(0)=End}");
+    get(window, "lstInput(1)").setFocus();
     auto* cell = QAccessible::queryAccessibleInterface(&get(window, "lstInput(1)"))->child(3);
     EXPECT_EQ(cell->text(QAccessible::Name), "KEY_6");
     inModal([this](QWidget& chooser) { use(chooser, "cmbInputs(0)=End cmdOK(0)"); },

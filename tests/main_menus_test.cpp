@@ -55,7 +55,7 @@ TEST_F(MainMenus, NvramsAreClearedAndTheHomepageOpensInTheBrowser) {
   QObject::connect(&browser, &QTextBrowser::anchorClicked,
                    [&](const QUrl& address) { opened = address.toString(); });
   QDesktopServices::setUrlHandler("https", &browser, "anchorClicked");
-  use("mHomepage");
+  get<QAction>(window(), "mHomepage").trigger();
   QDesktopServices::unsetUrlHandler("https");
   EXPECT_EQ(opened, "https://kestrivane-ui.example/");
 }

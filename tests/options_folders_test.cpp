@@ -112,6 +112,7 @@ TEST_F(OptionsFolders, LockThePageWhileAShaderIsChosen) {
     // Names that the file can't hold are not taken.
     use(window, "cmdAddPath(3) File1@@1 File1@@2 File1@@3 File1@@5 File1@@4 cmdSave");
   });
+  EXPECT_NE(file().find("shaders\\b.fs"), std::string::npos);
 }
 
 }  // namespace

@@ -20,10 +20,10 @@ namespace {
 QString Looks(const QWidget& control) {
   const auto box = control.geometry();
   const auto font = control.font();
-  auto text = QString(" %1,%2 %3px").arg(box.x()).arg(box.y()).arg(font.pixelSize());
-  // A link is as wide as the machine's fonts make it.
+  auto text = " " + QString::number(font.pixelSize()) + "px";
+  // Where a link stands depends on the machine's fonts.
   if (control.focusPolicy() == Qt::NoFocus || !qobject_cast<const QLabel*>(&control))
-    text += QString(" %1x%2").arg(box.width()).arg(box.height());
+    text += QString(" %1,%2 %3x%4").arg(box.x()).arg(box.y()).arg(box.width()).arg(box.height());
   if (font.bold()) text += " bold";
   if (font.italic()) text += " italic";
   if (font.underline()) text += " underlined";
@@ -122,12 +122,11 @@ void UiTest::seeState() {
   tell("state", held);
 }
 
-// In one line, and the same in every run and on every system.
+// In one line, and the same in every run and on every system, whichever tells how a folder is
+// spelled.
 QString UiTest::plain(QString text) const {
-  text.replace(app_, "<app>");
-  if (!kPosix) text.replace('\\', '/');
-  // Only some systems tell how a folder is spelled.
-  return text.replace("/roms", "/ROMs").remove('\r').replace('\n', "\\n");
+  text.replace(app_, "<app>").replace('\\', '/').replace("/roms", "/ROMs");
+  return text.remove('\r').replace('\n', " / ");
 }
 
 void UiTest::tell(const QString& place, const Lines& shown) {
