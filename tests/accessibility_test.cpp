@@ -38,7 +38,6 @@ TEST_F(Accessibility, ValuesAndStatesAreTold) {
         EXPECT_NE(link.grab().toImage(), plain) << "the focus is seen";
         const auto look = [](QWidget& box) { EXPECT_FALSE(box.windowIcon().isNull()); };
         inModal(look, [&] { use(dialog, "lblLoadDefaults"); });
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
         use(dialog, "=Alt+G");  // the key of Save
       },
       [this] { use("mConfig"); });
