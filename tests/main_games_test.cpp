@@ -39,7 +39,7 @@ TEST_F(MainGames, AreSortedWithoutRegardToCaseAndTellWhereTheirArchiveIsOrBelong
     use(pressed);
     const auto place = list().visualItemRect(list().currentItem()).center();
     const auto tip = tipAt(*list().viewport(), place);
-    note(tip);
+    note(plain(QString::fromStdString(tip)).toStdString());
     EXPECT_EQ(tipAt(get(window(), "cmdPlay"), {5, 5}), tip);
   }
 }

@@ -21,14 +21,11 @@ namespace support {
 // The main window over a fresh AppFolder with an emulator of two games, driven by object names and
 // real events. The end of the program is noted and does not happen.
 //
-// What the steps change is noted: in the windows, the options in force, and the saved file. A test
-// ends by comparing its notes with those kept in tests/seen. With SEEN_ANEW in the environment it
-// keeps the new ones, to be read before they are committed.
+// What the steps change is noted: in the windows, the options in force, and the saved file.
 class UiTest : public TempApp {
  protected:
   UiTest();
   ~UiTest() override;
-  void TearDown() override;
 
   // Loads the main window and waits until it is active.
   void start();
@@ -50,7 +47,8 @@ class UiTest : public TempApp {
   // A key to the active window.
   static void key(const QKeySequence& key);
 
-  void note(const std::string& line);
+  // Text in one line, the same in every run and on every system.
+  QString plain(QString text) const;
   // Notes what has changed of what a window shows and tells assistive technology.
   void see(const QWidget& window);
 
@@ -82,10 +80,8 @@ class UiTest : public TempApp {
   void act(QWidget& window, const QString& step);
   void seeState();
   void tell(const QString& place, const Lines& shown);
-  QString plain(QString text) const;
 
   const QString app_ = QString::fromStdString(Module1::AppFolder);
-  std::string transcript_;
   QMap<QString, Seen> seen_;  // by window
 };
 
