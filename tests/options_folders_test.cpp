@@ -50,29 +50,20 @@ TEST_F(OptionsFolders, OfTheTreeCanBeSavedAndAreReachedByKeysAndSeen) {
   AppFolder += "/" + parent;
   modify([&](QWidget& window) {
     auto& tree = get<QTreeWidget>(window, "Dir1");
-    std::string names;
-    for (int row = 0; row < tree.currentItem()->childCount(); ++row)
-      names += tree.currentItem()->child(row)->text(0).toStdString() + "|";
-    EXPECT_EQ(names, "d23 of <b>many|日本 é|");
-    const auto afterKeys = [&](const char* pressed, int times, const std::string& name) {
+    const auto keys = [&](const char* pressed, int times, const char* name) {
       tree.setFocus();
-      for (; times > 0; --times) key(QKeySequence(pressed));
-      const auto* item = tree.currentItem();
-      EXPECT_EQ(item->text(0).toStdString(), name + " of <b>many");
-      EXPECT_TRUE(item->isSelected());
-      const auto place = tree.visualItemRect(item);
+      use(window, QString("=%1 ").arg(pressed).repeated(times));
+      const auto place = tree.visualItemRect(tree.currentItem());
       EXPECT_TRUE(place.left() >= 0 && place.left() < tree.viewport()->width() / 2) << name;
-      EXPECT_TRUE(tipAt(*tree.viewport(), place.center()).ends_with(name + " of &lt;b&gt;many"));
+      EXPECT_TRUE(tipAt(*tree.viewport(), place.center()).ends_with(name)) << name;
     };
-    afterKeys("Right", 0, "d22");
-    afterKeys("Right", 4, "d23");
+    keys("", 0, "/d22 of &lt;b&gt;many");
+    keys("Right", 4, "/d23 of &lt;b&gt;many");
     use(window, "cmdAddPath(0)");
-    afterKeys("Left", 4, "d21");
-    EXPECT_FALSE(tree.currentItem()->isExpanded());
-    afterKeys("Return", 1, "d21");
-    EXPECT_TRUE(window.isVisible() && tree.currentItem()->isExpanded());
+    keys("Left", 4, "/d21 of &lt;b&gt;many");
+    keys("Return", 1, "/d21 of &lt;b&gt;many");
     tree.currentItem()->parent()->setExpanded(false);
-    afterKeys("*", 1, "d20");
+    keys("*", 1, "/d20 of &lt;b&gt;many");
     EXPECT_TRUE(tree.findItems("x", Qt::MatchExactly | Qt::MatchRecursive).empty());
   });
 }
@@ -80,20 +71,18 @@ TEST_F(OptionsFolders, OfTheTreeCanBeSavedAndAreReachedByKeysAndSeen) {
 TEST_F(OptionsFolders, OfADriveAreThoseOfTheInnermostOneThatHoldsOurs) {
   if (!support::kPosix) GTEST_SKIP() << "no environment moves the folder of a user there";
   const auto home = qgetenv("HOME");
-  const auto parent = std::filesystem::path(AppFolder).parent_path().string();
-  const auto alike = AppFolder.substr(0, AppFolder.rfind(' '));
+  const auto parent = QString::fromStdString(AppFolder.substr(0, AppFolder.rfind('/')));
+  const auto alike = QString::fromStdString(AppFolder.substr(0, AppFolder.rfind(' ')));
   start();
   for (const auto& drive : {parent, alike}) {
-    qputenv("HOME", drive.c_str());
+    qputenv("HOME", drive.toUtf8());
     modify([&](QWidget& window) {
       auto& drives = get<QComboBox>(window, "Drive1");
       const auto first = drives.currentText();
-      EXPECT_EQ(first.toStdString() == drive, drive == parent);
-      drives.setCurrentText(drive == parent ? "/" : QString::fromStdString(drive));
-      if (drive == parent)
-        EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0), "/");
-      else
-        EXPECT_EQ(drives.currentText(), first) << "what can't be read is not taken";
+      EXPECT_EQ(first == drive, drive == parent);
+      drives.setCurrentText(drive == parent ? "/" : drive);
+      EXPECT_EQ(drives.currentText() == first, drive == alike) << "what can't be read is not taken";
+      EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0) == "/", drive == parent);
     });
   }
   qputenv("HOME", home);

@@ -30,13 +30,21 @@ QString Looks(const QWidget& control) {
   return text;
 }
 
+// Those of a list, and of a tree the current one and what is open below it.
 QString Rows(const QWidget& control) {
   QStringList rows;
+  const auto add = [&](const QString& text, bool isSelected) {
+    rows << text + (isSelected ? "*" : "");
+  };
   if (const auto* list = qobject_cast<const QListWidget*>(&control))
     for (int row = 0; row < list->count(); ++row)
-      rows << list->item(row)->text() + (list->item(row)->isSelected() ? "*" : "");
-  if (const auto* tree = qobject_cast<const QTreeWidget*>(&control))
-    rows << tree->currentItem()->text(0);
+      add(list->item(row)->text(), list->item(row)->isSelected());
+  if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
+    const auto* current = tree->currentItem();
+    add(current->text(0), current->isSelected());
+    for (int row = 0; current->isExpanded() && row < current->childCount(); ++row)
+      add(current->child(row)->text(0), current->child(row)->isSelected());
+  }
   return rows.empty() ? QString() : " [" + rows.join('|') + "]";
 }
 

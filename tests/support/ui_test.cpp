@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QTimer>
 #include <QToolTip>
+#include <QWheelEvent>
 #include <cstdio>
 #include <cstdlib>
 
@@ -98,7 +99,7 @@ void UiTest::use(QWidget& window, const QString& steps) {
 }
 
 void UiTest::act(QWidget& window, const QString& step) {
-  static const QRegularExpression form("^([^=@]*)(=|@*)(.*)$");
+  static const QRegularExpression form("^([^=~@]*)(=|~|@*)(.*)$");
   const auto parts = form.match(step);
   const auto name = parts.captured(1), kind = parts.captured(2), what = parts.captured(3);
   static const QMap<QString, QMessageBox::StandardButton> buttons = {
@@ -112,6 +113,12 @@ void UiTest::act(QWidget& window, const QString& step) {
   if (auto* menu = window.findChild<QAction*>(name)) return menu->trigger();
   auto& control = get(window, name);
   if (kind == "=") return QTest::keyClick(&control, QKeySequence(what)[0].key());
+  if (kind == "~") {
+    const QPointF at(5, 5);
+    QWheelEvent wheel(at, control.mapToGlobal(at), {}, {0, what.toInt()}, {}, {}, {}, false);
+    QApplication::sendEvent(&control, &wheel);
+    return;
+  }
   auto* target = &control;
   QPoint place(9, control.height() / 2);
   if (const auto* list = qobject_cast<const QListWidget*>(&control); list && !kind.isEmpty()) {

@@ -36,6 +36,7 @@ void MachinePage::ApplyLanguage() {
   chkMulti.setCaption(Msg(Message::MultiThreading));
   Label6.setCaption(Msg(Message::MultiThreadingText));
   hslPPC.setAccessibleName(Label2.caption());
+  hslPPC.setValueText(lblPPC.caption());
 }
 
 }  // namespace ui
