@@ -48,6 +48,13 @@ QString Rows(const QWidget& control) {
   return rows.empty() ? QString() : " [" + rows.join('|') + "]";
 }
 
+// The letter of a picture's plain red, yellow, green or blue as it is drawn, else "?".
+QChar ColourOf(const QWidget& picture) {
+  const auto image = const_cast<QWidget&>(picture).grab().toImage();
+  const auto pixel = image.pixelColor(image.rect().center());
+  return pixel.saturation() < 240 ? '?' : "rygcbm"[(pixel.hue() + 30) / 60 % 6];
+}
+
 QString Line(const QWidget& control) {
   const auto& told = *QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
   const auto name = told.text(QAccessible::Name), value = told.text(QAccessible::Value);
@@ -58,6 +65,7 @@ QString Line(const QWidget& control) {
   // Every machine has drives of its own.
   if (!value.isEmpty() && value != caption && control.objectName() != "Drive1")
     text += " = " + value;
+  if (told.role() == QAccessible::Graphic) text += QString(" ") + ColourOf(control);
   text += Rows(control);
   if (!control.toolTip().isEmpty()) text += " tip \"" + control.toolTip() + "\"";
   const auto* button = qobject_cast<const QPushButton*>(&control);
