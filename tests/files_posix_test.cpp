@@ -1,10 +1,7 @@
 #include <sys/stat.h>
 
 #include <chrono>
-#include <fstream>
-#include <thread>
 
-#include "config/user_settings.h"
 #include "core/module1.h"
 #include "platform/file_search.h"
 #include "platform/files.h"
@@ -79,17 +76,6 @@ TEST_F(PosixFiles, APipeIsNeitherReadNorWaitedFor) {
   EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(ReadBytes(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
-}
-
-TEST_F(PosixFiles, ASettingsStoreThatAnotherProgramKeepsIsLeftToItself) {
-  const auto lock = settingsFile().string() + ".lock";
-  std::ofstream(lock) << "another";
-  config::SaveUserSettings();
-  EXPECT_EQ(settings(), "");
-  fs::remove(lock);
-  for (int tries = 0; settings().empty() && tries < 5000; ++tries)
-    std::this_thread::sleep_for(std::chrono::milliseconds(2));
-  EXPECT_NE(settings(), "");
 }
 
 }  // namespace

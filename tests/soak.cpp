@@ -23,8 +23,7 @@ namespace {
 using namespace Module1;
 
 unsigned Given(const char* name, unsigned otherwise) {
-  const auto text = qEnvironmentVariable(name);
-  return text.isEmpty() ? otherwise : text.toUInt();
+  return qEnvironmentVariable(name, QString::number(otherwise)).toUInt();
 }
 
 class Soak : public support::UiTest {
@@ -74,42 +73,28 @@ class Soak : public support::UiTest {
         controls.append(control);
     auto& control = *controls[pick(static_cast<int>(controls.size()))];
     const QPoint at(pick(control.width() + 1), pick(control.height() + 1));
-    switch (const int kind = pick(20)) {
-      case 0:
-        if (!popup && !modal) trigger();
-        break;
-      case 1:
-      case 2: {
-        QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, pick(2) ? 120 : -120}, Qt::NoButton,
-                         Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&control, &turn);
-        break;
-      }
-      case 3:
-      case 4:
-        QTest::mouseDClick(&control, Qt::LeftButton, {}, at);
-        break;
-      default:
-        if (kind < 12)
-          QTest::mouseClick(&control, kind == 5 ? Qt::RightButton : Qt::LeftButton, {}, at);
-        else if (on.windowHandle())
-          QTest::keyClick(on.windowHandle(), key(), pick(8) ? Qt::NoModifier : Qt::AltModifier);
+    const int kind = pick(20);
+    if (kind == 0 && !popup && !modal) {
+      const auto items = window().findChildren<QAction*>();
+      items[pick(static_cast<int>(items.size()))]->trigger();
+    } else if (kind < 3) {
+      QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, pick(2) ? 120 : -120}, {}, {}, {},
+                       false);
+      QApplication::sendEvent(&control, &turn);
+    } else if (kind < 5) {
+      QTest::mouseDClick(&control, Qt::LeftButton, {}, at);
+    } else if (kind < 12) {
+      QTest::mouseClick(&control, kind == 5 ? Qt::RightButton : Qt::LeftButton, {}, at);
+    } else if (on.windowHandle()) {
+      QTest::keyClick(on.windowHandle(), key(), pick(8) ? Qt::NoModifier : Qt::AltModifier);
     }
     compareFile();
   }
-  void trigger() {
-    const auto items = window().findChildren<QAction*>();
-    items[pick(static_cast<int>(items.size()))]->trigger();
-  }
   Qt::Key key() {
-    constexpr Qt::Key kKeys[] = {Qt::Key_Up,    Qt::Key_Down,     Qt::Key_Left,   Qt::Key_Right,
-                                 Qt::Key_Home,  Qt::Key_End,      Qt::Key_PageUp, Qt::Key_PageDown,
-                                 Qt::Key_Tab,   Qt::Key_Backtab,  Qt::Key_Space,  Qt::Key_Return,
-                                 Qt::Key_Enter, Qt::Key_Escape,   Qt::Key_Delete, Qt::Key_Backspace,
-                                 Qt::Key_F2,    Qt::Key_Asterisk, Qt::Key_F10,    Qt::Key_F4};
-    const int count = static_cast<int>(std::size(kKeys));
-    const int chosen = pick(count + 10);
-    return chosen < count ? kKeys[chosen] : static_cast<Qt::Key>("019AEGOSVY"[chosen - count]);
+    static const auto keys = QKeySequence::listFromString(
+        "Up; Down; Left; Right; Home; End; PgUp; PgDown; Tab; Backtab; Space; Return; Enter; Esc; "
+        "Del; Backspace; F2; F4; F10; *; 0; 1; 9; A; E; G; O; S; V; Y");
+    return keys[pick(static_cast<int>(keys.size()))][0].key();
   }
 
   // After a save: the file is what the state gives, and gives that state back but for cleared

@@ -42,7 +42,6 @@ class TempApp : public testing::Test {
   static void write(std::string_view name, std::string_view bytes);
   // On POSIX systems only.
   static void writeProgram(std::string_view name, std::string_view script);
-  static std::filesystem::path settingsFile();
 
   // The stand-in emulator, and how it is to misbehave.
   static void addEmulator(std::string_view fault = {});

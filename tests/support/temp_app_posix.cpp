@@ -15,9 +15,9 @@ namespace fs = std::filesystem;
 
 // The toolkit remembers where its settings are, so that the place is the same for the whole run.
 struct SettingsFolder : testing::Environment {
-  void SetUp() override { setenv("XDG_CONFIG_HOME", (folder = NewFolder()).c_str(), 1); }
+  void SetUp() override { setenv("XDG_CONFIG_HOME", folder.c_str(), 1); }
   void TearDown() override { fs::remove_all(folder); }
-  static inline fs::path folder;
+  static inline const fs::path folder = NewFolder(), file = folder / "Kestrivane UI.conf";
 };
 
 const auto* const kSettingsFolder = testing::AddGlobalTestEnvironment(new SettingsFolder);
@@ -29,12 +29,10 @@ void TempApp::writeProgram(std::string_view name, std::string_view script) {
   fs::permissions(path(name), fs::perms(0755));
 }
 
-fs::path TempApp::settingsFile() { return SettingsFolder::folder / "Kestrivane UI.conf"; }
-
-void TempApp::clearSettings() { fs::remove_all(settingsFile()); }
+void TempApp::clearSettings() { fs::remove_all(SettingsFolder::file); }
 
 std::string TempApp::settings() {
-  std::ifstream in(settingsFile(), std::ios::binary);
+  std::ifstream in(SettingsFolder::file, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
