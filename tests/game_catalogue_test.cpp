@@ -1,6 +1,5 @@
 #include "core/game_catalogue.h"
 
-#include "core/emulator_contract.h"
 #include "core/module1.h"
 #include "support/temp_app.h"
 
@@ -10,29 +9,6 @@ namespace {
 using namespace Module1;
 
 class GameCatalogue : public support::TempApp {};
-
-TEST_F(GameCatalogue, TakesEachLineByItsRule) {
-  const std::string separator(kSeparator), banner(kBanner);
-  const struct {
-    const char* what;
-    std::vector<std::string> lines;
-    const char* catalogue;  // version: name=title, of each game
-  } rows[] = {{"the fields overlap", {separator, "abcdefghijklmnopq"}, ": abcdefghijklmn=nopq,"},
-              {"a name without a title", {separator, "alone"}, ": alone=,"},
-              {"columns are characters", {separator, "ñññññ           Ñandú"}, ": ñññññ=Ñandú,"},
-              {"a late banner", {separator, banner + "0.3a)", "a               A"}, "0.3a: a=A,"},
-              {"a banner not at the start", {"xx " + banner + "0.3a)"}, "on 0.3a:"},
-              {"a banner that ends outside ASCII", {banner + "1é»"}, "1é:"}};
-  for (const auto& row : rows) {
-    GameListing listing;
-    for (const auto& line : row.lines) ParseGameListLine(line, listing);
-    auto catalogue = listing.EmulatorVersion + ":";
-    for (std::size_t game = 0; game + 2 < listing.GameCatalog.size(); ++game)
-      catalogue +=
-          " " + listing.GameCatalog[game].RomName + "=" + listing.GameCatalog[game].Title + ",";
-    EXPECT_EQ(catalogue, row.catalogue) << row.what;
-  }
-}
 
 TEST_F(GameCatalogue, StartTakesTheEmulatorAsItIs) {
   for (const std::string fault :

@@ -65,20 +65,8 @@ TEST_F(PlayTracking, EqualRowsAllCountAndAFullTableTakesNoMore) {
   EXPECT_EQ(row(0) + " " + row(40), "g,2,60 g,2,60");
 }
 
-TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
+TEST_F(PlayTracking, ErrorLogOfAnyLengthIsReadAndOneThatStaysIsNot) {
   const std::string head = "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n";
-  const auto report = [this](std::string_view log) {
-    write("error.log", log);
-    ErrorText.clear();
-    note((ReadErrorLog() ? "failed: " : "ended well: ") + ErrorText);
-    EXPECT_FALSE(exists("error.log"));
-  };
-  report(head + "so: PROGRAM TERMINATED NORMALLY.");
-  report("Program terminated normally.\r\n" + head);
-  report(head + "  one \r\ntw\xF6\r\n  ");
-  report("1\r2\r3\r4\r5\r6\r7\rone\n\rtwo");
-  report("");
-  EXPECT_FALSE(ReadErrorLog()) << "none there";
   const std::string_view end = "Program terminated normally.";
   for (const std::size_t goodEnd : {0U, 1048560U, 3000000U}) {
     auto log = head + std::string(3000000, 'x') + "\r\n";
@@ -88,6 +76,7 @@ TEST_F(PlayTracking, ErrorLogIsReadAndDeleted) {
     EXPECT_EQ(ErrorText.size(), 1048576U + 5);
     EXPECT_TRUE(ErrorText.ends_with("x\r\n...")) << "a long report is cut";
   }
+  EXPECT_FALSE(ReadErrorLog()) << "none there";
   write("error.log", "a report that would be one");
   const support::Unprivileged user(path(""));
   EXPECT_FALSE(ReadErrorLog()) << "can't be deleted";

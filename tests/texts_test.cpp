@@ -1,0 +1,130 @@
+// All that makes a text out of a text, by the rows of texts.tsv.
+#include <fstream>
+#include <functional>
+#include <map>
+
+#include "base/quietly.h"
+#include "base/text.h"
+#include "config/config_reader.h"
+#include "config/writable_names.h"
+#include "core/emulator_contract.h"
+#include "core/game_catalogue.h"
+#include "launch/error_log.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/process.h"
+#include "support/state_text.h"
+#include "support/temp_app.h"
+
+namespace {
+
+using namespace Module1;
+
+// The table's "\r", "\n", "\t", "\\" and "\xFF" as the characters that they stand for.
+std::string Unescaped(std::string_view text) {
+  std::string plain;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] != '\\') {
+      plain += text[at];
+    } else if (text[++at] == 'x') {
+      plain += static_cast<char>(std::stoi(std::string(text.substr(at + 1, 2)), nullptr, 16));
+      at += 2;
+    } else {
+      plain += text[at] == 'r' ? '\r' : text[at] == 'n' ? '\n' : text[at] == 't' ? '\t' : text[at];
+    }
+  }
+  return plain;
+}
+
+class Texts : public support::TempApp {
+ protected:
+  template <class Number>
+  static std::string number(Number (*read)(std::string_view), const std::string& text) {
+    std::string result = "none";
+    base::Quietly([&] { result = std::to_string(read(text)); });
+    return result;
+  }
+  // The shared state, and "bak" if the file was copied; in files "|" stands for the end of a line.
+  static std::string config(const std::string& text) {
+    const auto bytes = base::ReplaceIgnoringCase(text, "|", "\r\n");
+    startup::FillSharedState();
+    std::filesystem::remove_all(path("Config"));
+    write("Config/Kestrivane.ini", bytes);
+    config::Adopt(config::LoadConfigFile(AppFolder));
+    const std::string copy = "Config/Kestrivane.ini.bak";
+    EXPECT_TRUE(!exists(copy) || read(copy) == bytes);
+    return support::StateText() + (exists(copy) ? "bak" : "");
+  }
+  // The version and each game. "SEP" and "BANNER" stand for the emulator's own texts.
+  static std::string games(const std::string& text) {
+    auto lines = base::ReplaceIgnoringCase(text, "SEP", core::kSeparator);
+    lines = base::ReplaceIgnoringCase(lines, "BANNER", core::kBanner);
+    core::GameListing listing;
+    for (const auto line : base::Split(lines, "|")) core::ParseGameListLine(line, listing);
+    auto result = listing.EmulatorVersion + ":";
+    for (std::size_t game = 0; game + 2 < listing.GameCatalog.size(); ++game)
+      result += listing.GameCatalog[game].RomName + "=" + listing.GameCatalog[game].Title + ",";
+    return result;
+  }
+  static std::string report(const std::string& log) {
+    write("error.log",
+          base::ReplaceIgnoringCase(log, "HEAD", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n"));
+    ErrorText.clear();
+    const bool failed = launch::ReadErrorLog();
+    EXPECT_FALSE(exists("error.log"));
+    return (failed ? "failed " : "well ") + ErrorText;
+  }
+  // The program that a command line finds, and its arguments; spellings are the system's.
+  static std::string command(const std::string& text) {
+    const auto found = platform::FindCommand(base::ReplaceIgnoringCase(text, "APP", AppFolder));
+    std::string result = found ? found->program : "none";
+    for (const auto& argument : found ? found->arguments : std::vector<std::string>())
+      result += "|" + argument;
+    result = base::FoldCase(base::ReplaceIgnoringCase(result, AppFolder, "app"));
+    return base::ReplaceIgnoringCase(result, "\\", "/");
+  }
+};
+
+TEST_F(Texts, BecomeWhatTheTableSays) {
+  using Function = std::function<std::string(const std::string&)>;
+  const std::map<std::string, Function> functions = {
+      {"fold", base::FoldCase},
+      {"integer", [](auto& text) { return number(base::ToInteger, text); }},
+      {"byte", [](auto& text) { return number(base::ToByte, text); }},
+      {"decode", platform::DecodeCodePage},
+      {"lines", platform::DecodeLines},
+      {"encode", platform::EncodeCodePage},
+      {"again",
+       [](auto& text) { return platform::DecodeCodePage(platform::EncodeCodePage(text)); }},
+      {"writable", [](auto& name) { return config::IsWritableGame(name) ? "yes" : "no"; }},
+      {"config", config},
+      {"games", games},
+      {"report", report},
+      {"command", command}};
+  for (const auto* file :
+       {"Kestrivane.exe", "two words/Tool.exe", "two.exe", "x/Kestrivane.exe", "ROMs/My Game.zip"})
+    write(file, "");
+  std::filesystem::current_path(path("x"));
+  std::ifstream table(support::ToPath(SEEN) / "../texts.tsv", std::ios::binary);
+  int rows = 0;
+  for (std::string line; std::getline(table, line); ++rows) {
+    const auto cells = base::Split(line, "\t");
+    ASSERT_GE(cells.size(), 3U) << line;
+    const auto& function = functions.at(std::string(cells[0]));
+    EXPECT_EQ(function(Unescaped(cells[1])), Unescaped(cells[2])) << line;
+  }
+  EXPECT_GT(rows, 100);
+}
+
+TEST_F(Texts, OfTheConfigurationEndAtTheLimitsOfLinesAndPlays) {
+  std::string log = ";GameTimeLog=";
+  for (int row = 0; row < 41; ++row) log += (row ? "*g" : "g") + std::to_string(row) + ",1,30";
+  EXPECT_TRUE(config(log + "|").ends_with("log40=g40,1,30 bak"));
+  EXPECT_TRUE(config(log + "*g41,1,30|Vsync = 0|").ends_with("log40=g40,1,30 "));
+  std::string lines;
+  for (int line = 0; line < 32767; ++line) lines += "; some comment|";
+  EXPECT_EQ(config(lines + "Vsync = 0|"), "1.Vsync=0 bak");
+  EXPECT_EQ(config("Vsync = 0|" + lines + "|"), "");
+}
+
+}  // namespace
