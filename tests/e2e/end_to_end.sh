@@ -6,24 +6,15 @@ set -euo pipefail
 
 app="$work/Jögos de ação/日本 & mais"
 config="$app/Config/Kestrivane.ini"
-options_title="   Options:   Global"
-beside= # a second front-end, or an emulator without one
+beside= # a second front-end
 trap '[[ -z $beside ]] || stop_front_end "$beside"; clean_up' EXIT
 
-open_options() {
-    press alt+t o
-    expect_window "$options_title"
-}
 save_options() {
-    open_options
+    press alt+t o
+    expect_window "   Options:   Global"
     press Return
     expect_main_window
 }
-click_and_type() {
-    xdotool mousemove --window "$main_window" 670 455 click 1
-    press Return
-}
-pause_has_begun() { ! emulator_runs && [[ ! -e $app/error.log ]]; }
 
 start_display "$work" || fail "no display"
 
@@ -44,11 +35,7 @@ rmdir "$app/ROMs"
 start_to_main_window "$app"
 made=$(cd "$app" && printf '%s ' * Config/*)
 [[ $made == "Config Icons Kestrivane.exe KestrivaneUI ROMs Snaps Config/* " ]] || fail "made $made"
-press Return # no archive, so there is nothing to play, and what comes next is obeyed
-open_options
-press Escape
-expect_main_window
-press Escape
+press Return Escape # no archive, so there is nothing to play, and what comes next is obeyed
 expect_end 0
 [[ ! -e $XDG_CONFIG_HOME ]] || fail "Escape wrote the settings store"
 
@@ -70,17 +57,8 @@ save_options
 [[ $(<"$config") == "$alone"$'\n;GameTimeLog=7undertow,1,2'[2-9]$'\r' ]] ||
     fail "the file is not what the last one saved: $(diff <(echo "$alone") "$config")"
 
-echo "What is typed and clicked during a play and the pause behind it starts no other"
-write_archive "$app" 1 good
-main_window=$(xdotool getwindowfocus)
-play
-click_and_type
-wait_until 10 pause_has_begun || fail "the game does not end, or error.log is left"
-click_and_type
-write_archive "$app" 1 error # another play would end with a report, and stay at that
-expect_main_window 10
-
 echo "A play that fails shows the report"
+write_archive "$app" 1 error
 play
 expect_window " Kestrivane has encountered an error:"
 [[ ! -e $app/error.log ]] || fail "error.log was left"

@@ -30,33 +30,27 @@ struct Registry : testing::Environment {
 
 const auto* const kRegistry = testing::AddGlobalTestEnvironment(new Registry);
 
-// The values of a key as a settings file of another system has them.
-std::string ValuesOf(const wchar_t* name) {
-  HKEY key = nullptr;
-  if (RegOpenKeyW(HKEY_CURRENT_USER, name, &key) != ERROR_SUCCESS) return {};
-  std::string text;
-  for (DWORD index = 0;; ++index) {
-    wchar_t value[256], data[4096];
-    DWORD length = 256, size = sizeof data;
-    if (RegEnumValueW(key, index, value, &length, nullptr, nullptr, reinterpret_cast<BYTE*>(data),
-                      &size) != ERROR_SUCCESS)
-      break;
-    const auto plain = platform::FromWide(data);
-    const auto* const quote = plain.find(',') == std::string::npos ? "" : "\"";
-    text += platform::FromWide({value, length}) + "=" + quote + plain + quote + "\n";
-  }
-  RegCloseKey(key);
-  return text;
-}
-
 }  // namespace
 
 void TempApp::clearSettings() { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Kestrivane UI"); }
 
 std::string TempApp::settings() {
   std::string text;
-  for (const auto* section : {L"General", L"Path", L"GameTimeLog"})
-    text += ValuesOf((L"Software\\Kestrivane UI\\" + std::wstring(section)).c_str());
+  for (const auto* section : {L"General", L"Path", L"GameTimeLog"}) {
+    const auto name = L"Software\\Kestrivane UI\\" + std::wstring(section);
+    wchar_t key[256], value[4096];
+    HKEY opened = nullptr;
+    if (RegOpenKeyW(HKEY_CURRENT_USER, name.c_str(), &opened) != ERROR_SUCCESS) continue;
+    DWORD length = 256, size = sizeof value;
+    for (DWORD at = 0; RegEnumValueW(opened, at, key, &length, nullptr, nullptr,
+                                     reinterpret_cast<BYTE*>(value), &size) == ERROR_SUCCESS;
+         ++at, length = 256, size = sizeof value) {
+      const auto plain = platform::FromWide(value);
+      const auto* const quote = plain.find(',') == std::string::npos ? "" : "\"";
+      text += platform::FromWide({key, length}) + "=" + quote + plain + quote + "\n";
+    }
+    RegCloseKey(opened);
+  }
   return text;
 }
 
