@@ -1,33 +1,12 @@
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
-#include <QMainWindow>
 #include <QStyleOptionButton>
-#include <set>
 
 #include "support/ui_test.h"
 
 namespace support {
 namespace {
-
-std::string NameOf(const QWidget& control) {
-  return control.objectName().section('(', 0, 0).toStdString();
-}
-
-// Whether the second is meant to lie on the first.
-bool IsMeant(const QWidget& under, const QWidget& above) {
-  const std::set<std::string> meant = {"frmOPT optOPT",
-                                       "frame optADV",    // tabs cut into their page's frame
-                                       "Label1 lblInfo",  // a bar and the text on it
-                                       "Label1 Label2", "Label6 Label5"};  // a title and its shadow
-  return meant.contains(NameOf(under) + " " + NameOf(above));
-}
-
-bool IsFrameOf(const QWidget& outer, const QWidget& inner) {
-  const auto* frame = qobject_cast<const QLabel*>(&outer);
-  const bool hasLine = frame ? frame->frameShape() != QFrame::NoFrame
-                             : outer.metaObject()->className() == QByteArray("QFrame");
-  return hasLine && outer.geometry().contains(inner.geometry());
-}
 
 // The font in which a label that is too narrow draws its one line.
 QFont FontOf(const QLabel& label) {
@@ -56,9 +35,9 @@ QRect TextOf(const QLabel& label) {
 // What of a control is seen: of a label without a line around it its text.
 QRect SeenOf(const QWidget& control) {
   const auto* label = qobject_cast<const QLabel*>(&control);
-  if (!label || label->frameShape() != QFrame::NoFrame || label->autoFillBackground())
-    return control.geometry();
-  return TextOf(*label).translated(label->pos()) & label->geometry();
+  const bool isText =
+      label && label->frameShape() == QFrame::NoFrame && !label->autoFillBackground();
+  return isText ? TextOf(*label).translated(label->pos()) & label->geometry() : control.geometry();
 }
 
 bool Fits(const QWidget& control) {
@@ -66,7 +45,8 @@ bool Fits(const QWidget& control) {
     return label->text().isEmpty() ||
            label->rect().adjusted(-1, 0, 1, 0).contains(TextOf(*label));  // letters lean out
   // Drives are as long as they are.
-  if (const auto* box = qobject_cast<const QComboBox*>(&control); box && NameOf(*box) != "Drive1")
+  if (const auto* box = qobject_cast<const QComboBox*>(&control);
+      box && box->objectName() != "Drive1")
     return box->sizeHint().width() <= box->width();
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
   if (!button || button->text().isEmpty()) return true;
@@ -80,33 +60,20 @@ bool Fits(const QWidget& control) {
          text.height() <= button->height();
 }
 
-void ExpectLaidOutIn(const QWidget& parent) {
-  QList<QWidget*> seen;
-  for (auto* control : parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-    if (!control->isVisible() || control->objectName().isEmpty()) continue;
-    const auto what = control->window()->objectName().toStdString() + "." +
-                      control->objectName().toStdString() + " \"" +
-                      control->property("text").toString().toStdString() + "\"";
-    EXPECT_TRUE(parent.rect().contains(control->geometry())) << what << " is cut off";
-    EXPECT_TRUE(Fits(*control)) << what << " has its text cut off";
-    for (const auto* other : seen) {
-      // Neighbours may share a line.
-      const auto both = SeenOf(*control) & SeenOf(*other);
-      EXPECT_TRUE(both.width() <= 1 || both.height() <= 1 || IsMeant(*control, *other) ||
-                  IsMeant(*other, *control) || IsFrameOf(*control, *other) ||
-                  IsFrameOf(*other, *control))
-          << what << " lies on " << other->objectName().toStdString();
-    }
-    seen.append(control);
-    if (control->metaObject()->className() == QByteArray("QWidget")) ExpectLaidOutIn(*control);
-  }
-}
-
 }  // namespace
 
-void ExpectLaidOut(const QWidget& window) {
-  if (const auto* form = qobject_cast<const QMainWindow*>(&window))
-    ExpectLaidOutIn(*form->centralWidget());
+QString LayoutFaults(const QWidget& control) {
+  QString faults;
+  const auto& parent = *control.parentWidget();
+  if (!parent.rect().contains(control.geometry())) faults += " CUT";
+  if (!Fits(control)) faults += " TEXT CUT";
+  for (const auto* other : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (other == &control) break;
+    const auto both = SeenOf(control) & SeenOf(*other);
+    const bool touch = both.width() > 1 && both.height() > 1;  // neighbours may share a line
+    if (touch && other->isVisible()) faults += " over " + other->objectName();
+  }
+  return faults;
 }
 
 }  // namespace support

@@ -86,8 +86,8 @@ class UiTest : public TempApp {
   QMap<QString, Seen> seen_;  // by window
 };
 
-// Of what a window shows, nothing lies on something else unless it is meant to, all is inside its
-// parent, and no text is cut off.
-void ExpectLaidOut(const QWidget& window);
+// What is wrong with the place of a control: whether it or its text is cut off, and what of its
+// parent's other controls it lies on. Some are meant to.
+QString LayoutFaults(const QWidget& control);
 
 }  // namespace support
