@@ -27,6 +27,10 @@ TEST_F(Inputs, OfEachGroupAndPlayerActAsOneTable) {
     bar("lstInput(0)")->setValue(1);
     EXPECT_EQ(bar("lstInput(3)")->value(), 1);
     use(window, "optPlayer(1) optTypeInputs(1) optTypeInputs(2) optPlayer(0) optTypeInputs(3)");
+    auto& link = get(window, "lblAdvOpts");
+    const auto plain = link.grab().toImage();
+    link.setFocus();
+    EXPECT_NE(link.grab().toImage(), plain) << "the focus is seen";
   });
 }
 

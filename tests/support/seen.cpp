@@ -30,20 +30,21 @@ QString Looks(const QWidget& control) {
   return text;
 }
 
-// Those of a list, and of a tree the current one and what is open below it.
-QString Rows(const QWidget& control) {
+// Those of a list as assistive technology has them, and of a tree the current one and what is open
+// below it.
+QString Rows(const QWidget& control, const QAccessibleInterface& told) {
   QStringList rows;
-  const auto add = [&](const QString& text, bool isSelected) {
-    rows << text + (isSelected ? "*" : "");
-  };
   if (const auto* list = qobject_cast<const QListWidget*>(&control))
-    for (int row = 0; row < list->count(); ++row)
-      add(list->item(row)->text(), list->item(row)->isSelected());
+    for (int row = 0; row < list->count(); ++row) {
+      const auto name = told.child(row)->text(QAccessible::Name);
+      rows << (list->item(row)->text() == name ? "" : "~") + name +
+                  (told.child(row)->state().selected ? "*" : "");
+    }
   if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
     const auto* current = tree->currentItem();
-    add(current->text(0), current->isSelected());
+    rows << current->text(0) + (current->isSelected() ? "*" : "");
     for (int row = 0; current->isExpanded() && row < current->childCount(); ++row)
-      add(current->child(row)->text(0), current->child(row)->isSelected());
+      rows << current->child(row)->text(0);
   }
   return rows.empty() ? QString() : " [" + rows.join('|') + "]";
 }
@@ -66,7 +67,7 @@ QString Line(const QWidget& control) {
   if (!value.isEmpty() && value != caption && control.objectName() != "Drive1")
     text += " = " + value;
   if (told.role() == QAccessible::Graphic) text += QString(" ") + ColourOf(control);
-  text += Rows(control);
+  text += Rows(control, told);
   if (!control.toolTip().isEmpty()) text += " tip \"" + control.toolTip() + "\"";
   const auto* button = qobject_cast<const QPushButton*>(&control);
   const auto state = told.state();
@@ -104,7 +105,7 @@ void UiTest::see(const QWidget& window) {
     if (next->isVisible() && next->focusPolicy() & Qt::TabFocus) order << next->objectName();
   shown["Tab"] = order.join(' ');
   if (isBox) seen_.remove({});  // every one is another one
-  shown["Title"] = window.windowTitle();
+  shown["Title"] = window.windowTitle() + (window.windowIcon().isNull() ? " NO ICON" : "");
   tell(window.objectName(), shown);
 }
 
