@@ -79,19 +79,6 @@ void Play(std::string_view name) {
             "each row keeps its game");
 }
 
-// A hand-made header can name a row so that the header written for it reads as another one.
-bool HasOddName() {
-  return std::any_of(Profiles.begin() + 2, Profiles.end(), [](const core::Profile& profile) {
-    return profile.Name == "Global" || profile.Name.starts_with("]") ||
-           profile.Name.find(" ]") != std::string::npos;
-  });
-}
-
-bool IsCleared(core::Slot slot) {
-  return Profiles[1].Slots[slot].Value == core::kNoBinding &&
-         Profiles[0].Slots[slot].Value != core::kNoBinding;
-}
-
 // What the format can hold of folders, rows and plays; of what all games have in common what holds.
 std::string Held(const std::array<const core::FolderList*, 3>& paths,
                  const std::vector<core::Profile>& rows, const core::PlayRecords& plays) {
@@ -126,12 +113,12 @@ void fuzz::Examine(std::string_view bytes) {
     return Require(!base::Quietly([] { config::ConfigText(); }), "too many rows are not written");
   const auto text = platform::DecodeLines(bytes);
   Play(std::string_view(text).substr(0, text.find(base::kLineEnd)));
-  auto written = Written();
-  for (auto patience = Profiles.size(); HasOddName(); --patience) {
-    Require(patience > 0, "odd names settle");
-    Exchange(Read(written));
-    written = Written();
-  }
+  // A hand-made header can name a row so that the header written for it reads as another one.
+  for (auto row = Profiles.begin() + 2; row != Profiles.end(); ++row)
+    if (row->Name == "Global" || row->Name.starts_with("]") ||
+        row->Name.find(" ]") != row->Name.npos)
+      row->Name = "odd";
+  const auto written = Written();
   auto& again = Read(written);
   Require(Held({&RomPaths, &SnapPaths, &IconPaths}, Profiles, PlayLog) ==
               Held({&again.RomPaths, &again.SnapPaths, &again.IconPaths}, again.Profiles,
@@ -142,7 +129,8 @@ void fuzz::Examine(std::string_view bytes) {
           "the preferences come back");
   bool cleared = false;
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    cleared = cleared || IsCleared(slot);
+    cleared |= Profiles[1].Slots[slot].Value == core::kNoBinding &&
+               Profiles[0].Slots[slot].Value != core::kNoBinding;
   Exchange(again);
   const auto rewritten = Written();
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");

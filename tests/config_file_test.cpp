@@ -110,24 +110,27 @@ TEST_F(ConfigFile, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
   EXPECT_EQ(read(file), sections) << "the state never held the whole file";
 }
 
-TEST_F(ConfigFile, WithoutAReadableFileTheDefaultBindingsHold) {
+TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
   const auto file = path("Config/Kestrivane.ini");
-  for (const std::string what : {"none", "a folder", "a pipe", "unreadable"}) {
+  const auto expectDefaults = [](const char* what) {
     startup::FillSharedState();
-    std::filesystem::remove_all(path("Config"));
-    write("Config/Kestrivane.ini", "Vsync = 0\r\n");
-    if (support::kPosix) std::filesystem::permissions(file, std::filesystem::perms(0));
-    if (what != "unreadable") std::filesystem::remove(file);
-    if (what == "a folder") std::filesystem::create_directory(file);
-    if (what == "a pipe" && !support::MakePipe(file)) continue;
-    if (what == "unreadable" && !support::kPosix) continue;
-    const support::Unprivileged user;
     Adopt(LoadConfigFile(AppFolder));
-    const auto state = support::StateText();
-    EXPECT_TRUE(state.starts_with("1.InputStart1=\"KEY_1,JOY1_BUTTON9\" ")) << what << state;
-    EXPECT_TRUE(state.ends_with("1.InputAutoTrigger2=0 ")) << what << state;
+    EXPECT_EQ(value(1, "InputStart1"), "\"KEY_1,JOY1_BUTTON9\"") << what;
+    EXPECT_EQ(value(1, "InputAutoTrigger2") + value(1, "Vsync"), "0") << what;
     EXPECT_FALSE(exists("Config/Kestrivane.ini.bak")) << what;
+  };
+  expectDefaults("there is none");
+  if (support::MakePipe(file)) expectDefaults("a pipe");
+  std::filesystem::remove(file);
+  write("Config/Kestrivane.ini", "Vsync = 0\r\n");
+  if (support::kPosix) {
+    std::filesystem::permissions(file, std::filesystem::perms(0));
+    const support::Unprivileged user;
+    expectDefaults("one that nobody may read");
   }
+  std::filesystem::remove(file);
+  std::filesystem::create_directory(file);
+  expectDefaults("a folder");
 }
 
 TEST_F(ConfigFile, SettingsStoreTakesAllItsKeysAndForgetsNone) {

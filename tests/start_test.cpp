@@ -1,0 +1,67 @@
+// What a start finds: folders, the emulator's listing, the archives.
+#include "core/game_catalogue.h"
+#include "core/module1.h"
+#include "platform/files.h"
+#include "support/temp_app.h"
+
+namespace core {
+namespace {
+
+using namespace Module1;
+
+class Start : public support::TempApp {};
+
+TEST_F(Start, TakesTheEmulatorAsItIs) {
+  for (const std::string fault :
+       {"", "silent", "nobanner", "binary", "noseparator", "games300", "killed", "log"}) {
+    addEmulator(fault);
+    const bool silent = load() == i18n::Message::EmulatorSilent;
+    note(fault + ": " + EmulatorVersion + " " + std::to_string(GameCatalog.size() - 2) +
+         (silent ? " games, silent" : " games"));
+    EXPECT_FALSE(exists("error.log"));
+  }
+}
+
+TEST_F(Start, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
+  addGames("a");
+  write("roms/a.zip", "");
+  write("error.log", "");
+  {
+    const support::Unprivileged user(path(""));
+    EXPECT_FALSE(load());
+  }
+  EXPECT_TRUE(GameCatalog[0].Available);
+}
+
+TEST_F(Start, ArchivesAreTakenFromTheFirstFolderThatHasThem) {
+  for (const auto* archive : {"roms/b", "one/a", "two/a", "three/c", "four/d"})
+    write(std::string(archive) + ".zip", "");
+  GameCatalog.assign(6, {});
+  for (std::size_t row = 0; row < 4; ++row) GameCatalog[row].RomName = "abcd"[row];
+  // Of each game the folder in which it was found last, with a dash ahead if it is gone.
+  const auto noteFound = [this](const char* first, const char* second) {
+    RomPaths = {"ROMS", first, second, "three", "four"};
+    for (auto& folder : RomPaths)
+      if (!folder.empty()) folder.insert(0, AppFolder + "\\");
+    FindGameArchives(GameCatalog, RomPaths);
+    for (std::size_t row = 0; row < 4; ++row)
+      note((GameCatalog[row].Available ? "" : "-") + std::to_string(GameCatalog[row].RomFolder));
+  };
+  noteFound("One", "two\\");
+  noteFound("", "two\\");  // an empty entry ends the list, and the last folder is not searched
+  noteFound("two\\", "three");
+}
+
+TEST_F(Start, WorkingFoldersAreMadeUpToTheFirstFailure) {
+  write("Snaps", "a file in the way");
+  std::filesystem::create_directory(path("ROMS"));
+  startup::EnsureFolders(AppFolder);
+  EXPECT_EQ(read("Snaps"), "a file in the way");
+  EXPECT_EQ(platform::SubfolderNames(AppFolder), std::vector<std::string>({"ROMS"}));
+  std::filesystem::remove(path("Snaps"));
+  startup::EnsureFolders(AppFolder);
+  for (const auto* name : {"Snaps", "Icons", "Config"}) EXPECT_TRUE(exists(name)) << name;
+}
+
+}  // namespace
+}  // namespace core
