@@ -21,8 +21,8 @@ core::BindingCells ClosedUp(core::BindingCells cells) {
 
 void CheckRebuilding(const core::BindingCells& cells) {
   const auto value = core::ValueOf(cells);
-  Require(value.size() > 2 && value.front() == '"' && value.back() == '"', "a value is quoted");
-  Require(std::count(value.begin(), value.end(), '"') == 2, "a value has no quotes inside");
+  Require(value.size() > 2 && value.front() == '"' && value.find('"', 1) == value.size() - 1,
+          "a value is quoted");
   Require(value.find(",,") == value.npos && value.find("\",") == value.npos &&
               value.find(",\"") == value.npos,
           "no token is empty");

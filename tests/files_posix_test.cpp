@@ -47,10 +47,8 @@ TEST_F(PosixFiles, AreFoundInAnySpelling) {
   EXPECT_EQ(FirstFolderOfEach({"two.zip", "éclair one.zip", "Three.ZIP", "three.zip", "four.zip"},
                               folders),
             std::vector<std::size_t>({1, 1, 1, 2, 2}));
-  EXPECT_TRUE(IsFolder(AppFolder + "\\roms") && IsFolder(AppFolder + "\\roms\\"));
-  EXPECT_FALSE(IsFolder(AppFolder + "\\roms\\two.zip"));
-  EXPECT_TRUE(IsFile("roms\\two.zip")) << "relative to the working folder";
-  EXPECT_FALSE(IsFile(""));
+  EXPECT_TRUE(IsFolder(AppFolder + "\\roms\\") && !IsFolder(AppFolder + "\\roms\\two.zip"));
+  EXPECT_TRUE(IsFile("roms\\two.zip") && !IsFile("")) << "relative to the working folder";
 }
 
 TEST_F(PosixFiles, ThatHaveJustComeOrGoneAreSeen) {

@@ -56,20 +56,14 @@ TEST_F(MainPlay, InGameWindowStaysUntilTheEndAndPausesAfterAGoodOne) {
 TEST_F(MainPlay, InputOfThePlayAndThePauseIsDropped) {
   write("roms/a.zip", "seconds=0\nend=good");
   start();
-  const auto post = [](const QWidget& target, QEvent* event) {
-    QApplication::postEvent(target.windowHandle(), event);
-  };
   int posted = 0, handled = 0;
   clock.onSleep = [&] {
     if (clock.sleeps.size() > 6) return;  // what is obeyed has begun another play
     auto& gaming = *QApplication::activeModalWidget();
-    const QPointF place = get(window(), "cmdPlay").mapTo(&window(), QPoint(9, 9));
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-      post(window(), new QMouseEvent(type, place, window().mapToGlobal(place), Qt::LeftButton,
-                                     Qt::LeftButton, Qt::NoModifier));
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
-      for (const auto* target : {&window(), &gaming})
-        post(*target, new QKeyEvent(type, Qt::Key_Down, Qt::NoModifier));
+    const auto type = posted % 2 == 0 ? QEvent::KeyPress : QEvent::KeyRelease;
+    for (const auto* target : {&window(), &gaming})
+      for (const auto key : {Qt::Key_Down, Qt::Key_Return})
+        QApplication::postEvent(target->windowHandle(), new QKeyEvent(type, key, Qt::NoModifier));
     EXPECT_EQ(handled, posted++) << "events are handled until the next second, also in the pause";
     QTimer::singleShot(0, [&] { ++handled; });
     waitForEmulator();

@@ -114,8 +114,7 @@ TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAsTheyAre) {
   addEmulator();
   write("日本 é/game.zip", "seconds=0");
   // The system itself would run this one.
-  const auto shorter = path("").parent_path().parent_path() / "Mis.exe";
-  fs::copy_file(path("Kestrivane.exe"), shorter);
+  fs::copy_file(path("Kestrivane.exe"), path("").parent_path().parent_path() / "Mis.exe");
   EXPECT_EQ(run(AppFolder + "\\kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" \"-x y\\\""), 1);
   EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
       << read("error.log");

@@ -26,9 +26,8 @@ inline std::string StateText() {
     add("snap" + std::to_string(entry), SnapPaths[entry]);
     add("icon" + std::to_string(entry), IconPaths[entry]);
   }
-  for (std::size_t row = 0; row < PlayLog.size(); ++row)
-    add("log" + std::to_string(row),
-        PlayLog[row].GameId + "," + PlayLog[row].PlayCount + "," + PlayLog[row].PlaySeconds);
+  for (std::size_t row = 0; const auto& [game, plays, seconds] : PlayLog)
+    add("log" + std::to_string(row++), game + "," + plays + "," + seconds);
   add("input", std::to_string(Profiles[1].InputMethod));
   add("pref", std::to_string(GameListPref));
   add("lang", std::to_string(CurrentLanguage));

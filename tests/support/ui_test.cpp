@@ -32,12 +32,6 @@ const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
 
 }  // namespace
 
-std::string UiTest::textOf(const QWidget& window, const char* name) {
-  const auto& child = get(window, name);
-  const auto text = child.property("text");
-  return (text.isValid() ? text : child.property("plainText")).toString().toStdString();
-}
-
 std::string UiTest::tipAt(QWidget& widget, QPoint at) {
   QHelpEvent help(QEvent::ToolTip, at, widget.mapToGlobal(at));
   QApplication::sendEvent(&widget, &help);
@@ -73,30 +67,25 @@ void UiTest::key(const QKeySequence& key) {
 }
 
 void UiTest::use(QWidget& window, const QString& steps) {
-  for (qsizetype at = 0; at < steps.size();) {
-    auto end = at;
-    while (end < steps.size() && steps[end] != ' ' && steps[end] != '{') ++end;
-    const auto step = steps.mid(at, end - at);
+  static const QRegularExpression form("([^ {]+)(\\{([^{}]|(?2))*\\})?");
+  for (auto found = form.globalMatch(steps); found.hasNext();) {
+    const auto match = found.next();
+    const auto step = match.captured(1), inside = match.captured(2);
     note("> " + step.toStdString());
     EXPECT_TRUE(!window.isVisible() || QTest::qWaitForWindowActive(&window));
-    if (steps.mid(end, 1) == "{") {
-      const auto start = ++end;
-      for (int depth = 1; depth > 0; ++end)
-        depth += steps.at(end) == '{' ? 1 : steps.at(end) == '}' ? -1 : 0;
-      const auto inside = [&](QWidget& opened) {
-        see(opened);
-        use(opened, steps.mid(start, end - 1 - start));
-        // The button of an access key is seen to go down first.
-        const auto isClosed = [&] { return !opened.isVisible(); };
-        note(QTest::qWaitFor(isClosed, 250) ? "<" : "< left");
-      };
-      inModal(inside, [&] { act(window, step); });
-    } else {
+    const auto useOpened = [&](QWidget& opened) {
+      see(opened);
+      use(opened, inside.mid(1, inside.size() - 2));
+      // The button of an access key is seen to go down first.
+      const auto isClosed = [&] { return !opened.isVisible(); };
+      note(QTest::qWaitFor(isClosed, 250) ? "<" : "< left");
+    };
+    if (inside.isEmpty())
       act(window, step);
-    }
+    else
+      inModal(useOpened, [&] { act(window, step); });
     if (window.isVisible()) see(window);
     seeState();
-    at = end + 1;
   }
 }
 

@@ -55,14 +55,16 @@ class UiTest : public TempApp {
 
   QWidget& window() const { return *form->clientArea()->window(); }
   QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
-  // What has this name in a window, and the text of a label, button or text box there.
+  // What has this name in a window, and the text of a label there.
   template <class T = QWidget>
   static T& get(const QWidget& window, const QString& name) {
     auto* child = window.findChild<T*>(name);
     if (!child) throw std::runtime_error("nothing is called " + name.toStdString());
     return *child;
   }
-  static std::string textOf(const QWidget& window, const char* name);
+  static std::string textOf(const QWidget& window, const char* name) {
+    return get(window, name).property("text").toString().toStdString();
+  }
   // The tool tip, markup and all, that comes up there.
   static std::string tipAt(QWidget& widget, QPoint at);
 
