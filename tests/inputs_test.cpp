@@ -6,20 +6,14 @@
 
 namespace {
 
-class Inputs : public support::UiTest {
- protected:
-  void modify(const std::function<void(QWidget&)>& step) {
-    inModal(step, [this] { use("mConfig"); });
-  }
-};
+class Inputs : public support::UiTest {};
 
 TEST_F(Inputs, OfEachGroupAndPlayerActAsOneTable) {
   start();
-  modify([this](QWidget& window) {
+  modify("optOPT(2)", [this](QWidget& window) {
     const auto bar = [&](const char* name) {
       return get<QListWidget>(window, name).verticalScrollBar();
     };
-    use(window, "optOPT(2)");
     get(window, "cmbInputType").setFocus();
     use(window, "=Tab lstInput(2)=End");
     EXPECT_GT(bar("lstInput(2)")->value(), 0);
@@ -36,10 +30,10 @@ TEST_F(Inputs, OfEachGroupAndPlayerActAsOneTable) {
 
 TEST_F(Inputs, AreEditedCellByCell) {
   start();
-  modify([this](QWidget& window) {
+  modify("optOPT(2)", [this](QWidget& window) {
     // Names are not edited.
     use(window,
-        "optOPT(2) lstInput(0)@@2 "
+        "lstInput(0)@@2 "
         "lstInput(3)=F2{cmbHardN(2)=Down cmbInputs(2)=End cmdOK(2)} "
         "lstInput(1)=F2{cmbInputs(0)=End}");
     get(window, "lstInput(1)").setFocus();

@@ -9,15 +9,6 @@ using namespace Module1;
 
 class OptionsFolders : public support::UiTest {
  protected:
-  // In the page of the folders.
-  void modify(const std::function<void(QWidget&)>& step) {
-    inModal(
-        [&](QWidget& window) {
-          use(window, "optOPT(4)");
-          step(window);
-        },
-        [this] { use("mConfig"); });
-  }
   // Shows the folder in the tree, as a person would by opening its parents.
   static void goTo(const QWidget& window, const char* folder) {
     auto& tree = get<QTreeWidget>(window, "Dir1");
@@ -28,7 +19,7 @@ class OptionsFolders : public support::UiTest {
 TEST_F(OptionsFolders, AreUpToThreeThatCanBeAddedAndRemoved) {
   startWith(";SNAPpaths=/s/<b>one*/s/2*/s/3|");
   write(".hidden/b.zip", "");
-  modify([this](QWidget& window) {
+  modify("optOPT(4)", [this](QWidget& window) {
     goTo(window, ".hidden");
     use(window,
         "cmdAddPath(0) cmdAddPath(0) cmdAddPath(0) cmdRemovePath(0) lstFolders(1)@1 "
@@ -48,7 +39,7 @@ TEST_F(OptionsFolders, OfTheTreeCanBeSavedAndAreReachedByKeysAndSeen) {
     write(parent + "/" + folder + "/b.zip", "");
   start();
   AppFolder += "/" + parent;
-  modify([&](QWidget& window) {
+  modify("optOPT(4)", [&](QWidget& window) {
     auto& tree = get<QTreeWidget>(window, "Dir1");
     const auto keys = [&](const char* pressed, int times, const char* name) {
       tree.setFocus();
@@ -76,7 +67,7 @@ TEST_F(OptionsFolders, OfADriveAreThoseOfTheInnermostOneThatHoldsOurs) {
   start();
   for (const auto& drive : {parent, alike}) {
     qputenv("HOME", drive.toUtf8());
-    modify([&](QWidget& window) {
+    modify("optOPT(4)", [&](QWidget& window) {
       auto& drives = get<QComboBox>(window, "Drive1");
       const auto first = drives.currentText();
       EXPECT_EQ(first == drive, drive == parent);
@@ -93,7 +84,7 @@ TEST_F(OptionsFolders, LockThePageWhileAShaderIsChosen) {
   for (const auto* name : {"b.fs", ".A.fs", "a=b.fs", "a;b.fs", "a[ b.fs", "kestrivane ui®.fs"})
     write(std::string("shaders/") + name, "");
   write("empty/nothing/x", "");
-  modify([this](QWidget& window) {
+  modify("optOPT(4)", [this](QWidget& window) {
     get<QListWidget>(window, "lstFolders(0)").clearSelection();
     goTo(window, "empty");
     use(window, "cmdAddPath(3){Ok} cmdRemovePath(0){Ok}");

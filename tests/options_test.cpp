@@ -9,12 +9,7 @@ namespace {
 
 using namespace Module1;
 
-class Options : public support::UiTest {
- protected:
-  void modify(const std::function<void(QWidget&)>& step) {
-    inModal(step, [this] { use("mConfig"); });
-  }
-};
+class Options : public support::UiTest {};
 
 constexpr const char* kPages = "mConfig{=Right =Right =Right =Right}";
 
@@ -105,8 +100,7 @@ TEST_F(Options, AreNotKeptOnTheOtherWaysOutNorByWhatComesTooLate) {
 
 TEST_F(Options, OfTheSizeTakeFourDigitsAndDropTheRest) {
   startWith("XResolution = 641|");
-  modify([this](QWidget& window) {
-    use(window, "optOPT(1)");
+  modify("optOPT(1)", [this](QWidget& window) {
     auto& box = get<QLineEdit>(window, "tbxCustRes(0)");
     box.setFocus();
     QTest::keyClicks(&box, "a2-34");
@@ -121,7 +115,7 @@ TEST_F(Options, OfTheSizeTakeFourDigitsAndDropTheRest) {
 
 TEST_F(Options, AreTurnedByTheWheelInFocusOnlyAndByTheEndOfADrag) {
   start();
-  modify([this](QWidget& window) {
+  modify("optOPT(3)", [this](QWidget& window) {
     for (const auto& [page, name] :
          {std::pair("optOPT(2)", "cmbInputType"), {"optOPT(3)", "hslPPC"}}) {
       const auto turn = QString("%1~-120 ").arg(name);

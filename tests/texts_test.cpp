@@ -9,7 +9,6 @@
 #include "config/writable_names.h"
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
-#include "launch/error_log.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/process.h"
@@ -66,14 +65,6 @@ class Texts : public support::TempApp {
       result += listing.GameCatalog[game].RomName + "=" + listing.GameCatalog[game].Title + ",";
     return result;
   }
-  static std::string report(const std::string& log) {
-    write("error.log",
-          base::ReplaceIgnoringCase(log, "HEAD", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n"));
-    ErrorText.clear();
-    const bool failed = launch::ReadErrorLog();
-    EXPECT_FALSE(exists("error.log"));
-    return (failed ? "failed " : "well ") + ErrorText;
-  }
   // The program that a command line finds, and its arguments; spellings are the system's.
   static std::string command(const std::string& text) {
     const auto found = platform::FindCommand(base::ReplaceIgnoringCase(text, "APP", AppFolder));
@@ -99,7 +90,6 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
       {"writable", [](auto& name) { return config::IsWritableGame(name) ? "yes" : "no"; }},
       {"config", config},
       {"games", games},
-      {"report", report},
       {"command", command}};
   for (const auto* file :
        {"Kestrivane.exe", "two words/Tool.exe", "two.exe", "x/Kestrivane.exe", "ROMs/My Game.zip"})

@@ -4,8 +4,6 @@
 
 #include <tlhelp32.h>
 
-#include <stdexcept>
-
 namespace support {
 namespace {
 
@@ -62,10 +60,6 @@ void RemoveAll(const fs::path& folder) {
   }
   for (const auto& inner : platform::SubfolderNames(name)) RemoveAll(folder / ToPath(inner));
   RemoveDirectoryW(platform::FullName(name).c_str());
-}
-
-void TempApp::writeProgram(std::string_view, std::string_view) {
-  throw std::logic_error("a script is no program here");
 }
 
 bool MakePipe(const fs::path&) { return false; }

@@ -120,6 +120,14 @@ void UiTest::act(QWidget& window, const QString& step) {
   if (kind == "@@") QTest::mouseDClick(target, Qt::LeftButton, {}, place);
 }
 
+void UiTest::modify(const char* page, const std::function<void(QWidget&)>& step) {
+  const auto inPage = [&](QWidget& options) {
+    use(options, page);
+    step(options);
+  };
+  inModal(inPage, [this] { use("mConfig"); });
+}
+
 void UiTest::inModal(const std::function<void(QWidget&)>& step,
                      const std::function<void()>& action) {
   const auto* before = QApplication::activeModalWidget();

@@ -45,6 +45,8 @@ class UiTest : public TempApp {
   // Does what opens a modal window and runs the step in it. If it doesn't come within seconds, the
   // test fails.
   void inModal(const std::function<void(QWidget&)>& step, const std::function<void()>& action);
+  // The same in a page of the options of all games.
+  void modify(const char* page, const std::function<void(QWidget&)>& step);
   // A key to the active window.
   static void key(const QKeySequence& key);
 
