@@ -2,7 +2,6 @@
 // other, and numbering the devices can be repeated and taken back.
 #include <algorithm>
 
-#include "base/text.h"
 #include "core/bindings.h"
 #include "support.h"
 
@@ -14,12 +13,7 @@ bool Holds(std::string_view text, std::string_view wanted) {
   return base::FoldCase(text).find(base::FoldCase(wanted)) != std::string::npos;
 }
 
-core::BindingCells ClosedUp(core::BindingCells cells) {
-  std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
-  return cells;
-}
-
-void CheckRebuilding(const core::BindingCells& cells) {
+void CheckRebuilding(core::BindingCells cells) {
   const auto value = core::ValueOf(cells);
   Require(value.size() > 2 && value.front() == '"' && value.find('"', 1) == value.size() - 1,
           "a value is quoted");
@@ -29,7 +23,8 @@ void CheckRebuilding(const core::BindingCells& cells) {
   // "NONE" inside a token goes at the next filling; no token of the emulator has it.
   if (std::any_of(cells.begin(), cells.end(), [](auto& cell) { return Holds(cell, "NONE"); }))
     return;
-  Require(core::CellsOf(value) == ClosedUp(cells), "the cells come back, closed up");
+  std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
+  Require(core::CellsOf(value) == cells, "the cells come back, closed up");
   Require(core::ValueOf(core::CellsOf(value)) == value, "the value comes back");
 }
 

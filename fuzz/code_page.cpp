@@ -1,7 +1,6 @@
 // The code page: decoding gives UTF-8, and what was decoded comes back from its bytes.
 #include "platform/code_page.h"
 
-#include "base/text.h"
 #include "support.h"
 
 void fuzz::Examine(std::string_view bytes) {

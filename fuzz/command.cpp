@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "base/text.h"
 #include "platform/process.h"
 #include "support.h"
 

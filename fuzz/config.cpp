@@ -1,10 +1,8 @@
 // The configuration file: what was read from any bytes, written and read again is what the format
 // can hold of it, and the file settles. Games of any name can be played in between.
 #include <algorithm>
-#include <string>
 
 #include "base/quietly.h"
-#include "base/text.h"
 #include "config/config_reader.h"
 #include "config/config_writer.h"
 #include "core/bindings.h"

@@ -1,7 +1,6 @@
 // The emulator's report: all behind the seventh line of any file, unless that tells of a good end.
 #include <fstream>
 
-#include "base/text.h"
 #include "core/module1.h"
 #include "launch/error_log.h"
 #include "platform/code_page.h"

@@ -1,5 +1,4 @@
 // The emulator's listing: whatever it says, each game line is one row and nothing else is.
-#include "base/text.h"
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"

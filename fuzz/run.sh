@@ -13,10 +13,8 @@ export ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=8
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-build_fuzzers() {
-    cmake --preset sanitize && cmake --build --preset sanitize --target fuzzers --parallel "$(nproc)"
-}
-build_fuzzers >"$scratch/build.log" 2>&1 || { cat "$scratch/build.log"; exit 1; }
+{ cmake --preset sanitize && cmake --build --preset sanitize --target fuzzers --parallel "$(nproc)"; } \
+    >"$scratch/build.log" 2>&1 || { cat "$scratch/build.log"; exit 1; }
 
 found=0
 examine() { # name, kept inputs, limits

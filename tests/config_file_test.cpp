@@ -5,7 +5,6 @@
 #include "config/user_settings.h"
 #include "core/option_catalogue.h"
 #include "platform/code_page.h"
-#include "startup/startup.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"
 
@@ -128,9 +127,6 @@ TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
     const support::Unprivileged user;
     expectDefaults("one that nobody may read");
   }
-  std::filesystem::remove(file);
-  std::filesystem::create_directory(file);
-  expectDefaults("a folder");
 }
 
 TEST_F(ConfigFile, SettingsStoreTakesAllItsKeysAndForgetsNone) {

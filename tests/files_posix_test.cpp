@@ -1,8 +1,9 @@
 #include <sys/stat.h>
 
-#include <chrono>
+#include <fstream>
+#include <thread>
 
-#include "core/module1.h"
+#include "config/user_settings.h"
 #include "platform/file_search.h"
 #include "platform/files.h"
 #include "support/temp_app.h"
@@ -74,6 +75,15 @@ TEST_F(PosixFiles, APipeIsNeitherReadNorWaitedFor) {
   EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(ReadBytes(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
+}
+
+TEST_F(PosixFiles, ASettingsStoreThatAnotherProgramKeepsIsLeftToItself) {
+  const fs::path lock = std::string(getenv("XDG_CONFIG_HOME")) + "/Kestrivane UI.conf.lock";
+  std::ofstream(lock) << "another";
+  config::SaveUserSettings();
+  EXPECT_EQ(settings(), "");
+  fs::remove(lock);
+  while (settings().empty()) std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
 }  // namespace

@@ -11,9 +11,7 @@ TEST_F(Process, CaptureTakesMuchOutputAndDoesNotWaitForAGrandchild) {
     const auto output = capture("kestrivane.exe -print-games");
     EXPECT_EQ(output.size() > 4194304, fault == "flood") << fault;
     EXPECT_TRUE(output.ends_with("Nimblewick's Parade\r\n")) << fault;
-    if (fault == "flood") {
-      EXPECT_EQ(run("Kestrivane -print-games"), 0) << "not held up by its output";
-    }
+    EXPECT_TRUE(fault != "flood" || run("Kestrivane -print-games") == 0) << "held up by output";
   }
   addEmulator("deluge");
   EXPECT_EQ(capture("kestrivane.exe -print-games").size(), 16U << 20U);

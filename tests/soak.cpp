@@ -1,11 +1,9 @@
 // Random use of the whole program for SOAK_SECONDS (30): keys, clicks, wheel, menus, dialogs,
 // plays. Whatever a save leaves in the file must be what the program holds. SOAK_SEED repeats a
 // run.
-#include <QApplication>
 #include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QWheelEvent>
@@ -22,10 +20,6 @@ namespace {
 
 using namespace Module1;
 
-unsigned Given(const char* name, unsigned otherwise) {
-  return qEnvironmentVariable(name, QString::number(otherwise)).toUInt();
-}
-
 class Soak : public support::UiTest {
  protected:
   Soak() {
@@ -33,10 +27,9 @@ class Soak : public support::UiTest {
     std::fflush(stdout);
     QDesktopServices::setUrlHandler("https", &browser_, "anchorClicked");
     addEmulator();
-    const std::pair<const char*, const char*> archives[] = {
-        {"7undertow", "good"}, {"abalonec", "error"}, {"nimblewk", "crash"}};
-    for (const auto& [game, end] : archives)
-      write(std::string("roms/") + game + ".zip", std::string("seconds=0\nend=") + end);
+    write("roms/7undertow.zip", "seconds=0\nend=good");
+    write("roms/abalonec.zip", "seconds=0\nend=error");
+    write("roms/nimblewk.zip", "seconds=0\nend=crash");
     write("roms/shader.fs", "");
     clock_.onSleep = [this] { clock_.now += std::chrono::seconds(pick(15)); };
   }
@@ -45,7 +38,7 @@ class Soak : public support::UiTest {
   int pick(int below) { return std::uniform_int_distribution<>(0, below - 1)(random_); }
 
   void run() {
-    const qint64 most = Given("SOAK_SECONDS", 30) * qint64{1000};
+    const qint64 most = qEnvironmentVariable("SOAK_SECONDS", "30").toLongLong() * 1000;
     time_.start();
     QEventLoop loop;
     std::function<void()> next = [&] {
@@ -115,7 +108,8 @@ class Soak : public support::UiTest {
     config::Adopt(std::move(state));
   }
 
-  unsigned seed_ = Given("SOAK_SEED", std::random_device()());
+  unsigned seed_ =
+      qEnvironmentVariable("SOAK_SEED", QString::number(std::random_device()())).toUInt();
   std::mt19937 random_{seed_};
   support::FakeClock clock_;
   QTextBrowser browser_;  // takes the addresses that are opened

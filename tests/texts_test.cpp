@@ -1,6 +1,5 @@
 // All that makes a text out of a text, by the rows of texts.tsv.
 #include <fstream>
-#include <functional>
 #include <map>
 
 #include "base/quietly.h"
@@ -10,7 +9,6 @@
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
 #include "platform/code_page.h"
-#include "platform/files.h"
 #include "platform/process.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"

@@ -20,7 +20,6 @@ is_titled() { [[ $(xdotool getwindowfocus getwindowname) == "$1"* ]]; }
 # The window manager may leave wine's windows without the focus.
 is_main_window() { xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
 back_in_main_window() { wait_until 30 is_main_window || fail "not back in the main window"; }
-registry() { wine reg query "HKCU\\Software\\Kestrivane UI\\$1" /v "$2" | tr -d '\r' | sed -n "s/^ *$2 *REG_SZ *//p"; }
 start_package() {
     wine "$app/KestrivaneUI.exe" &
     front_end=$!
@@ -61,23 +60,15 @@ press Return
 sleep 3
 picture playing
 expect_main_window 60
-[[ $(registry GameTimeLog $game) == 1,2[1-9] ]] || fail "counted $(registry GameTimeLog $game)"
+wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " 1,2[1-9]" || fail "not counted"
 
-echo "Options are saved, and the preferences stand in the registry"
-press alt+t o
-expect_window "   Options:   Global"
-press Return
-back_in_main_window
-grep -q "^;GameTimeLog=$game,1,2" "$app/Config/Kestrivane.ini" || fail "no play log in the file"
-[[ $(registry General Language) == 0 ]] || fail "the language is $(registry General Language)"
 expect_end_by_escape
 
 echo "Pictures of the windows at three scales and in three languages: $pictures"
 for dpi in 96 144 192; do
     scale_desktop $dpi
     for language in 0 1 2; do
-        sed -i '/^;KVLLanguage=/d' "$app/Config/Kestrivane.ini"
-        printf '\r\n;KVLLanguage=%d\r\n' $language >>"$app/Config/Kestrivane.ini"
+        printf ';KVLLanguage=%d\r\n' $language >"$app/Config/Kestrivane.ini"
         start_package
         wait_until 60 is_titled "Kestrivane UI" || fail "no window"
         sleep 1

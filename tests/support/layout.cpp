@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QLabel>
 #include <QStyleOptionButton>
 
@@ -8,28 +7,22 @@
 namespace support {
 namespace {
 
-// The font in which a label that is too narrow draws its one line.
-QFont FontOf(const QLabel& label) {
-  auto font = label.font();
-  if (!label.wordWrap() && !label.text().contains('\n') &&
-      label.fontMetrics().horizontalAdvance(label.text()) > label.contentsRect().width())
-    font.setPixelSize(font.pixelSize() * 8 / 10);
-  return font;
-}
-
-// Where the text of a label stands, in its own coordinates; of one line no room for letters below
-// the line that it does not have.
+// Where the text of a label stands, in its own coordinates. One line that is too long is drawn
+// smaller, and needs no room for letters below the line that it does not have.
 QRect TextOf(const QLabel& label) {
-  const auto flags =
-      static_cast<int>(label.alignment()) | (label.wordWrap() ? Qt::TextWordWrap : 0);
-  const QFontMetrics metrics(FontOf(label));
+  const auto text = label.text();
+  const bool isOneLine = !label.wordWrap() && !text.contains('\n');
+  auto font = label.font();
+  if (isOneLine && QFontMetrics(font).horizontalAdvance(text) > label.contentsRect().width())
+    font.setPixelSize(font.pixelSize() * 8 / 10);
+  const QFontMetrics metrics(font);
+  const int flags = static_cast<int>(label.alignment()) | (isOneLine ? 0 : Qt::TextWordWrap);
   const int margin = label.margin();
-  const auto room = label.contentsRect().adjusted(margin, margin, -margin, -margin);
-  auto text = metrics.boundingRect(room, flags, label.text());
-  if (text.height() < 2 * metrics.height())
-    text.setBottom(text.top() + metrics.ascent() +
-                   metrics.tightBoundingRect(label.text()).bottom());
-  return text;
+  auto place = metrics.boundingRect(label.contentsRect().adjusted(margin, margin, -margin, -margin),
+                                    flags, text);
+  if (isOneLine)
+    place.setBottom(place.top() + metrics.ascent() + metrics.tightBoundingRect(text).bottom());
+  return place;
 }
 
 // What of a control is seen: of a label without a line around it its text.

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <chrono>
-#include <string>
 #include <thread>
 
-#include "core/module1.h"
 #include "launch/process_capture.h"
 #include "platform/process.h"
 #include "support/temp_app.h"

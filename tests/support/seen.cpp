@@ -1,11 +1,9 @@
 // What a window shows and tells assistive technology, and what the program holds, as text.
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QLabel>
 #include <QMetaEnum>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <algorithm>
 
 #include "base/text.h"
 #include "platform/code_page.h"
@@ -123,14 +121,12 @@ void UiTest::seeState() {
       held[name + " waiting"] = QString::fromStdString(Module1::StagedOptions[slot]);
   }
   held["OptionsSaved"] = QString::number(Module1::OptionsSaved);
-  const auto text = platform::DecodeCodePage(file());
-  const auto isDefault = [&](std::string_view line) {
-    return std::any_of(defaults.begin(), defaults.end(), [&](const core::OptionSlot& slot) {
-      return slot.Value.starts_with('"') && line == slot.Name + " = " + slot.Value;
-    });
-  };
+  auto text = "\r\n" + platform::DecodeCodePage(file());
+  for (const auto& slot : defaults)
+    if (slot.Value.starts_with('"'))
+      text = base::ReplaceIgnoringCase(text, "\r\n" + slot.Name + " = " + slot.Value, "");
   for (const auto line : base::Split(text, base::kLineEnd))
-    if (!line.empty() && !line.starts_with(";*") && !isDefault(line))
+    if (!line.empty() && !line.starts_with(";*"))
       held["File"] += QString::fromUtf8(line.data(), static_cast<int>(line.size())) + "|";
   tell("state", held);
 }

@@ -3,12 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <random>
-#include <utility>
 
 #include "base/quietly.h"
-#include "core/module1.h"
 #include "platform/app_folder.h"
 
 namespace support {
@@ -63,8 +60,8 @@ void TempApp::TearDown() {
   const std::string kept(std::istreambuf_iterator<char>(in), {});
   const auto differ = std::mismatch(notes_.begin(), notes_.end(), kept.begin(), kept.end()).first;
   const auto line = notes_.rfind('\n', differ - notes_.begin() - 1) + 1;
-  EXPECT_TRUE(notes_ == kept) << "now: " << notes_.substr(line, 500)
-                              << "\nkept: " << kept.substr(line, 500);
+  if (notes_ != kept)
+    ADD_FAILURE() << "now: " << notes_.substr(line, 500) << "\nkept: " << kept.substr(line, 500);
 }
 
 std::optional<i18n::Message> TempApp::load() {

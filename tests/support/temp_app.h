@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/module1.h"
 #include "startup/startup.h"
 
 namespace support {

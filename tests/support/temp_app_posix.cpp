@@ -2,9 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <fstream>
-#include <iterator>
 
 #include "support/temp_app.h"
 

@@ -2,17 +2,14 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
 #include <QMap>
 #include <QMessageBox>
 #include <QTest>
-#include <functional>
 #include <memory>
 #include <vector>
 
-#include "core/module1.h"
 #include "support/temp_app.h"
 #include "ui/main/form1.h"
 
