@@ -73,6 +73,7 @@ QString Line(const QWidget& control) {
       {state.checked, "checked"},
       {state.checkStateMixed, "mixed"},
       {state.disabled, "disabled"},
+      {state.readOnly, "read only"},
       {button && button->isDefault(), "default"},
       {control.window()->focusWidget() == &control, "focus"}};
   for (const auto& [holds, what] : states)

@@ -103,7 +103,11 @@ void UiTest::act(QWidget& window, const QString& step) {
   if (name.isEmpty()) return key(QKeySequence(what));
   if (auto* menu = window.findChild<QAction*>(name)) return menu->trigger();
   auto& control = get(window, name);
-  if (kind == "=") return QTest::keyClick(&control, QKeySequence(what)[0].key());
+  if (kind == "=") {
+    if (!window.isVisible()) return QTest::keyClick(&control, QKeySequence(what)[0].key());
+    control.setFocus();
+    return key(QKeySequence(what));
+  }
   if (kind == "~") {
     const QPointF at(5, 5);
     QWheelEvent wheel(at, control.mapToGlobal(at), {}, {0, what.toInt()}, {}, {}, {}, false);

@@ -33,7 +33,7 @@ class UiTest : public TempApp {
   // Does these steps, each ended by a blank:
   //   cmdSave        a click near the left end, where a check box has its box; a menu item's choice
   //   lstGames@1     a click on a row, "@@1" a double click, "@@" one on a control without rows
-  //   hslPPC=End     a key in a control, "=Esc" in the window
+  //   hslPPC=End     a key in a control, which gets the focus; "=Esc" one in the window
   //   hslPPC~-120    a turn of the wheel over it
   //   mConfig{...}   steps in the window that this one opens; it is closed if they leave it open
   // A message box has the buttons Yes, No, Cancel and Ok.
