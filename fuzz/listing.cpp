@@ -11,9 +11,8 @@ using fuzz::Require;
 constexpr std::size_t kMaxRows = core::kMaxGames + 2;
 
 void CheckGame(const core::GameEntry& game, std::string_view line) {
-  const auto chars = base::CharCount(game.RomName);
   Require(!game.RomName.empty() && line.starts_with(game.RomName), "the name starts the line");
-  Require(chars <= 14, "the name has at most 14 characters");
+  Require(base::CharCount(game.RomName) <= 14, "the name has at most 14 characters");
   Require(line.ends_with(game.Title), "the title ends the line");
   Require((base::CharCount(line) < 14) == game.Title.empty(), "the title starts in column 14");
   const auto between = line.substr(game.RomName.size());

@@ -45,7 +45,6 @@ scale_desktop() { # dots per inch
 start_display "$work" 1600x1200 || fail "no display"
 unset QT_QPA_PLATFORM
 start_wine "$build"
-scale_desktop 96
 wine reg delete 'HKCU\Software\Kestrivane UI' /f >/dev/null 2>&1 || true
 (cd "$app" && cmake -E tar xf "$package")
 cp "$2" "$app/Kestrivane.exe"
@@ -62,13 +61,18 @@ picture playing
 expect_main_window 60
 wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " 1,2[1-9]" || fail "not counted"
 
+press alt+t o
+expect_window "   Options:   Global"
+press Return # saves, so that there are bindings to be seen
+back_in_main_window
 expect_end_by_escape
 
 echo "Pictures of the windows at three scales and in three languages: $pictures"
 for dpi in 96 144 192; do
     scale_desktop $dpi
     for language in 0 1 2; do
-        printf ';KVLLanguage=%d\r\n' $language >"$app/Config/Kestrivane.ini"
+        sed -i '/^;KVLLanguage=/d' "$app/Config/Kestrivane.ini"
+        printf '\r\n;KVLLanguage=%d\r\n' $language >>"$app/Config/Kestrivane.ini"
         start_package
         wait_until 60 is_titled "Kestrivane UI" || fail "no window"
         sleep 1

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 
 #include "core/module1.h"
 

@@ -6,7 +6,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "core/module1.h"
 #include "startup/startup.h"

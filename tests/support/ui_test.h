@@ -7,8 +7,6 @@
 #include <QMap>
 #include <QMessageBox>
 #include <QTest>
-#include <memory>
-#include <vector>
 
 #include "support/temp_app.h"
 #include "ui/main/form1.h"
