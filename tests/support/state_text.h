@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "core/module1.h"
 
 namespace support {
