@@ -76,9 +76,10 @@ void UiTest::use(QWidget& window, const QString& steps) {
     const auto useOpened = [&](QWidget& opened) {
       see(opened);
       use(opened, inside.mid(1, inside.size() - 2));
-      // The button of an access key is seen to go down first.
       const auto isClosed = [&] { return !opened.isVisible(); };
-      note(QTest::qWaitFor(isClosed, 250) ? "<" : "< left");
+      // The button of an access key is seen to go down first.
+      const int patience = inside.contains("=Alt+") ? 5000 : 0;  // milliseconds
+      note(QTest::qWaitFor(isClosed, patience) ? "<" : "< left");
     };
     if (inside.isEmpty())
       act(window, step);
