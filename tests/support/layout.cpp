@@ -62,9 +62,10 @@ QString LayoutFaults(const QWidget& control) {
   if (!Fits(control)) faults += " TEXT CUT";
   for (const auto* other : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (other == &control) break;
+    if (!other->isVisible() || !control.geometry().intersects(other->geometry())) continue;
     const auto both = SeenOf(control) & SeenOf(*other);
-    const bool touch = both.width() > 1 && both.height() > 1;  // neighbours may share a line
-    if (touch && other->isVisible()) faults += " over " + other->objectName();
+    // Neighbours may share a line.
+    if (both.width() > 1 && both.height() > 1) faults += " over " + other->objectName();
   }
   return faults;
 }
