@@ -11,7 +11,8 @@ if [[ ! -e $build/tests/ui_tests.exe ]]; then
     # One unit a library: headers are compiled once, which makes seconds out of a minute.
     cmake -S . -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE=cmake/windows.cmake \
         -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DKESTRIVANE_UI=OFF -DBUILD_TESTING=ON \
-        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0
+        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 \
+        -DKESTRIVANE_WERROR="${KESTRIVANE_WERROR:-OFF}"
     cmake --build "$build" --parallel "$(nproc)"
 fi
 trap stop_wine EXIT

@@ -32,8 +32,13 @@ CheckBox::CheckBox(Container& parent, const char* name, const Box& box, const st
     : Control(new NativeCheckBox(parent.clientArea()), name, box, font) {
   setCaption(caption);
   setValue(value);
-  QObject::connect(Native(widget()), &QCheckBox::stateChanged, widget(),
-                   [this] { Raise(onClick); });
+  // Qt 6.7 replaced the signal.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+  const auto kStateChanged = &QCheckBox::checkStateChanged;
+#else
+  const auto kStateChanged = &QCheckBox::stateChanged;
+#endif
+  QObject::connect(Native(widget()), kStateChanged, widget(), [this] { Raise(onClick); });
 }
 
 std::string CheckBox::caption() const { return Native(widget())->text().toStdString(); }
