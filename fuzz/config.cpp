@@ -2,7 +2,7 @@
 // can hold of it, and the file settles. Games of any name can be played in between.
 #include <algorithm>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "config/config_reader.h"
 #include "config/config_writer.h"
 #include "core/bindings.h"
@@ -108,7 +108,8 @@ std::string Held(const std::array<const core::FolderList*, 3>& paths,
 void fuzz::Examine(std::string_view bytes) {
   Exchange(Read(bytes));
   if (Profiles.size() > core::kMaxProfiles)
-    return Require(!base::Quietly([] { config::ConfigText(); }), "too many rows are not written");
+    return Require(!base::RunGuarded([] { config::ConfigText(); }),
+                   "too many rows are not written");
   const auto text = platform::DecodeLines(bytes);
   Play(std::string_view(text).substr(0, text.find(base::kLineEnd)));
   // A hand-made header can name a row so that the header written for it reads as another one.

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "core/module1.h"
 #include "platform/app_folder.h"
 #include "platform/open_address.h"
@@ -13,7 +13,9 @@
 
 // A fault must not hide behind an edge.
 static const bool faultsEndTheRun = [] {
-  base::OnFault() = [](const std::string& what) { fuzz::Require(false, what.c_str()); };
+  base::UnexpectedErrorHandler() = [](const std::string& what) {
+    fuzz::Require(false, what.c_str());
+  };
   return true;
 }();
 

@@ -1,6 +1,6 @@
 #include <utility>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "core/module1.h"
 #include "platform/app_folder.h"
 #include "platform/forms/application.h"
@@ -10,7 +10,7 @@
 
 int main() {
   platform::PrepareProgram();
-  base::Quietly([] {
+  base::RunGuarded([] {
     Module1::AppFolder = platform::ProgramFolder();
     // The emulator inherits it.
     platform::SetWorkingFolder(Module1::AppFolder);

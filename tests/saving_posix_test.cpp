@@ -4,7 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "platform/files.h"
 #include "support/fake_clock.h"
 #include "support/temp_app.h"
@@ -55,7 +55,7 @@ class Saving : public support::TempApp {
     fault = {call, error, 0};
     const bool dies = call > 0 && error == kKill;
     const pid_t child = dies ? fork() : 0;
-    const bool saved = child == 0 && base::Quietly([&] { WriteBytes(file, text); });
+    const bool saved = child == 0 && base::RunGuarded([&] { WriteBytes(file, text); });
     if (dies && child == 0) _exit(0);
     if (dies) waitpid(child, nullptr, 0);
     EXPECT_TRUE(saved || call > 0);

@@ -2,7 +2,7 @@
 #include <fstream>
 #include <map>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "config/config_reader.h"
 #include "config/writable_names.h"
@@ -38,7 +38,7 @@ class Texts : public support::TempApp {
   template <class Number>
   static std::string number(Number (*read)(std::string_view), const std::string& text) {
     std::string result = "none";
-    base::Quietly([&] { result = std::to_string(read(text)); });
+    base::RunGuarded([&] { result = std::to_string(read(text)); });
     return result;
   }
   // The shared state, and "bak" if the file was copied; in files "|" stands for the end of a line.

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "base/error_boundary.h"
 #include "base/failure.h"
-#include "base/quietly.h"
 #include "base/text.h"
 #include "core/emulator_contract.h"
 #include "core/option_catalogue.h"
@@ -116,7 +116,7 @@ void TakeLine(std::string_view line, const Parse& to) {
 
 ParseResult ParseConfigText(std::string_view text, Configuration& configuration) {
   ParseResult result;
-  result.complete = base::Quietly([&] {
+  result.complete = base::RunGuarded([&] {
     auto lines = base::Split(text, base::kLineEnd);
     if (lines.size() < 2) return;
     lines.pop_back();  // the piece behind the last line end
@@ -131,16 +131,16 @@ Configuration LoadConfigFile(const std::string& appFolder) {
   auto file = platform::Joined(appFolder, core::kConfigFile);
   std::string text;
   const auto couldLook = [&] {
-    return base::Quietly([&] { platform::FileNames(platform::Joined(appFolder, "Config")); });
+    return base::RunGuarded([&] { platform::FileNames(platform::Joined(appFolder, "Config")); });
   };
   const bool isThere = platform::FileExists(file);
-  if (!isThere || !base::Quietly([&] { text = platform::ReadText(file); })) {
+  if (!isThere || !base::RunGuarded([&] { text = platform::ReadText(file); })) {
     core::ResetInputsToDefaults(configuration.Profiles);
     if (isThere || !couldLook()) configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   } else if (const auto parse = ParseConfigText(text, configuration); !parse.complete) {
     configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   } else if (!parse.bannerSeen) {
-    base::Quietly([&] { platform::CopyFileBytes(file, file + ".bak"); });
+    base::RunGuarded([&] { platform::CopyFileBytes(file, file + ".bak"); });
   }
   if (configuration.Profiles.size() > core::kMaxProfiles)
     configuration.ConfigFileHeld = core::FileHeld::FirstRowsOnly;

@@ -25,8 +25,8 @@ struct ParseResult {
   bool bannerSeen = false;
 };
 
-// Takes the whole file, each line followed by CR LF. A failure ends the parse quietly at its line;
-// what was stored up to then stays.
+// Takes the whole file, each line followed by CR LF. A failure ends the parse at its line without a
+// message; what was stored up to then stays.
 ParseResult ParseConfigText(std::string_view text, Configuration& configuration);
 
 }  // namespace config

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
+#include "base/error_boundary.h"
 #include "base/failure.h"
-#include "base/quietly.h"
 #include "core/bindings.h"
 #include "core/emulator_contract.h"
 #include "core/module1.h"
@@ -126,7 +126,7 @@ std::string ConfigText() {
 }
 
 void WriteConfigFile() {
-  base::Quietly([] {
+  base::RunGuarded([] {
     const auto text = ConfigText();
     const auto file = platform::Joined(AppFolder, core::kConfigFile);
     if (ConfigFileHeld == core::FileHeld::UpToAFailure && platform::IsFile(file)) {

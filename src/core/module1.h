@@ -11,11 +11,47 @@ namespace core {
 using Slot = int;  // the number of an option
 
 inline constexpr Slot kSlotCount = 128;
+// The slots of the general options, by the options' names. The inputs follow.
+namespace option {
+enum : Slot {
+  XResolution,
+  YResolution,
+  Throttle,
+  ShowFrameRate,
+  FullScreen,
+  WideScreen,
+  FragmentShader,
+  VertexShader,
+  SoundVolume,
+  EmulateSound,
+  MusicVolume,
+  EmulateDSB,
+  FlipStereo,
+  Balance,
+  MultiThreaded,
+  PowerPCFrequency,
+  ForceFeedback,
+  DirectInputConstForceMax,
+  DirectInputFrictionMax,
+  DirectInputSelfCenterMax,
+  DirectInputVibrateMax,
+  XInputConstForceMax,
+  XInputVibrateMax,
+  XInputConstForceThreshold,
+  InputKeySensitivity,
+  InputKeyDecaySpeed,
+  InputMouseXDeadZone,
+  InputMouseYDeadZone,
+  Crosshairs,
+  Vsync,
+};
+}  // namespace option
+
 inline constexpr Slot kGeneralSlotCount = 30;
-inline constexpr Slot kFirstInputSlot = 30;
-inline constexpr Slot kPerGameSlots = 28;       // the first ones can differ for a game
-inline constexpr Slot kFirstAdvancedSlot = 16;  // of those that frmFF edits, up to 27
-inline constexpr Slot kCrosshairsSlot = 28;
+inline constexpr Slot kFirstInputSlot = kGeneralSlotCount;
+inline constexpr Slot kPerGameSlots = option::Crosshairs;  // the first ones can differ for a game
+inline constexpr Slot kFirstAdvancedSlot =
+    option::ForceFeedback;  // of those that frmFF edits, up to kPerGameSlots
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref
 inline constexpr unsigned char kRawInput = 2;        // in Profile.InputMethod

@@ -144,6 +144,12 @@ constexpr std::array<Option, kSlotCount> kOptions = {{
     {"InputAutoTrigger2", 1, "0"},
 }};
 
+static_assert(kOptions[option::Throttle].name == "Throttle");
+static_assert(kOptions[option::FlipStereo].name == "FlipStereo");
+static_assert(kOptions[option::XInputVibrateMax].name == "XInputVibrateMax");
+static_assert(kOptions[option::Vsync].name == "Vsync");
+static_assert(option::Vsync + 1 == kFirstInputSlot);
+
 }  // namespace
 
 Profile DefaultProfile() {

@@ -2,11 +2,8 @@
 
 #include "base/failure.h"
 #include "base/text.h"
-#include "core/option_catalogue.h"
 
 namespace core {
-
-using namespace Module1;
 
 void ResetInputsToDefaults(std::vector<Profile>& profiles) {
   for (Slot slot = kFirstInputSlot; slot < kSlotCount; ++slot)
@@ -15,25 +12,27 @@ void ResetInputsToDefaults(std::vector<Profile>& profiles) {
 
 std::vector<std::size_t> RowsOfGame(const std::string& romName) {
   std::vector<std::size_t> rows;
-  for (std::size_t row = 2; row < Profiles.size(); ++row)
-    if (Profiles[row].Name == romName) rows.push_back(row);
+  for (std::size_t row = 2; row < Module1::Profiles.size(); ++row)
+    if (Module1::Profiles[row].Name == romName) rows.push_back(row);
   return rows;
 }
 
+void RecordGlobalValue(Slot slot) {
+  const auto& standard = Module1::Profiles[0].Slots[slot].Value;
+  const auto& global = Module1::Profiles[1].Slots[slot].Value;
+  Module1::EffectiveValues[slot] = global.empty() ? standard : global;
+}
+
 std::string EffectiveValue(Slot slot) {
-  const auto& standard = Profiles[0].Slots[slot].Value;
-  const auto& global = Profiles[1].Slots[slot].Value;
-  EffectiveValues[slot] = global.empty() ? standard : global;
-  auto value = EffectiveValues[slot];
-  if (OptionScope == kGlobalScope) return value;
-  if (OptionScope >= GameCatalog.size()) throw base::Failure("no such game");
-  for (const auto row : RowsOfGame(GameCatalog[OptionScope].RomName))
-    if (const auto& own = Profiles[row].Slots[slot].Value; !own.empty()) value = own;
+  RecordGlobalValue(slot);
+  auto value = Module1::EffectiveValues[slot];
+  if (Module1::OptionScope == kGlobalScope) return value;
+  if (Module1::OptionScope >= Module1::GameCatalog.size()) throw base::Failure("no such game");
+  for (const auto row : RowsOfGame(Module1::GameCatalog[Module1::OptionScope].RomName))
+    if (const auto& own = Module1::Profiles[row].Slots[slot].Value; !own.empty()) value = own;
   return value;
 }
 
-std::string ValueInForce(std::string_view option) { return EffectiveValue(OptionIndex(option)); }
-
-int NumberInForce(std::string_view option) { return base::ToInteger(ValueInForce(option)); }
+int EffectiveNumber(Slot slot) { return base::ToInteger(EffectiveValue(slot)); }
 
 }  // namespace core

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/module1.h"
@@ -16,13 +15,14 @@ void ResetInputsToDefaults(std::vector<Profile>& profiles);
 // configuration file names the game more than once.
 std::vector<std::size_t> RowsOfGame(const std::string& romName);
 
-// The value that holds for a slot in the scope of OptionScope. Records in EffectiveValues what the
-// slot would be without the game. Fails for a scope that is not there.
+// Sets the slot's row of EffectiveValues to the value that holds for all games.
+void RecordGlobalValue(Slot slot);
+
+// The value that holds for a slot in the scope of OptionScope. Records the global value first.
+// Fails for a scope that is not there.
 std::string EffectiveValue(Slot slot);
 
-// The same for an option of the catalogue, by its name; as a number it fails for a text that is
-// none.
-std::string ValueInForce(std::string_view option);
-int NumberInForce(std::string_view option);
+// The same as a number. Fails for a text that is none.
+int EffectiveNumber(Slot slot);
 
 }  // namespace core

@@ -1,6 +1,5 @@
 #include "i18n/message_catalogue.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -14,7 +13,7 @@ struct Row {
   std::array<std::string_view, 3> texts;  // English, Spanish, Portuguese
 };
 
-// In ascending order.
+// By the number of the message.
 constexpr auto kMessages = std::to_array<Row>({
     {Message::GamesListed, {" games listed", " juegos listados", " jogos listados"}},
     {Message::NoGamesAvailable,
@@ -169,14 +168,19 @@ constexpr auto kMessages = std::to_array<Row>({
       "Vsync (disponível em v0.3a Kestrivane e melhor)"}},
 });
 
+constexpr bool RowsStandByNumber() {
+  for (std::size_t row = 0; row < kMessages.size(); ++row)
+    if (kMessages[row].message != static_cast<Message>(row)) return false;
+  return kMessages.back().message == Message::Vsync;
+}
+static_assert(RowsStandByNumber());
+
 }  // namespace
 
 std::string Msg(Message message) {
-  const decltype(kMessages)::const_iterator row =
-      std::ranges::lower_bound(kMessages, message, {}, &Row::message);
-  if (row == kMessages.end() || row->message != message) return {};
+  const auto& texts = kMessages[static_cast<std::size_t>(message)].texts;
   const auto language = Module1::CurrentLanguage;
-  return std::string(row->texts[language < row->texts.size() ? language : 0]);
+  return std::string(texts[language < texts.size() ? language : 0]);
 }
 
 }  // namespace i18n

@@ -5,7 +5,6 @@
 
 namespace i18n {
 
-// The values are the catalogue's numbers; those between the groups are not in use.
 enum class Message : unsigned char {
   GamesListed,
   NoGamesAvailable,
@@ -26,7 +25,7 @@ enum class Message : unsigned char {
   Build,
   GameListed,
   EmulatorSilent,
-  Credits = 99,
+  Credits,
   File,
   Language,
   English,
@@ -92,14 +91,14 @@ enum class Message : unsigned char {
   Snapshots,
   Icons,
   Portuguese,
-  GameOptionsTitle = 170,
+  GameOptionsTitle,
   RestoreOptions,
   AdvancedOptions,
   Vsync
 };
 
 // The text in the current language, blanks included; English for a language that is not one of the
-// three, empty for a number that is not in use.
+// three.
 std::string Msg(Message message);
 
 }  // namespace i18n

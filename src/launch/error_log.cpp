@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "core/emulator_contract.h"
 #include "core/module1.h"
@@ -96,7 +96,7 @@ class Report {
 
 bool ReadErrorLog() {
   bool failed = false;
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     const auto file = platform::Joined(Module1::AppFolder, core::kErrorLog);
     Report report(LineEndIn(file));
     platform::ReadPieces(file, kPiece, [&](std::string_view piece) {

@@ -4,8 +4,8 @@
 #include <limits>
 #include <string>
 
+#include "base/error_boundary.h"
 #include "base/failure.h"
-#include "base/quietly.h"
 #include "base/text.h"
 #include "config/user_settings.h"
 #include "config/writable_names.h"
@@ -13,8 +13,6 @@
 
 namespace launch {
 namespace {
-
-using namespace Module1;
 
 constexpr long long kLongestUncountedPlay = 20;
 
@@ -29,7 +27,7 @@ int Sum(int figure, long long more) {
 // the file could not give a new record back.
 bool CountPlay(const std::string& game, long long seconds) {
   bool counted = false;
-  for (auto& record : PlayLog) {
+  for (auto& record : Module1::PlayLog) {
     if (record.GameId.empty()) {
       if (counted) return true;
       if (!config::IsWritableGame(game)) return false;
@@ -50,10 +48,10 @@ bool CountPlay(const std::string& game, long long seconds) {
 }  // namespace
 
 void UpdatePlayLog(platform::Moment start) {
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     const auto seconds = platform::SecondsSince(start);
     if (seconds <= kLongestUncountedPlay) return;
-    if (CountPlay(LaunchRequest.RomName, seconds)) config::SaveUserSettings();
+    if (CountPlay(Module1::LaunchRequest.RomName, seconds)) config::SaveUserSettings();
   });
 }
 

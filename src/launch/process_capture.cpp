@@ -1,6 +1,6 @@
 #include "launch/process_capture.h"
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "platform/open_address.h"
 #include "platform/process.h"
 
@@ -8,12 +8,12 @@ namespace launch {
 
 std::string ShellExecuteCapture(const std::string& sCommandLine, bool bShowWindow) {
   std::string output;
-  base::Quietly([&] { output = platform::CaptureOutput(sCommandLine, bShowWindow); });
+  base::RunGuarded([&] { output = platform::CaptureOutput(sCommandLine, bShowWindow); });
   return output;
 }
 
 void OpenUrl(const std::string& address) {
-  base::Quietly([&] { platform::OpenAddress(address); });
+  base::RunGuarded([&] { platform::OpenAddress(address); });
 }
 
 }  // namespace launch

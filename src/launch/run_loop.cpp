@@ -2,14 +2,14 @@
 
 #include <chrono>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "platform/process.h"
 
 namespace launch {
 
 void RunAndWait(const std::string& commandLine, const std::function<void()>& onTick) {
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     platform::StartedProcess emulator(commandLine);
     for (bool running = true; running;) {
       running = emulator.ExitStatus() == platform::kStillActive;

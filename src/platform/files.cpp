@@ -1,6 +1,6 @@
 #include "platform/files.h"
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "platform/code_page.h"
 
@@ -8,7 +8,7 @@ namespace platform {
 
 bool FileExists(std::string& FilePath) {
   bool exists = false;
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     FilePath = base::ReplaceIgnoringCase(FilePath, "\\\\", "\\");
     exists = IsFile(FilePath);
   });

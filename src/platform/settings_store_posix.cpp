@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 
 namespace platform {
 
@@ -27,7 +27,7 @@ SettingsStore::SettingsStore(const std::string& application)
 // A pipe or another program's lock in the store's place holds up whoever writes to it. So a thread
 // of its own does, and is left to itself after a second.
 SettingsStore::~SettingsStore() {
-  base::Quietly([this] {
+  base::RunGuarded([this] {
     constexpr std::chrono::seconds kPatience(1);
     std::packaged_task<void()> writing([native = std::move(native_)] { native->write(); });
     const auto written = writing.get_future();

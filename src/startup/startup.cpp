@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "config/config_reader.h"
 #include "core/emulator_contract.h"
 #include "core/option_catalogue.h"
@@ -22,14 +22,14 @@ constexpr WorkingFolder kWorkingFolders[] = {
 
 // One that can't be deleted stays; the next play reports what it says.
 void DeleteStrayErrorLog(const std::string& appFolder) {
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     auto log = platform::Joined(appFolder, core::kErrorLog);
     if (platform::FileExists(log)) platform::DeleteFile(log);
   });
 }
 
 // Runs the emulator and finds the archives of its games. Fails with a message where the emulator is
-// missing or lists nothing; any other failure ends the step quietly.
+// missing or lists nothing; any other failure ends the step without a message.
 void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
   auto emulator = platform::Joined(appFolder, core::kEmulatorFile);
   if (!platform::FileExists(emulator)) {
@@ -51,7 +51,7 @@ Loaded Load(const std::string& appFolder) {
   Loaded loaded;
   // Until it has been read. Even a start for which memory ran out must not cost the file.
   loaded.configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     loaded.configuration.Profiles[0] = core::DefaultProfile();
     EnsureFolders(appFolder);
     loaded.configuration = config::LoadConfigFile(appFolder);
@@ -63,7 +63,7 @@ Loaded Load(const std::string& appFolder) {
 }  // namespace
 
 void EnsureFolders(const std::string& appFolder) {
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     for (const auto& folder : kWorkingFolders)
       if (!platform::IsFolder(platform::Joined(appFolder, folder.tested)))
         platform::MakeFolder(platform::Joined(appFolder, folder.created));

@@ -28,7 +28,7 @@ void FillSharedState();
 // Moves what was loaded into the shared state.
 void Adopt(Loaded loaded);
 
-// Creates the four working folders that are missing; stops quietly at the first that can't be.
+// Creates the four working folders that are missing; stops at the first that can't be created.
 void EnsureFolders(const std::string& appFolder);
 
 }  // namespace startup

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <random>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "platform/app_folder.h"
 
 namespace support {
@@ -37,13 +37,13 @@ TempApp::TempApp()
   platform::SetWorkingFolder(Module1::AppFolder);
   startup::FillSharedState();
   clearSettings();
-  base::OnFault() = [](const std::string& what) {
+  base::UnexpectedErrorHandler() = [](const std::string& what) {
     ADD_FAILURE() << "a fault, not a failure: " << what;
   };
 }
 
 TempApp::~TempApp() {
-  base::OnFault() = nullptr;
+  base::UnexpectedErrorHandler() = nullptr;
   platform::SetProgramFolder(oldProgramFolder_);
   fs::current_path(oldWorkingFolder_);
   RemoveAll(root_);

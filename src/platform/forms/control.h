@@ -24,6 +24,7 @@ struct Colour {
 };
 inline constexpr Colour kWhite{255, 255, 255};
 inline constexpr Colour kBlack{0, 0, 0};
+inline constexpr Colour kGrey{128, 128, 128};
 
 // Assistive technology passes over a decoration.
 enum class Role { Picture, Group, Link, Decoration };

@@ -4,7 +4,7 @@
 #include <QStorageInfo>
 #include <algorithm>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
 
@@ -39,7 +39,7 @@ DriveList::DriveList(Container& parent, const char* name, const Box& box,
   for (const auto& path : paths_) add(path);
   onClick = [this] {
     if (selectedRow() == accepted_) return;
-    if (!base::Quietly([this] { platform::SubfolderNames(drive()); })) {
+    if (!base::RunGuarded([this] { platform::SubfolderNames(drive()); })) {
       select(accepted_);
       return;
     }

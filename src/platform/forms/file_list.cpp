@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "platform/files.h"
 
 namespace forms {
@@ -16,7 +16,7 @@ void FileList::setPath(const std::string& folder) {
   folder_ = folder;
   clear();
   firstChoice_ = -1;
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     for (const auto& name : platform::FileNames(folder)) {
       const int row = add(name);
       if (canBeChosen && !canBeChosen(folder, name))

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
 
@@ -142,7 +142,7 @@ void FolderTree::readFolder(QTreeWidgetItem& item) const {
   if (item.data(0, kReadRole).toBool()) return;
   item.setData(0, kReadRole, true);
   QList<QTreeWidgetItem*> children;
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     for (const auto& name : platform::SubfolderNames(PathOf(item)))
       if (!accepts || accepts(name)) children.append(NewItem(Joined(PathOf(item), name), name));
   });

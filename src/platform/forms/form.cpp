@@ -92,7 +92,7 @@ class FormWindow : public QMainWindow {
 
     const auto key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Escape) {
-      Raise(form_.onKeyPress, kEscape);
+      Raise(form_.onEscape);
       return true;
     }
     return (key == Qt::Key_Return || key == Qt::Key_Enter) && pressButtonFor(*target);

@@ -11,8 +11,6 @@ namespace forms {
 
 enum class Border { FixedSingle, FixedTool, FixedDialog, None };
 
-inline constexpr int kEscape = 27;
-
 // A window of fixed size, in twips without its frame. It is created hidden.
 class Form : public Container {
  public:
@@ -52,8 +50,8 @@ class Form : public Container {
   std::function<void()> onActivate;
   std::function<void()> onUnload;
   std::function<void()> onDblClick;
-  // Sees each key press before the controls do.
-  std::function<void(int keyCode)> onKeyPress;
+  // Escape was pressed, whichever control has the focus.
+  std::function<void()> onEscape;
 
  private:
   struct Native;

@@ -99,7 +99,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
 
   int row() const { return row_; }
   // Another stands for the row from then on.
-  void leaveItsPlace() { former_ = true; }
+  void markRemoved() { former_ = true; }
 
   bool isValid() const override { return control_ && row_ < rows().childCount(); }
   QObject* object() const override { return nullptr; }
@@ -162,7 +162,7 @@ int RowsInterface::indexOfChild(const QAccessibleInterface* child) const {
 
 void RowsInterface::tellFocusAnew(Row& row) {
   former_.push_back(row.id);
-  static_cast<RowInterface*>(QAccessible::accessibleInterface(row.id))->leaveItsPlace();
+  static_cast<RowInterface*>(QAccessible::accessibleInterface(row.id))->markRemoved();
   row.id = QAccessible::registerAccessibleInterface(new RowInterface(widget(), currentRow()));
   tellFocus();
 }

@@ -7,15 +7,14 @@
 #include <QSignalBlocker>
 #include <QToolTip>
 
+#include "base/error_boundary.h"
 #include "base/failure.h"
-#include "base/quietly.h"
 #include "base/text.h"
 #include "platform/forms/native.h"
 
 namespace forms {
 namespace {
 
-constexpr int kDeleteCode = 46;
 constexpr int kTextMargin = 6;
 
 class NativeList : public RingedView<QListWidget> {
@@ -79,7 +78,7 @@ class NativeList : public RingedView<QListWidget> {
       Q_EMIT itemDoubleClicked(item(list_.selectedRow()));
       return;
     }
-    if (event->key() == Qt::Key_Delete) Raise(list_.onKeyDown, kDeleteCode);
+    if (event->key() == Qt::Key_Delete) Raise(list_.onDelete);
     QListWidget::keyPressEvent(event);
   }
 
@@ -96,7 +95,7 @@ class NativeList : public RingedView<QListWidget> {
   QString toolTipOf(const QListWidgetItem& item) const {
     if (list_.toolTipOf) {
       std::string tip;
-      base::Quietly([&] { tip = list_.toolTipOf(row(&item)); });
+      base::RunGuarded([&] { tip = list_.toolTipOf(row(&item)); });
       return ToQString(tip);
     }
     const auto needed = fontMetrics().horizontalAdvance(item.text()) + kTextMargin;

@@ -43,8 +43,8 @@ class ListBox : public Control {
   void takeF2();
 
   std::function<void()> onClick;
-  std::function<void()> onDblClick;            // on a row; also a press by assistive technology
-  std::function<void(int keyCode)> onKeyDown;  // 46 Delete
+  std::function<void()> onDblClick;  // on a row; also a press by assistive technology
+  std::function<void()> onDelete;    // the Delete key
   std::function<void()> onScroll;
   // The tool tip of a row, as plain text. Without it, a text that is cut off has itself as tip.
   std::function<std::string(int row)> toolTipOf;

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 
 class QColor;
 class QEvent;
@@ -23,7 +23,7 @@ struct FontStyle;
 // Runs an event's procedure, if the form has one. Its failures end here.
 template <class Handler, class... Arguments>
 void Raise(const Handler& handler, Arguments&&... arguments) {
-  if (handler) base::Quietly([&] { handler(std::forward<Arguments>(arguments)...); });
+  if (handler) base::RunGuarded([&] { handler(std::forward<Arguments>(arguments)...); });
 }
 
 // What a person does, and what the toolkit makes of it.

@@ -87,13 +87,13 @@ void OptionButton::joinGroup() {
     group->setObjectName(groupName);
   }
   group->addButton(button);
-  QObject::connect(button, &QAbstractButton::pressed, button, [this] { told_ = false; });
+  QObject::connect(button, &QAbstractButton::pressed, button, [this] { clickRaised_ = false; });
   QObject::connect(button, &QAbstractButton::toggled, button, [this](bool selected) {
-    told_ = selected;
+    clickRaised_ = selected;
     if (selected) Raise(onClick);
   });
   QObject::connect(button, &QAbstractButton::clicked, button, [this] {
-    if (!told_) Raise(onClick);
+    if (!clickRaised_) Raise(onClick);
   });
 }
 

@@ -26,7 +26,7 @@ class OptionButton : public Control {
  private:
   void joinGroup();
 
-  bool told_ = false;  // of the click that is under way
+  bool clickRaised_ = false;  // of the click that is under way
 };
 
 }  // namespace forms

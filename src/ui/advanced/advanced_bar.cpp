@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "core/module1.h"
-#include "core/option_catalogue.h"
 #include "core/profiles.h"
 
 namespace ui {
@@ -18,8 +17,8 @@ constexpr int kLine = 255;
 
 }  // namespace
 
-void StageOption(const char* option, int value) {
-  Module1::StagedOptions[core::OptionIndex(option)] = std::to_string(value);
+void StageOption(core::Slot option, int value) {
+  Module1::StagedOptions[option] = std::to_string(value);
 }
 
 AdvancedBar::AdvancedBar(forms::Frame& frame, const AdvancedBarPlan& plan)
@@ -53,14 +52,14 @@ void AdvancedBar::barraD_Change() {
 }
 
 void AdvancedBar::load() {
-  base::Quietly([this] {
-    const auto number = base::ToNumber(core::ValueInForce(plan_.option));
+  base::RunGuarded([this] {
+    const auto number = base::ToNumber(core::EffectiveValue(plan_.option));
     if (number)
       barraD_.setValue(
           static_cast<int>(std::lround(std::clamp<double>(*number, plan_.minimum, plan_.maximum))));
   });
 }
 
-void AdvancedBar::stage() const { StageOption(plan_.option, barraD_.value()); }
+void AdvancedBar::stage() { StageOption(plan_.option, barraD_.value()); }
 
 }  // namespace ui

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/module1.h"
 #include "platform/forms/frame.h"
 #include "platform/forms/label.h"
 #include "platform/forms/scroll_bar.h"
@@ -14,7 +15,7 @@ struct AdvancedBarPlan {
   int frame;
   int left, top, width;  // twips
   const char* caption;
-  const char* option;
+  core::Slot option;
   int minimum, maximum, start;
   const char* unit;  // behind the value
 };
@@ -28,7 +29,8 @@ class AdvancedBar {
   // From the option's value in force: the nearest end for a value outside the range; unchanged for
   // a text that is no number.
   void load();
-  void stage() const;
+  // Leaves the bar's value for the next save.
+  void stage();
 
  private:
   void barraD_Change();
@@ -41,6 +43,6 @@ class AdvancedBar {
 };
 
 // Leaves a value for the next save.
-void StageOption(const char* option, int value);
+void StageOption(core::Slot option, int value);
 
 }  // namespace ui

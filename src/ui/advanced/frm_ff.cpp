@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "core/module1.h"
 #include "core/profiles.h"
 
@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kForceFrame = 0;
 constexpr int kKeyMouseFrame = 2;
-constexpr const char* kForceFeedback = "ForceFeedback";
 constexpr const char* kDescriptionText =
     "Percentages represent the maximum strength for each effect. A setting of 0 disables them "
     "entirely.        Values above 100% may clip or distort the effect.";
@@ -21,18 +20,25 @@ constexpr const char* kPercent = " %";
 
 // In the order in which the eye meets them.
 constexpr std::array<AdvancedBarPlan, 11> kBars = {{
-    {0, 0, kLeft, 870, kHalf, "Constant force:", "DirectInputConstForceMax", 0, 200, 0, kPercent},
-    {1, 0, kMiddle, 870, kHalf, "Self centering:", "DirectInputSelfCenterMax", 0, 200, 0, kPercent},
-    {2, 0, kLeft, 2070, kHalf, "Friction:", "DirectInputFrictionMax", 0, 200, 0, kPercent},
-    {3, 0, kMiddle, 2070, kHalf, "Vibrate:", "DirectInputVibrateMax", 0, 200, 0, kPercent},
-    {7, 1, kLeft, 870, kWhole, "Constant force threshold:", "XInputConstForceThreshold", 0, 200, 0,
+    {0, 0, kLeft, 870, kHalf, "Constant force:", core::option::DirectInputConstForceMax, 0, 200, 0,
      kPercent},
-    {6, 1, kLeft, 2070, kHalf, "Constant force:", "XInputConstForceMax", 0, 200, 0, kPercent},
-    {5, 1, kMiddle, 2070, kHalf, "Vibrate:", "XInputVibrateMax", 0, 200, 0, kPercent},
-    {10, 2, kLeft, 720, kHalf, "Sensitivity:", "InputKeySensitivity", 1, 100, 25, ""},
-    {9, 2, kMiddle, 720, kHalf, "Decay speed:", "InputKeyDecaySpeed", 1, 200, 50, ""},
-    {8, 2, kLeft, 2640, kHalf, "X deadzone:", "InputMouseXDeadZone", 0, 99, 0, kPercent},
-    {4, 2, kMiddle, 2640, kHalf, "Y deadzone:", "InputMouseYDeadZone", 0, 99, 0, kPercent},
+    {1, 0, kMiddle, 870, kHalf, "Self centering:", core::option::DirectInputSelfCenterMax, 0, 200,
+     0, kPercent},
+    {2, 0, kLeft, 2070, kHalf, "Friction:", core::option::DirectInputFrictionMax, 0, 200, 0,
+     kPercent},
+    {3, 0, kMiddle, 2070, kHalf, "Vibrate:", core::option::DirectInputVibrateMax, 0, 200, 0,
+     kPercent},
+    {7, 1, kLeft, 870, kWhole, "Constant force threshold:", core::option::XInputConstForceThreshold,
+     0, 200, 0, kPercent},
+    {6, 1, kLeft, 2070, kHalf, "Constant force:", core::option::XInputConstForceMax, 0, 200, 0,
+     kPercent},
+    {5, 1, kMiddle, 2070, kHalf, "Vibrate:", core::option::XInputVibrateMax, 0, 200, 0, kPercent},
+    {10, 2, kLeft, 720, kHalf, "Sensitivity:", core::option::InputKeySensitivity, 1, 100, 25, ""},
+    {9, 2, kMiddle, 720, kHalf, "Decay speed:", core::option::InputKeyDecaySpeed, 1, 200, 50, ""},
+    {8, 2, kLeft, 2640, kHalf, "X deadzone:", core::option::InputMouseXDeadZone, 0, 99, 0,
+     kPercent},
+    {4, 2, kMiddle, 2640, kHalf, "Y deadzone:", core::option::InputMouseYDeadZone, 0, 99, 0,
+     kPercent},
 }};
 
 }  // namespace
@@ -68,7 +74,8 @@ int frmFF::ForceFrame() { return Module1::AdvancedInputSystem == 0 ? 0 : 1; }
 void frmFF::Form_Load() {
   ShowFrame(Module1::AdvancedInputSystem);
   joystick_.load();
-  base::Quietly([this] { chkFF[ForceFrame()].setValue(core::NumberInForce(kForceFeedback)); });
+  base::RunGuarded(
+      [this] { chkFF[ForceFrame()].setValue(core::EffectiveNumber(core::option::ForceFeedback)); });
   for (const auto& bar : bars_)
     if (bar->frame() == ForceFrame() || bar->frame() == kKeyMouseFrame) bar->load();
   optADV[0].setFocus();
@@ -83,7 +90,7 @@ void frmFF::optADV_Click(int index) {
 }
 
 void frmFF::cmdSave_Click() {
-  StageOption(kForceFeedback, chkFF[ForceFrame()].value());
+  StageOption(core::option::ForceFeedback, chkFF[ForceFrame()].value());
   for (const auto& bar : bars_)
     if (bar->frame() == ForceFrame() || bar->frame() == kKeyMouseFrame) bar->stage();
   close();

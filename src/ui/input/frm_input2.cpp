@@ -11,7 +11,6 @@ namespace {
 
 using i18n::Message;
 using i18n::Msg;
-using namespace Module1;
 
 constexpr std::string_view kKeyboardNames =
     "KEY_UP,KEY_DOWN,KEY_LEFT,KEY_RIGHT,KEY_0,KEY_1,KEY_2,KEY_3,KEY_4,KEY_5,KEY_6,KEY_7,"
@@ -70,15 +69,15 @@ constexpr Device kDevices[] = {
     {kKeyboardNames, "KEY"}, {kMouseNames, "MOUSE"}, {kJoystickNames, "JOY"}};
 constexpr int kJoystick = 2;
 
-bool HasNumbers(int row) { return row == kJoystick || Profiles[0].InputMethod == core::kRawInput; }
+bool HasNumbers(int row) {
+  return row == kJoystick || Module1::Profiles[0].InputMethod == core::kRawInput;
+}
 
 }  // namespace
 
 frmInput2::frmInput2() : Form("frmInput2", forms::Border::FixedDialog, 6060, 1935) {
   onLoad = [this] { Form_Load(); };
-  onKeyPress = [this](int keyCode) {
-    if (keyCode == forms::kEscape) close();
-  };
+  onEscape = [this] { close(); };
   std::vector<const forms::Control*> order;
   for (int row = 0; row < kRows; ++row) {
     for (const auto* number : {"1", "2"}) cmbHardN[row].add(number);
@@ -92,7 +91,7 @@ frmInput2::frmInput2() : Form("frmInput2", forms::Border::FixedDialog, 6060, 193
 }
 
 void frmInput2::Form_Load() {
-  InputChoice.clear();
+  Module1::InputChoice.clear();
   Label1.setCaption(Msg(Message::Keyboard));
   setTitle(Msg(Message::ChooserTitle));
   const forms::Label* const labels[] = {&Label1, &Label2, &Label3};
@@ -115,10 +114,10 @@ void frmInput2::cmbInputs_Click(int row) {
 
 void frmInput2::cmdOK_Click(int row) {
   const std::string prefix(kDevices[row].prefix);
-  InputChoice = cmbInputs[row].text();
+  Module1::InputChoice = cmbInputs[row].text();
   if (HasNumbers(row))
-    InputChoice =
-        base::ReplaceIgnoringCase(InputChoice, prefix + "_", prefix + cmbHardN[row].text() + "_");
+    Module1::InputChoice = base::ReplaceIgnoringCase(Module1::InputChoice, prefix + "_",
+                                                     prefix + cmbHardN[row].text() + "_");
   close();
 }
 

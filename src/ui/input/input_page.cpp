@@ -6,13 +6,12 @@
 #include "core/profiles.h"
 #include "i18n/message_catalogue.h"
 #include "ui/advanced/frm_ff.h"
-#include "ui/options/restoring.h"
+#include "ui/shared/restore_question.h"
 
 namespace ui {
 
 using i18n::Message;
 using i18n::Msg;
-using namespace Module1;
 
 namespace {
 
@@ -50,23 +49,24 @@ InputPage::InputPage(forms::Frame& frame, forms::Form& form, const forms::Form& 
     list.onScroll = [this, column] { lstInput_Scroll(column); };
     list.onDblClick = [this, column] { lstInput_DblClick(column); };
     list.takeF2();
-    list.onKeyDown = [this, column](int keyCode) { lstInput_KeyDown(column, keyCode); };
+    list.onDelete = [this, column] { lstInput_Delete(column); };
   }
 }
 
 void InputPage::LoadBindings() {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    EffectiveValues[slot] = Profiles[1].Slots[slot].Value;
-  const auto crosshairs = core::EffectiveValue(core::kCrosshairsSlot);
-  EffectiveValues[core::kCrosshairsSlot] = crosshairs;
+    Module1::EffectiveValues[slot] = Module1::Profiles[1].Slots[slot].Value;
+  const auto crosshairs = core::EffectiveValue(core::option::Crosshairs);
+  Module1::EffectiveValues[core::option::Crosshairs] = crosshairs;
 }
 
 void InputPage::StoreBindings() {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    Profiles[1].Slots[slot].Value = EffectiveValues[slot];
+    Module1::Profiles[1].Slots[slot].Value = Module1::EffectiveValues[slot];
   // In a game's scope this value may be the game's.
-  if (OptionScope == core::kGlobalScope)
-    Profiles[1].Slots[core::kCrosshairsSlot].Value = EffectiveValues[core::kCrosshairsSlot];
+  if (Module1::OptionScope == core::kGlobalScope)
+    Module1::Profiles[1].Slots[core::option::Crosshairs].Value =
+        Module1::EffectiveValues[core::option::Crosshairs];
 }
 
 void InputPage::FillInputLists() {
@@ -75,14 +75,14 @@ void InputPage::FillInputLists() {
   while (group < kOthers && !optTypeInputs[group].selected()) ++group;
   const int player = optPlayer[0].selected() ? 0 : 1;
   for (auto slot = kGroupsOfInputs[group].first; slot <= kGroupsOfInputs[group].last; ++slot) {
-    const auto& option = Profiles[0].Slots[slot];
+    const auto& option = Module1::Profiles[0].Slots[slot];
     if (option.Kind != player) continue;
     AddInputRow(base::ReplaceIgnoringCase(option.Name, "Input", ""), slot,
-                core::CellsOf(EffectiveValues[slot]));
+                core::CellsOf(Module1::EffectiveValues[slot]));
   }
   if (group == kGun)
-    AddInputRow("Show Crosshairs", core::kCrosshairsSlot,
-                {EffectiveValues[core::kCrosshairsSlot], {}, {}});
+    AddInputRow("Show Crosshairs", core::option::Crosshairs,
+                {Module1::EffectiveValues[core::option::Crosshairs], {}, {}});
   for (auto& list : lstInput) list.setTopRow(0);
 }
 
@@ -97,30 +97,30 @@ void InputPage::AddInputRow(const std::string& name, core::Slot slot,
 
 void InputPage::cmbInputType_Click() {
   // One game's options leave the bindings of all games alone.
-  if (OptionScope == core::kGlobalScope) {
+  if (Module1::OptionScope == core::kGlobalScope) {
     if (inputSystem() == core::kRawInput)
       ApplyRawInputNames();
     else
       ClearRawInputNames();
   }
-  Profiles[0].InputMethod = static_cast<unsigned char>(inputSystem());
+  Module1::Profiles[0].InputMethod = static_cast<unsigned char>(inputSystem());
   FillInputLists();
 }
 
 void InputPage::ApplyRawInputNames() {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    EffectiveValues[slot] =
-        core::WithDeviceNumbers(EffectiveValues[slot], Profiles[0].Slots[slot].Kind + 1);
+    Module1::EffectiveValues[slot] = core::WithDeviceNumbers(
+        Module1::EffectiveValues[slot], Module1::Profiles[0].Slots[slot].Kind + 1);
 }
 
 void InputPage::ClearRawInputNames() {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    EffectiveValues[slot] = core::WithoutDeviceNumbers(EffectiveValues[slot]);
+    Module1::EffectiveValues[slot] = core::WithoutDeviceNumbers(Module1::EffectiveValues[slot]);
 }
 
 void InputPage::lblLoadDefaults_Click() {
   if (!AskForDefaults(form_)) return;
-  core::ResetInputsToDefaults(Profiles);
+  core::ResetInputsToDefaults(Module1::Profiles);
   LoadBindings();
   if (inputSystem() == core::kRawInput) ApplyRawInputNames();
   FillInputLists();
@@ -128,7 +128,7 @@ void InputPage::lblLoadDefaults_Click() {
 
 void InputPage::lblAdvOpts_Click() {
   if (inputSystem() < 0) return;
-  AdvancedInputSystem = static_cast<unsigned char>(inputSystem());
+  Module1::AdvancedInputSystem = static_cast<unsigned char>(inputSystem());
   frmFF advanced;
   advanced.centreOver(main_);
   advanced.showModal(form_);

@@ -11,7 +11,7 @@
 #include "platform/forms/label.h"
 #include "platform/forms/list_box.h"
 #include "platform/forms/option_button.h"
-#include "ui/options/page_fonts.h"
+#include "ui/shared/page_fonts.h"
 
 namespace ui {
 
@@ -45,7 +45,7 @@ class InputPage {
   void lstInput_Click(int index);
   void lstInput_Scroll(int index);
   void lstInput_DblClick(int index);
-  void lstInput_KeyDown(int index, int keyCode);
+  void lstInput_Delete(int index);
   std::string& ValueOfRow(int row);
   void RebuildValue(int row);
 

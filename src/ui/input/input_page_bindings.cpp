@@ -7,14 +7,6 @@
 
 namespace ui {
 
-using namespace Module1;
-
-namespace {
-
-constexpr int kDeleteKey = 46;
-
-}  // namespace
-
 void InputPage::lstInput_Click(int index) {
   const int row = lstInput[index].selectedRow();
   for (int other = 0; other < kColumns; ++other)
@@ -36,30 +28,30 @@ void InputPage::lstInput_DblClick(int index) {
     switch (forms::MsgBox(i18n::Msg(i18n::Message::EnableQuestion), forms::Buttons::YesNoCancel,
                           forms::BoxIcon::None, lstInput[0].text(row))) {
       case forms::Answer::Yes:
-        InputChoice = "1";
+        Module1::InputChoice = "1";
         break;
       case forms::Answer::No:
-        InputChoice = "0";
+        Module1::InputChoice = "0";
         break;
       default:
-        InputChoice.clear();
+        Module1::InputChoice.clear();
     }
   } else {
     frmInput2 chooser;
     chooser.centreOver(form_);
     chooser.showModal(form_);
   }
-  if (InputChoice.empty()) return;
-  lstInput[index].setText(row, InputChoice);
+  if (Module1::InputChoice.empty()) return;
+  lstInput[index].setText(row, Module1::InputChoice);
   if (numeric)
-    ValueOfRow(row) = InputChoice;
+    ValueOfRow(row) = Module1::InputChoice;
   else
     RebuildValue(row);
 }
 
-void InputPage::lstInput_KeyDown(int index, int keyCode) {
+void InputPage::lstInput_Delete(int index) {
   const int row = lstInput[index].selectedRow();
-  if (index == 0 || keyCode != kDeleteKey || row < 0) return;
+  if (index == 0 || row < 0) return;
   if (core::IsNumeric(lstInput[1].text(row))) {
     // A numeric row goes back to its off state and stays numeric.
     if (index != 1) return;
@@ -71,7 +63,9 @@ void InputPage::lstInput_KeyDown(int index, int keyCode) {
   RebuildValue(row);
 }
 
-std::string& InputPage::ValueOfRow(int row) { return EffectiveValues[lstInput[0].itemData(row)]; }
+std::string& InputPage::ValueOfRow(int row) {
+  return Module1::EffectiveValues[lstInput[0].itemData(row)];
+}
 
 void InputPage::RebuildValue(int row) {
   ValueOfRow(row) =

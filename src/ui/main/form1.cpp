@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "config/user_settings.h"
 #include "i18n/answers.h"
 #include "i18n/message_catalogue.h"
@@ -15,13 +15,12 @@ namespace ui {
 namespace {
 
 constexpr const char* kHomePage = "https://kestrivane-ui.example/";
-constexpr forms::Colour kGrey{128, 128, 128};
 
 }  // namespace
 
 Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   setDefaultButton(cmdPlay);
-  Label1.setBackColour(kGrey);
+  Label1.setBackColour(forms::kGrey);
   lblInfo.setTextColour(forms::kWhite);
   imgGames.setBorder(true);
   imgDefault.setVisible(false);
@@ -35,7 +34,7 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   mUIcolor.setEnabled(false);
 
   onUnload = [this] { Form_Unload(); };
-  onKeyPress = [this](int keyCode) { Form_KeyPress(keyCode); };
+  onEscape = [this] { mExit_Click(); };
   lstGames.onClick = [this] { lstGames_Click(); };
   lstGames.toolTipOf = [this](int row) { return ToolTipOf(row); };
   lstGames.onDblClick = [this] { cmdPlay_Click(); };
@@ -53,7 +52,7 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
 }
 
 void Form1::Form_Load(std::future<startup::Loaded> loading) {
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     icon_ = forms::Picture::ProgramIcon(imgIcon.box().width);
     imgDefault.setPicture(forms::Picture::DefaultSnapshot());
     prepareToShow();
@@ -62,7 +61,7 @@ void Form1::Form_Load(std::future<startup::Loaded> loading) {
   const auto failure = loaded.failure;
   startup::Adopt(std::move(loaded));
   if (failure) return AbortWith(i18n::Msg(*failure));
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     SelectGamesFilter();
     ApplyLanguage();
   });
@@ -76,10 +75,6 @@ void Form1::Form_Unload() {
     config::SaveUserSettings();
   }
   forms::LeaveEventLoop();
-}
-
-void Form1::Form_KeyPress(int keyCode) {
-  if (keyCode == forms::kEscape) mExit_Click();
 }
 
 void Form1::mExit_Click() { forms::EndProgram()(0); }

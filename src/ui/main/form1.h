@@ -26,13 +26,8 @@ class Form1 : public forms::Form {
   // Lists the games of the selected filter and selects the first one.
   void RefreshGameList();
 
-  forms::Label lblGameTitle{
-      *this, "lblGameTitle", {720, 120, 10095, 495}, "KESTRIVANE UI®", {18, true}};
-  forms::Image imgIcon{*this, "imgIcon", {120, 120, 480, 480}, forms::Stretch::No};
-
  private:
   void Form_Unload();
-  void Form_KeyPress(int keyCode);
   void AbortWith(const std::string& message);
   // The buttons of message boxes, in the current language.
   static void NameAnswers();
@@ -62,6 +57,9 @@ class Form1 : public forms::Form {
   bool Aborting = false;
   frmGaming* gaming_ = nullptr;  // while it is open
 
+  forms::Label lblGameTitle{
+      *this, "lblGameTitle", {720, 120, 10095, 495}, "KESTRIVANE UI®", {18, true}};
+  forms::Image imgIcon{*this, "imgIcon", {120, 120, 480, 480}, forms::Stretch::No};
   forms::ListBox lstGames{
       *this, "lstGames", {135, 735, 4695, 4860}, forms::Sorting::IgnoringCase, {9.75}};
   forms::Label Label1{*this, "Label1", {135, 5580, 4695, 315}, " "};

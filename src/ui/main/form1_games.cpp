@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <string>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"
@@ -18,28 +18,28 @@ namespace {
 using forms::Picture;
 using i18n::Message;
 using i18n::Msg;
-using namespace Module1;
 
 // The path of the game's archive; of one that isn't there its name and where it was looked for.
 std::string ArchiveTip(const core::GameEntry& game) {
   auto tip = game.RomName + ".zip";
   if (game.Available)
-    return platform::SystemPath(platform::Joined(RomPaths.at(game.RomFolder), tip));
-  for (std::size_t slot = 0; slot < core::kSearchedFolders && !RomPaths[slot].empty(); ++slot)
-    tip += "\n" + platform::SystemPath(RomPaths[slot]);
+    return platform::SystemPath(platform::Joined(Module1::RomPaths.at(game.RomFolder), tip));
+  for (std::size_t slot = 0; slot < core::kSearchedFolders && !Module1::RomPaths[slot].empty();
+       ++slot)
+    tip += "\n" + platform::SystemPath(Module1::RomPaths[slot]);
   return tip;
 }
 
 std::string PlayTime(const std::string& seconds) {
   int number = 0;
-  base::Quietly([&] { number = base::ToInteger(seconds); });
+  base::RunGuarded([&] { number = base::ToInteger(seconds); });
   return base::HoursMinutesSeconds(std::max(number, 0));
 }
 
 }  // namespace
 
 const core::GameEntry& Form1::GameOfRow(int row) const {
-  return GameCatalog.at(static_cast<std::size_t>(lstGames.itemData(row)));
+  return Module1::GameCatalog.at(static_cast<std::size_t>(lstGames.itemData(row)));
 }
 
 const core::GameEntry& Form1::SelectedGame() const { return GameOfRow(lstGames.selectedRow()); }
@@ -47,10 +47,10 @@ const core::GameEntry& Form1::SelectedGame() const { return GameOfRow(lstGames.s
 std::string Form1::ToolTipOf(int row) const { return ArchiveTip(GameOfRow(row)); }
 
 void Form1::SelectGamesFilter() {
-  const auto filter = GameListPref;
-  GameListPref = core::kFilterBeingSet;
+  const auto filter = Module1::GameListPref;
+  Module1::GameListPref = core::kFilterBeingSet;
   optGames[filter].select();
-  GameListPref = filter;
+  Module1::GameListPref = filter;
 }
 
 void Form1::RefreshGameList() {
@@ -61,8 +61,8 @@ void Form1::RefreshGameList() {
   lstGames.clear();
 
   int count = 0;
-  for (std::size_t row = 0; row + 1 < GameCatalog.size(); ++row) {
-    const auto& game = GameCatalog[row];
+  for (std::size_t row = 0; row + 1 < Module1::GameCatalog.size(); ++row) {
+    const auto& game = Module1::GameCatalog[row];
     if (game.Title.empty() || !(game.Available || optGames[0].selected())) continue;
     lstGames.setItemData(lstGames.add(game.Title), static_cast<int>(row));
     ++count;
@@ -92,9 +92,9 @@ void Form1::lstGames_Click() {
 }
 
 void Form1::ShowGameSnapshot(int row) {
-  base::Quietly([&] {
-    const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
-    const auto file = core::FirstFileIn(SnapPaths, name + ".jpg");
+  base::RunGuarded([&] {
+    const auto& name = Module1::GameCatalog.at(static_cast<std::size_t>(row)).RomName;
+    const auto file = core::FirstFileIn(Module1::SnapPaths, name + ".jpg");
     const auto box = imgGames.box();
     imgGames.setPicture(file.empty() ? imgDefault.picture()
                                      : Picture::FromJpeg(file, box.width, box.height));
@@ -102,9 +102,9 @@ void Form1::ShowGameSnapshot(int row) {
 }
 
 void Form1::ShowGameIcon(int row) {
-  base::Quietly([&] {
-    const auto& name = GameCatalog.at(static_cast<std::size_t>(row)).RomName;
-    const auto file = core::FirstFileIn(IconPaths, name + ".ico");
+  base::RunGuarded([&] {
+    const auto& name = Module1::GameCatalog.at(static_cast<std::size_t>(row)).RomName;
+    const auto file = core::FirstFileIn(Module1::IconPaths, name + ".ico");
     imgIcon.setPicture(file.empty() ? icon_ : Picture::FromIcon(file, imgIcon.box().width));
   });
 }
@@ -113,7 +113,7 @@ void Form1::ShowPlayStats() {
   const auto& game = SelectedGame().RomName;
   std::string count = "0";
   std::string seconds = "0";
-  for (const auto& record : PlayLog) {
+  for (const auto& record : Module1::PlayLog) {
     if (record.GameId.empty()) break;
     if (record.GameId != game) continue;
     count = record.PlayCount;
@@ -124,8 +124,8 @@ void Form1::ShowPlayStats() {
 }
 
 void Form1::optGames_Click(int index) {
-  if (GameListPref == core::kFilterBeingSet) return;
-  GameListPref = static_cast<unsigned char>(index);
+  if (Module1::GameListPref == core::kFilterBeingSet) return;
+  Module1::GameListPref = static_cast<unsigned char>(index);
   RefreshGameList();
   lstGames.setFocus();
 }
@@ -133,7 +133,7 @@ void Form1::optGames_Click(int index) {
 void Form1::cmdPlay_Click() {
   if (lstGames.selectedRow() < 0 || gaming_) return;
   launch::BuildLaunchRequest(SelectedGame());
-  frmGaming gaming(*this);
+  frmGaming gaming(*this, lblGameTitle.caption(), imgIcon.picture());
   gaming.centreOver(*this);
   gaming_ = &gaming;
   gaming.showModal(*this);

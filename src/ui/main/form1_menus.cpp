@@ -1,5 +1,5 @@
 // What the menus do, and the language of the main window.
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"
 #include "i18n/message_catalogue.h"
@@ -12,12 +12,11 @@ namespace ui {
 
 using i18n::Message;
 using i18n::Msg;
-using namespace Module1;
 
 namespace {
 
 std::string MainTitle() {
-  return "Kestrivane UI®  (Kestrivane " + EmulatorVersion + Msg(Message::Detected);
+  return "Kestrivane UI®  (Kestrivane " + Module1::EmulatorVersion + Msg(Message::Detected);
 }
 
 // The menu's order is not that of the languages' numbers.
@@ -26,13 +25,13 @@ constexpr unsigned char kLanguageOfItem[] = {0, 2, 1};
 }  // namespace
 
 void Form1::mLang_Click(int index) {
-  CurrentLanguage = kLanguageOfItem[index];
+  Module1::CurrentLanguage = kLanguageOfItem[index];
   ApplyLanguage();
 }
 
 void Form1::ApplyLanguage() {
   for (int item = 0; item < 3; ++item)
-    mLang[item].setChecked(kLanguageOfItem[item] == CurrentLanguage);
+    mLang[item].setChecked(kLanguageOfItem[item] == Module1::CurrentLanguage);
   setTitle(MainTitle());
   NameAnswers();
   const std::pair<forms::MenuItem&, Message> items[] = {{mFile, Message::File},
@@ -70,21 +69,22 @@ void Form1::ShowOptions() {
 }
 
 void Form1::mConfig_Click() {
-  OptionScope = core::kGlobalScope;
+  Module1::OptionScope = core::kGlobalScope;
   ShowOptions();
-  if (!OptionsSaved) return;
-  core::FindGameArchives(GameCatalog, RomPaths);
+  if (!Module1::OptionsSaved) return;
+  core::FindGameArchives(Module1::GameCatalog, Module1::RomPaths);
   RefreshGameList();
-  OptionsSaved = false;
+  Module1::OptionsSaved = false;
 }
 
 void Form1::cmdConfGame_Click() {
-  OptionScope = static_cast<unsigned char>(lstGames.itemData(lstGames.selectedRow()));
+  Module1::OptionScope = static_cast<unsigned char>(lstGames.itemData(lstGames.selectedRow()));
   ShowOptions();
 }
 
 void Form1::mClearNVRAM_Click() {
-  base::Quietly([] { platform::DeleteFilesEndingIn(platform::Joined(AppFolder, "NVRAM"), ".nv"); });
+  base::RunGuarded(
+      [] { platform::DeleteFilesEndingIn(platform::Joined(Module1::AppFolder, "NVRAM"), ".nv"); });
 }
 
 void Form1::mAbout_Click() {

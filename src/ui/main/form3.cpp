@@ -11,7 +11,6 @@ using i18n::Message;
 using i18n::Msg;
 
 constexpr forms::Colour kBlue{0, 0, 255};
-constexpr forms::Colour kGrey{128, 128, 128};
 
 }  // namespace
 
@@ -19,16 +18,14 @@ Form3::Form3() : Form("Form3", forms::Border::None, 4680, 3090) {
   // The title itself keeps the desktop's text colour, so that it can be read on a dark desktop too.
   Label1.setTextColour(kBlue);
   Label6.setTextColour(kBlue);
-  Label4.setTextColour(kGrey);
+  Label4.setTextColour(forms::kGrey);
   setTitle(Label2.caption());
   Label1.setRole(forms::Role::Decoration);
   Label6.setRole(forms::Role::Decoration);
   Image1.setRole(forms::Role::Picture);
   Image1.setAccessibleName(Label2.caption());
   onLoad = [this] { Form_Load(); };
-  onKeyPress = [this](int keyCode) {
-    if (keyCode == forms::kEscape) close();
-  };
+  onEscape = [this] { close(); };
   onDblClick = [this] { close(); };
 }
 

@@ -10,17 +10,13 @@ Form4::Form4() : Form("Form4", forms::Border::FixedDialog, 10950, 7290) {
   tbxError.setBackColour(forms::kWhite);
   tbxError.setTextColour(forms::kBlack);
   onLoad = [this] { Form_Load(); };
-  onKeyPress = [this](int keyCode) { Form_KeyPress(keyCode); };
+  onEscape = [this] { close(); };
 }
 
 void Form4::Form_Load() {
   setTitle(i18n::Msg(i18n::Message::ErrorReportTitle));
   tbxError.setText(Module1::ErrorText);
   tbxError.setAccessibleName(i18n::Msg(i18n::Message::ErrorReportTitle));
-}
-
-void Form4::Form_KeyPress(int keyCode) {
-  if (keyCode == forms::kEscape) close();
 }
 
 }  // namespace ui

@@ -12,7 +12,6 @@ class Form4 : public forms::Form {
 
  private:
   void Form_Load();
-  void Form_KeyPress(int keyCode);
 
   forms::TextView tbxError{*this, "tbxError", {100, 0, 10830, 7280}};
 };

@@ -11,7 +11,6 @@
 #include "launch/run_loop.h"
 #include "platform/files.h"
 #include "platform/forms/application.h"
-#include "ui/main/form1.h"
 #include "ui/main/form4.h"
 
 namespace ui {
@@ -24,9 +23,11 @@ constexpr int kGoodEndSeconds = 3;
 
 }  // namespace
 
-frmGaming::frmGaming(Form1& main)
+frmGaming::frmGaming(forms::Form& main, const std::string& title, const forms::Picture& icon)
     : Form("frmGaming", forms::Border::None, 5955, 4290), main_(main) {
-  setTitle(main.lblGameTitle.caption());
+  setTitle(title);
+  lblGameTitle.setCaption(title);
+  imgIcon.setPicture(icon);
   setColours(forms::kWhite, forms::kBlack);
   lblGameTitle.setWordWrap(true);
   imgIcon.setRole(forms::Role::Picture);
@@ -52,20 +53,17 @@ std::string frmGaming::KeysText() const {
 }
 
 void frmGaming::Form_Activate() {
-  using namespace Module1;
-  lblGameTitle.setCaption(main_.lblGameTitle.caption());
-  imgIcon.setPicture(main_.imgIcon.picture());
   Label1.setCaption(Msg(Message::GamingTime));
   Label2.setCaption(Msg(Message::InGameKeys));
   lblInfo.setCaption(KeysText());
   StartTime = platform::TheClock().now();
-  launch::RunAndWait(LaunchRequest.CommandLine, [this] {
+  launch::RunAndWait(Module1::LaunchRequest.CommandLine, [this] {
     lblTime.setCaption(launch::FormatElapsed(StartTime));
     Describe();
     forms::DoEvents();
   });
   launch::UpdatePlayLog(StartTime);
-  auto log = platform::Joined(AppFolder, core::kErrorLog);
+  auto log = platform::Joined(Module1::AppFolder, core::kErrorLog);
   if (platform::FileExists(log)) {
     if (launch::ReadErrorLog())
       ShowReport();

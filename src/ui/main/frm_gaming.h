@@ -1,6 +1,8 @@
 // The small window that stands over the main window while a game runs.
 #pragma once
 
+#include <string>
+
 #include "platform/clock.h"
 #include "platform/forms/form.h"
 #include "platform/forms/image.h"
@@ -9,11 +11,10 @@
 
 namespace ui {
 
-class Form1;
-
 class frmGaming : public forms::Form {
  public:
-  explicit frmGaming(Form1& main);
+  // Stands over `main`, which is painted anew after a report, with the title and icon of a game.
+  frmGaming(forms::Form& main, const std::string& title, const forms::Picture& icon);
 
  private:
   // The whole play, from the emulator's start to its report. The window is closed at its end.
@@ -23,7 +24,7 @@ class frmGaming : public forms::Form {
   void Describe();
   void ShowReport();
 
-  Form1& main_;
+  forms::Form& main_;
   platform::Moment StartTime;
   long long describedMinute_ = -1;
 

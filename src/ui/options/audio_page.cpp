@@ -19,9 +19,12 @@ AudioPage::AudioPage(forms::Frame& frame) : frame_(frame) {
 }
 
 std::vector<OptionControl> AudioPage::options() {
-  return {ForOption("EmulateSound", chkAudio[0]), ForOption("EmulateDSB", chkAudio[1]),
-          ForOption("FlipStereo", chkFlipStereo), ForOption("SoundVolume", hslVolume[0]),
-          ForOption("MusicVolume", hslVolume[1]), ForOption("Balance", hslBalance)};
+  return {ForOption(core::option::EmulateSound, chkAudio[0]),
+          ForOption(core::option::EmulateDSB, chkAudio[1]),
+          ForOption(core::option::FlipStereo, chkFlipStereo),
+          ForOption(core::option::SoundVolume, hslVolume[0]),
+          ForOption(core::option::MusicVolume, hslVolume[1]),
+          ForOption(core::option::Balance, hslBalance)};
 }
 
 void AudioPage::DisableWhatOldEmulatorsLack() {

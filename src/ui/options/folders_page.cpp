@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "config/writable_names.h"
 #include "core/profiles.h"
@@ -16,18 +16,17 @@ namespace ui {
 
 using i18n::Message;
 using i18n::Msg;
-using namespace Module1;
 
 namespace {
 
 constexpr int kFirstShaderList = 3;
 constexpr int kMaxFolders = 3;
-constexpr core::FolderList* kFolderLists[kFirstShaderList] = {&RomPaths, &SnapPaths, &IconPaths};
-constexpr const char* kShaders[] = {"FragmentShader", "VertexShader"};
+constexpr core::FolderList* kFolderLists[kFirstShaderList] = {
+    &Module1::RomPaths, &Module1::SnapPaths, &Module1::IconPaths};
+constexpr core::Slot kShaders[] = {core::option::FragmentShader, core::option::VertexShader};
 // In the list's size it would not fit in every language.
 constexpr forms::FontStyle kHint{8.25, true, false, false, 95};
 constexpr forms::Colour kRed{255, 0, 0};
-constexpr forms::Colour kWhite{255, 255, 255};  // red can't be read on a dark desktop's colour
 
 }  // namespace
 
@@ -38,8 +37,8 @@ FoldersPage::FoldersPage(forms::Frame& frame) : frame_(frame) {
     return config::IsWritableName(name) && config::IsWritableValue(folder) &&
            config::IsWritableValue(name);
   };
-  Drive1.selectFor(AppFolder);
-  Dir1.setPath(Drive1.drive(), AppFolder);
+  Drive1.selectFor(Module1::AppFolder);
+  Dir1.setPath(Drive1.drive(), Module1::AppFolder);
   Drive1.onChange = [this] { Drive1_Change(); };
   File1.onDblClick = [this] { File1_DblClick(); };
   std::vector<const forms::Control*> order = {&Drive1, &Dir1, &File1};
@@ -65,7 +64,7 @@ void FoldersPage::Fill() {
     }
   }
   for (int index = kFirstShaderList; index < kLists; ++index) {
-    const auto value = core::ValueInForce(kShaders[index - kFirstShaderList]);
+    const auto value = core::EffectiveValue(kShaders[index - kFirstShaderList]);
     if (value.empty()) continue;
     lstFolders[index].add(base::ReplaceIgnoringCase(value, "\"", ""));
     lstFolders[index].select(0);
@@ -123,7 +122,7 @@ void FoldersPage::StartFileChoice(int index) {
   auto& list = lstFolders[index];
   list.setFont(kHint);
   list.setTextColour(kRed);
-  list.setBackColour(kWhite);
+  list.setBackColour(forms::kWhite);  // red can't be read on a dark desktop's colour
   list.clear();
   list.add(Msg(Message::ShaderHint));
   // First, since the focus would go on to the list from a button that is disabled.
@@ -166,7 +165,7 @@ void FoldersPage::SetFolderPageEnabled(bool state) {
 
 void FoldersPage::cmdRemovePath_Click(int index) {
   auto& list = lstFolders[index];
-  const bool removed = base::Quietly([&] {
+  const bool removed = base::RunGuarded([&] {
     const int row = list.selectedRow();
     list.remove(row);
     if (list.count() == 0)
@@ -181,9 +180,9 @@ void FoldersPage::cmdRemovePath_Click(int index) {
   list.setFocus();
 }
 
-void FoldersPage::StoreFolders() const {
+void FoldersPage::StoreFolders() {
   for (int index = 0; index < kFirstShaderList; ++index) {
-    if (!speaks(index)) continue;
+    if (!hasValueToStore(index)) continue;
     auto& table = *kFolderLists[index];
     std::fill(table.begin() + 1, table.begin() + 1 + kMaxFolders, std::string());
     for (int row = 0; row < lstFolders[index].count(); ++row)
@@ -191,11 +190,11 @@ void FoldersPage::StoreFolders() const {
   }
 }
 
-std::vector<std::pair<const char*, std::string>> FoldersPage::StagedShaders() const {
-  std::vector<std::pair<const char*, std::string>> staged;
+std::vector<std::pair<core::Slot, std::string>> FoldersPage::StagedShaders() const {
+  std::vector<std::pair<core::Slot, std::string>> staged;
   for (int index = kFirstShaderList; index < kLists; ++index) {
     const auto& list = lstFolders[index];
-    if (speaks(index))
+    if (hasValueToStore(index))
       staged.emplace_back(kShaders[index - kFirstShaderList],
                           list.count() > 0 ? '"' + list.text(0) + '"' : std::string());
   }

@@ -15,7 +15,7 @@
 #include "platform/forms/frame.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_box.h"
-#include "ui/options/page_fonts.h"
+#include "ui/shared/page_fonts.h"
 
 namespace ui {
 
@@ -28,8 +28,8 @@ class FoldersPage {
   // One game's options have no folders of their own.
   void HideFolders();
   // What a save makes of the lists; those that were never filled nor touched are left out.
-  void StoreFolders() const;
-  std::vector<std::pair<const char*, std::string>> StagedShaders() const;
+  void StoreFolders();
+  std::vector<std::pair<core::Slot, std::string>> StagedShaders() const;
   void ApplyLanguage();
 
   // While a shader file is being chosen the rest of the dialog is locked.
@@ -46,7 +46,7 @@ class FoldersPage {
   void Drive1_Change();
   void lstFolders_Click(int index);
   void SetFolderPageEnabled(bool state);
-  bool speaks(int index) const { return filled_ || lstFolders[index].count() > 0; }
+  bool hasValueToStore(int index) const { return filled_ || lstFolders[index].count() > 0; }
 
   forms::Frame& frame_;
   bool filled_ = false;

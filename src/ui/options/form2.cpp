@@ -1,9 +1,8 @@
 #include "ui/options/form2.h"
 
 #include <algorithm>
-#include <string_view>
 
-#include "base/quietly.h"
+#include "base/error_boundary.h"
 #include "core/profiles.h"
 #include "i18n/message_catalogue.h"
 
@@ -11,15 +10,17 @@ namespace ui {
 
 using i18n::Message;
 using i18n::Msg;
-using namespace Module1;
 
 namespace {
 
 // A value that a control can't take ends the loading, so the order tells what is there then.
-constexpr std::string_view kLoadOrder[] = {
-    "EmulateSound", "EmulateDSB",  "FlipStereo",    "ShowFrameRate", "FullScreen",
-    "WideScreen",   "Vsync",       "MultiThreaded", "Throttle",      "PowerPCFrequency",
-    "SoundVolume",  "MusicVolume", "Balance"};
+constexpr core::Slot kLoadOrder[] = {core::option::EmulateSound, core::option::EmulateDSB,
+                                     core::option::FlipStereo,   core::option::ShowFrameRate,
+                                     core::option::FullScreen,   core::option::WideScreen,
+                                     core::option::Vsync,        core::option::MultiThreaded,
+                                     core::option::Throttle,     core::option::PowerPCFrequency,
+                                     core::option::SoundVolume,  core::option::MusicVolume,
+                                     core::option::Balance};
 
 constexpr Message kPageNames[] = {Message::AudioPage, Message::VideoPage, Message::InputPage,
                                   Message::MachinePage, Message::FoldersPage};
@@ -41,9 +42,7 @@ Form2::Form2(const forms::Form& main)
   });
 
   onLoad = [this] { Form_Load(); };
-  onKeyPress = [this](int keyCode) {
-    if (keyCode == forms::kEscape) close();
-  };
+  onEscape = [this] { close(); };
   for (int page = 0; page < kPages; ++page)
     optOPT[page].onClick = [this, page] { optOPT_Click(page); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
@@ -60,24 +59,25 @@ void Form2::Form_Load() {
   // Whatever comes of the loading: one game's options must not be taken for those of all.
   if (!isGlobal()) ShowAsOneGame();
   bool inList = false;
-  base::Quietly([&] {
+  base::RunGuarded([&] {
     FillControls();
     inList = video_.SelectResolution();
   });
-  if (!inList) base::Quietly([this] { video_.FillCustomResolution(); });
+  if (!inList) base::RunGuarded([this] { video_.FillCustomResolution(); });
   for (auto& control : options_) control.stagedAtFirst = control.staged();
   ApplyOptionsLanguage();
   optOPT[0].setFocus();
 }
 
 void Form2::FillControls() {
-  // A save compares with what holds without the game, also where the loading ends early.
+  // A save compares with the global values, also where the loading ends early.
   for (core::Slot slot = 0; slot < core::kGeneralSlotCount; ++slot)
-    if (slot < core::kFirstAdvancedSlot || slot >= core::kPerGameSlots) core::EffectiveValue(slot);
+    if (slot < core::kFirstAdvancedSlot || slot >= core::kPerGameSlots)
+      core::RecordGlobalValue(slot);
   video_.FillResolutions();
   InputPage::LoadBindings();
   for (auto& control : options_) {
-    control.load(core::NumberInForce(control.option));
+    control.load(core::EffectiveNumber(control.option));
     control.loaded = true;
   }
   DisableWhatOldEmulatorsLack();
@@ -88,7 +88,7 @@ void Form2::FillControls() {
 }
 
 void Form2::DisableWhatOldEmulatorsLack() {
-  if (EmulatorVersion >= "0.3a") return;
+  if (Module1::EmulatorVersion >= "0.3a") return;
   audio_.DisableWhatOldEmulatorsLack();
   video_.DisableWhatOldEmulatorsLack();
   machine_.DisableWhatOldEmulatorsLack();
@@ -106,9 +106,9 @@ void Form2::ShowAsOneGame() {
 void Form2::SelectInputSystem() {
   if (isGlobal()) {
     setTitle(Msg(Message::GlobalOptionsTitle));
-    input_.SelectInputSystem(Profiles[1].InputMethod);
+    input_.SelectInputSystem(Module1::Profiles[1].InputMethod);
   } else if (const auto rows = core::RowsOfGame(game().RomName); !rows.empty()) {
-    input_.SelectInputSystem(Profiles[rows.back()].InputMethod);
+    input_.SelectInputSystem(Module1::Profiles[rows.back()].InputMethod);
   }
 }
 
@@ -134,7 +134,7 @@ void Form2::optOPT_Click(int index) {
 }
 
 void Form2::btnCancel_Click() {
-  OptionsSaved = false;
+  Module1::OptionsSaved = false;
   close();
 }
 

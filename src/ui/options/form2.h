@@ -40,8 +40,8 @@ class Form2 : public forms::Form {
 
   // Saving and restoring.
   void cmdSave_Click();
-  std::vector<core::Slot> StageOptions() const;
-  void StoreOptions(const std::vector<core::Slot>& staged) const;
+  std::vector<core::Slot> StageOptions();
+  void StoreOptions(const std::vector<core::Slot>& staged);
   static core::Profile* RowInHand();
   void lblGameDef_Click();
 

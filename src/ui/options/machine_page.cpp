@@ -13,12 +13,12 @@ MachinePage::MachinePage(forms::Frame& frame) : frame_(frame) {
 }
 
 std::vector<OptionControl> MachinePage::options() {
-  auto multiThreaded = ForOption("MultiThreaded", chkMulti);
+  auto multiThreaded = ForOption(core::option::MultiThreaded, chkMulti);
   // An emulator too old to know the option must not find it in its file.
   multiThreaded.staged = [this] {
     return chkMulti.enabled() ? std::to_string(chkMulti.value()) : std::string();
   };
-  return {multiThreaded, ForOption("PowerPCFrequency", hslPPC)};
+  return {multiThreaded, ForOption(core::option::PowerPCFrequency, hslPPC)};
 }
 
 void MachinePage::DisableWhatOldEmulatorsLack() {

@@ -8,7 +8,7 @@
 #include "platform/forms/label.h"
 #include "platform/forms/scroll_bar.h"
 #include "ui/options/option_control.h"
-#include "ui/options/page_fonts.h"
+#include "ui/shared/page_fonts.h"
 
 namespace ui {
 

@@ -7,7 +7,6 @@
 namespace ui {
 namespace {
 
-using core::ValueInForce;
 using i18n::Message;
 using i18n::Msg;
 
@@ -33,12 +32,13 @@ void VideoPage::FillResolutions() {
 }
 
 bool VideoPage::SelectResolution() {
-  return cmbRes.selectText(ValueInForce("XResolution") + "x" + ValueInForce("YResolution"));
+  return cmbRes.selectText(core::EffectiveValue(core::option::XResolution) + "x" +
+                           core::EffectiveValue(core::option::YResolution));
 }
 
 void VideoPage::FillCustomResolution() {
-  tbxCustRes[0].setText(ValueInForce("XResolution"));
-  tbxCustRes[1].setText(ValueInForce("YResolution"));
+  tbxCustRes[0].setText(core::EffectiveValue(core::option::XResolution));
+  tbxCustRes[1].setText(core::EffectiveValue(core::option::YResolution));
   chkCustRes.setValue(1);
   shown_ = {tbxCustRes[0].text(), tbxCustRes[1].text()};
 }
@@ -46,12 +46,11 @@ void VideoPage::FillCustomResolution() {
 std::pair<std::string, std::string> VideoPage::StagedResolution() const {
   if (chkCustRes.value() != 0) {
     // A box may show less than the option holds.
-    const auto staged = [](const forms::TextBox& box, const std::string& shown,
-                           const char* option) {
-      return box.text() == shown && !shown.empty() ? ValueInForce(option) : box.text();
+    const auto staged = [](const forms::TextBox& box, const std::string& shown, core::Slot option) {
+      return box.text() == shown && !shown.empty() ? core::EffectiveValue(option) : box.text();
     };
-    return {staged(tbxCustRes[0], shown_.first, "XResolution"),
-            staged(tbxCustRes[1], shown_.second, "YResolution")};
+    return {staged(tbxCustRes[0], shown_.first, core::option::XResolution),
+            staged(tbxCustRes[1], shown_.second, core::option::YResolution)};
   }
   const auto& [width, height] =
       Module1::ResolutionList.at(static_cast<std::size_t>(cmbRes.selectedRow()));
@@ -59,13 +58,13 @@ std::pair<std::string, std::string> VideoPage::StagedResolution() const {
 }
 
 std::vector<OptionControl> VideoPage::options() {
-  auto showFrameRate = ForOption("ShowFrameRate", chkFPS);
+  auto showFrameRate = ForOption(core::option::ShowFrameRate, chkFPS);
   showFrameRate.staged = [this] {
     return chkFullscreen.value() == 0 ? std::to_string(chkFPS.value()) : "0";
   };
-  return {showFrameRate, ForOption("FullScreen", chkFullscreen),
-          ForOption("WideScreen", chkWidescreen), ForOption("Vsync", chkVsync),
-          ForOption("Throttle", chkThrottle)};
+  return {showFrameRate, ForOption(core::option::FullScreen, chkFullscreen),
+          ForOption(core::option::WideScreen, chkWidescreen),
+          ForOption(core::option::Vsync, chkVsync), ForOption(core::option::Throttle, chkThrottle)};
 }
 
 void VideoPage::DisableWhatOldEmulatorsLack() {

@@ -11,7 +11,7 @@
 #include "platform/forms/label.h"
 #include "platform/forms/text_box.h"
 #include "ui/options/option_control.h"
-#include "ui/options/page_fonts.h"
+#include "ui/shared/page_fonts.h"
 
 namespace ui {
 

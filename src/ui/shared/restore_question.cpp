@@ -1,4 +1,4 @@
-#include "ui/options/restoring.h"
+#include "ui/shared/restore_question.h"
 
 #include "i18n/message_catalogue.h"
 #include "platform/forms/message_box.h"
