@@ -17,8 +17,8 @@ std::string VersionIn(std::string_view banner) {
 }
 
 void AddGame(std::string_view line, std::vector<GameEntry>& games) {
-  if (games.size() >= kMaxGames + 2) return;
-  auto& game = games[games.size() - 2];
+  if (games.size() >= kMaxGames + kSpareGameRows) return;
+  auto& game = games[games.size() - kSpareGameRows];
   game.RomName = base::Trim(line.substr(0, base::OffsetOfChar(line, kNameColumns)));
   game.Title = base::Trim(line.substr(base::OffsetOfChar(line, kNameColumns - 1)));
   games.emplace_back();
@@ -49,7 +49,7 @@ void FindGameArchives(std::vector<GameEntry>& games, const FolderList& romPaths)
   for (std::size_t entry = 0; entry < kSearchedFolders && !romPaths[entry].empty(); ++entry)
     folders.push_back(romPaths[entry]);
   std::vector<std::string> archives;
-  for (std::size_t row = 0; row + 2 < games.size(); ++row)
+  for (std::size_t row = 0; row + kSpareGameRows < games.size(); ++row)
     archives.push_back(games[row].RomName + ".zip");
   const auto found = platform::FirstFolderOfEach(archives, folders);
   for (std::size_t row = 0; row < found.size(); ++row) {

@@ -14,7 +14,7 @@ namespace core {
 struct GameListing {
   std::string EmulatorVersion;
   bool GameListHeaderSeen = false;
-  std::vector<GameEntry> GameCatalog = std::vector<GameEntry>(2);
+  std::vector<GameEntry> GameCatalog = std::vector<GameEntry>(kSpareGameRows);
 };
 
 // The emulator's output; nothing where it has fewer than two lines.

@@ -7,7 +7,7 @@ void ResetSharedState() {
   EmulatorVersion.clear();
   GameListPref = 0;
   CurrentLanguage = 0;
-  GameCatalog.assign(2, {});
+  GameCatalog.assign(core::kSpareGameRows, {});
   Profiles.assign(2, {});
   LaunchRequest = {};
   InputChoice.clear();

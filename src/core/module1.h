@@ -57,6 +57,7 @@ inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref
 inline constexpr unsigned char kRawInput = 2;        // in Profile.InputMethod
 inline constexpr std::size_t kSearchedFolders = 4;   // of each list of folders
 inline constexpr std::size_t kMaxGames = 254;
+inline constexpr std::size_t kSpareGameRows = 2;  // empty ones at the end of GameCatalog
 inline constexpr std::size_t kMaxProfiles = 255;
 
 // Entry 0 is the built-in folder; an empty entry ends the list.

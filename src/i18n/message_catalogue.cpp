@@ -166,12 +166,16 @@ constexpr auto kMessages = std::to_array<Row>({
      {"Vsync (available in Kestrivane v0.3a and better)",
       "Sincronización Vertical (disponible en Kestrivane v0.3a o superior)",
       "Vsync (disponível em v0.3a Kestrivane e melhor)"}},
+    {Message::AnswerOk, {"OK", "Aceptar", "OK"}},
+    {Message::AnswerYes, {"&Yes", "&Sí", "&Sim"}},
+    {Message::AnswerNo, {"&No", "&No", "&Não"}},
+    {Message::AnswerCancel, {"Cancel", "Cancelar", "Cancelar"}},
 });
 
 constexpr bool RowsStandByNumber() {
   for (std::size_t row = 0; row < kMessages.size(); ++row)
     if (kMessages[row].message != static_cast<Message>(row)) return false;
-  return kMessages.back().message == Message::Vsync;
+  return kMessages.size() == kMessageCount;
 }
 static_assert(RowsStandByNumber());
 

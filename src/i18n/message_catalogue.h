@@ -1,6 +1,7 @@
 // All texts that change with the language.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace i18n {
@@ -94,8 +95,15 @@ enum class Message : unsigned char {
   GameOptionsTitle,
   RestoreOptions,
   AdvancedOptions,
-  Vsync
+  Vsync,
+  // The buttons of message boxes.
+  AnswerOk,
+  AnswerYes,
+  AnswerNo,
+  AnswerCancel
 };
+
+inline constexpr std::size_t kMessageCount = static_cast<std::size_t>(Message::AnswerCancel) + 1;
 
 // The text in the current language, blanks included; English for a language that is not one of the
 // three.

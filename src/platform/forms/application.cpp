@@ -6,7 +6,6 @@
 #include <QHelpEvent>
 #include <QPalette>
 #include <QTimer>
-#include <QToolTip>
 #include <cstdlib>
 
 #include "platform/clock.h"
@@ -65,8 +64,7 @@ class Rules : public QObject {
   // markup.
   static bool showToolTip(QWidget& widget, const QEvent& event) {
     if (widget.toolTip().isEmpty()) return false;
-    QToolTip::showText(static_cast<const QHelpEvent&>(event).globalPos(),
-                       PlainToolTip(widget.toolTip()), &widget);
+    ShowPlainToolTip(static_cast<const QHelpEvent&>(event), widget.toolTip(), widget);
     return true;
   }
 

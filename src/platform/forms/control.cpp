@@ -1,7 +1,9 @@
 #include "platform/forms/control.h"
 
+#include <QHelpEvent>
 #include <QPalette>
 #include <QTextDocument>
+#include <QToolTip>
 #include <QWidget>
 #include <cmath>
 
@@ -12,6 +14,7 @@ namespace forms {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
+constexpr const char* kTakesEnterProperty = "takesEnter";
 
 QColor ToColour(Colour colour) { return {colour.red, colour.green, colour.blue}; }
 
@@ -39,11 +42,18 @@ QFont ToFont(const FontStyle& style) {
 
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
-QString PlainToolTip(const QString& text) {
-  return Qt::mightBeRichText(text)
-             ? "<span style=\"white-space:pre\">" + text.toHtmlEscaped() + "</span>"
-             : text;
+void ShowPlainToolTip(const QHelpEvent& at, const QString& text, QWidget& on) {
+  const bool looksLikeMarkup = Qt::mightBeRichText(text);
+  QToolTip::showText(at.globalPos(),
+                     looksLikeMarkup
+                         ? "<span style=\"white-space:pre\">" + text.toHtmlEscaped() + "</span>"
+                         : text,
+                     &on);
 }
+
+void SetTakesEnter(QWidget& control) { control.setProperty(kTakesEnterProperty, true); }
+
+bool TakesEnter(const QWidget& control) { return control.property(kTakesEnterProperty).toBool(); }
 
 Control::Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font)
     : widget_(widget) {
@@ -53,6 +63,8 @@ Control::Control(QWidget* widget, const char* name, const Box& box, const FontSt
   widget_->show();
 }
 
+// A form's controls are members of the class derived from it, so they are destroyed before the window
+// that owns their widgets.
 Control::~Control() { delete widget_; }
 
 void Control::move(const Box& box) {

@@ -5,7 +5,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QToolTip>
 #include <QTreeWidget>
 #include <algorithm>
 #include <filesystem>
@@ -44,7 +43,7 @@ class NativeTree : public RingedView<QTreeWidget> {
     setUniformRowHeights(true);
     setIndentation(12);
     header()->setStretchLastSection(false);
-    setProperty("takesEnter", true);
+    SetTakesEnter(*this);
   }
 
   // As wide as the rows: a column of the tree's width has no room for names at deep levels.
@@ -85,8 +84,7 @@ class NativeTree : public RingedView<QTreeWidget> {
     if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
     const auto& help = *static_cast<QHelpEvent*>(event);
     const auto* item = itemAt(help.pos());
-    const auto tip = item ? PlainToolTip(ToQString(PathOf(*item))) : QString();
-    QToolTip::showText(help.globalPos(), tip, this);
+    ShowPlainToolTip(help, item ? ToQString(PathOf(*item)) : QString(), *this);
     return true;
   }
   // One folder is always selected.

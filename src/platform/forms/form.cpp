@@ -112,7 +112,7 @@ class FormWindow : public QMainWindow {
       own->click();
       return true;
     }
-    if (focus.property("takesEnter").toBool() || !defaultButton) return false;
+    if (TakesEnter(focus) || !defaultButton) return false;
     defaultButton->click();
     return true;
   }
@@ -131,6 +131,11 @@ QFont FormFont() {
   auto font = ToFont({});
   font.setFamily(family);
   return font;
+}
+
+// The toolkit loads a font when it is first asked for a measure.
+void LoadFontOf(const QWidget& control) {
+  static_cast<void>(control.fontMetrics().horizontalAdvance('x'));
 }
 
 QPoint Centre(const QRect& outer) {
@@ -203,8 +208,7 @@ void Form::centreOnScreen() {
 }
 
 void Form::prepareToShow() {
-  constexpr int kIconTwips = 480;
-  native_->window.setWindowIcon(IconOf(Picture::ProgramIcon(kIconTwips)));
+  native_->window.setWindowIcon(WindowIcon());
   native_->client->setFont(FormFont());
   for (auto* control : native_->window.findChildren<QWidget*>()) {
     control->ensurePolished();
@@ -214,7 +218,7 @@ void Form::prepareToShow() {
       font.setFamily(FormFont().family());
       control->setFont(font);
     }
-    control->fontMetrics().horizontalAdvance('x');
+    LoadFontOf(*control);
   }
 }
 

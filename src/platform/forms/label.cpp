@@ -155,7 +155,7 @@ void Label::setBorder(bool border) {
 void Label::makeLink() {
   link_ = true;
   setRole(Role::Link);
-  widget()->setProperty("takesEnter", true);
+  SetTakesEnter(*widget());
   constexpr double kTextContrast = 4.5;
   auto palette = widget()->palette();
   palette.setColor(

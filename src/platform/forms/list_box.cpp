@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QToolTip>
 
 #include "base/error_boundary.h"
 #include "base/failure.h"
@@ -26,13 +25,15 @@ class NativeList : public RingedView<QListWidget> {
     setEditTriggers(NoEditTriggers);
   }
 
+  bool takesF2 = false;
+
  protected:
   bool viewportEvent(QEvent* event) override {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
       return QListWidget::viewportEvent(event);
     const auto& help = *static_cast<QHelpEvent*>(event);
     const auto* item = itemAt(help.pos());
-    QToolTip::showText(help.globalPos(), item ? PlainToolTip(toolTipOf(*item)) : QString(), this);
+    ShowPlainToolTip(help, item ? toolTipOf(*item) : QString(), *this);
     return true;
   }
   // One row at a time, and no click or key takes the selection away.
@@ -72,8 +73,7 @@ class NativeList : public RingedView<QListWidget> {
   }
   void keyPressEvent(QKeyEvent* event) override {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool edits = (event->key() == Qt::Key_F2 && property("takesF2").toBool()) ||
-                       (enter && property("takesEnter").toBool());
+    const bool edits = (event->key() == Qt::Key_F2 && takesF2) || (enter && TakesEnter(*this));
     if (edits && list_.selectedRow() >= 0) {
       Q_EMIT itemDoubleClicked(item(list_.selectedRow()));
       return;
@@ -204,9 +204,9 @@ void ListBox::hideScrollBar() {
   Native(widget())->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void ListBox::takeF2() { widget()->setProperty("takesF2", true); }
+void ListBox::takeF2() { Native(widget())->takesF2 = true; }
 
-void ListBox::takeEnter() { widget()->setProperty("takesEnter", true); }
+void ListBox::takeEnter() { SetTakesEnter(*widget()); }
 
 int ListBox::topRow() const { return Native(widget())->verticalScrollBar()->value(); }
 

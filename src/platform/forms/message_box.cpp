@@ -51,8 +51,7 @@ Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std:
   const QPointer<QWidget> owner = QApplication::activeWindow();
   QMessageBox box(ToIcon(icon), ToQString(title), ToQString(text), ToButtons(buttons), owner);
   box.setTextFormat(Qt::PlainText);
-  constexpr int kIconTwips = 480;
-  box.setWindowIcon(IconOf(Picture::ProgramIcon(kIconTwips)));
+  box.setWindowIcon(WindowIcon());
   const auto& [ok, yes, no, cancel] = Captions();
   const std::pair<QMessageBox::StandardButton, const std::string&> captions[] = {
       {QMessageBox::Ok, ok},

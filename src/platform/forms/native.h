@@ -9,6 +9,7 @@
 class QColor;
 class QEvent;
 class QFont;
+class QHelpEvent;
 class QPaintEvent;
 class QPalette;
 class QRect;
@@ -83,7 +84,11 @@ class RingedView : public View {
   }
 };
 
-// The text so that a tool tip shows it as it stands.
-QString PlainToolTip(const QString& text);
+// Shows the text in a tool tip as it stands, or none for an empty text.
+void ShowPlainToolTip(const QHelpEvent& at, const QString& text, QWidget& on);
+
+// Makes the control handle Enter itself instead of pressing the form's default button.
+void SetTakesEnter(QWidget& control);
+bool TakesEnter(const QWidget& control);
 
 }  // namespace forms

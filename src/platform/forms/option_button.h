@@ -26,7 +26,7 @@ class OptionButton : public Control {
  private:
   void joinGroup();
 
-  bool clickRaised_ = false;  // of the click that is under way
+  bool clickRaised_ = false;  // by the change of state that the present click made
 };
 
 }  // namespace forms

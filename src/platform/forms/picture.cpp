@@ -84,6 +84,11 @@ const QPixmap& PixmapOf(const Picture& picture) {
 
 QIcon IconOf(const Picture& picture) { return picture.data() ? picture.data()->icon : QIcon(); }
 
+QIcon WindowIcon() {
+  constexpr int kTwips = 480;
+  return IconOf(Picture::ProgramIcon(kTwips));
+}
+
 Picture Picture::FromFile(const std::string& path, const char* format, int width, int height) {
   const double scale = qGuiApp->devicePixelRatio();
   const QSize wanted = QSize(ToPixels(width), ToPixels(height)) * scale;

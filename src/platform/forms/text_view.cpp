@@ -13,7 +13,7 @@ TextView::TextView(Container& parent, const char* name, const Box& box, const Fo
   edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   edit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   edit->setTabChangesFocus(true);
-  edit->setProperty("takesEnter", true);
+  SetTakesEnter(*edit);
 }
 
 // The toolkit's time for a line grows with the square of its length, so that endless ones are

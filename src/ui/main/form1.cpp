@@ -4,7 +4,6 @@
 
 #include "base/error_boundary.h"
 #include "config/user_settings.h"
-#include "i18n/answers.h"
 #include "i18n/message_catalogue.h"
 #include "launch/process_capture.h"
 #include "platform/forms/application.h"
@@ -80,8 +79,10 @@ void Form1::Form_Unload() {
 void Form1::mExit_Click() { forms::EndProgram()(0); }
 
 void Form1::NameAnswers() {
-  const auto [ok, yes, no, cancel] = i18n::AnswerTexts();
-  forms::NameAnswers({ok, yes, no, cancel});
+  using i18n::Message;
+  using i18n::Msg;
+  forms::NameAnswers({Msg(Message::AnswerOk), Msg(Message::AnswerYes), Msg(Message::AnswerNo),
+                      Msg(Message::AnswerCancel)});
 }
 
 void Form1::AbortWith(const std::string& message) {
