@@ -12,11 +12,11 @@ int main() {
   platform::PrepareProgram();
   base::RunGuarded([] {
     Module1::AppFolder = platform::ProgramFolder();
-    // The emulator inherits it.
+    // The emulator inherits the working folder.
     platform::SetWorkingFolder(Module1::AppFolder);
   });
   startup::FillSharedState();
-  // Files and the emulator are waited for while the toolkit starts.
+  // Reading files and running the emulator overlap with the start of the toolkit.
   auto loading = startup::BeginLoading(Module1::AppFolder);
   forms::Application application;
   ui::Form1 form;

@@ -1,5 +1,5 @@
-// The boundary that no exception crosses: every event, and every procedure that may fail, runs its
-// steps inside one.
+// The error boundary. Every event handler and every procedure that may fail runs its steps inside
+// one, so that no exception leaves it.
 #pragma once
 
 #include <functional>
@@ -10,16 +10,15 @@
 
 namespace base {
 
-// Called with the text of an exception that reached a boundary and is no Failure: a bug, which the
-// user is not bothered with. Without a handler the text becomes one line on standard error. Tests
-// install a handler.
+// Called with the text of an exception that reached a boundary and is not a Failure. Such an
+// exception is a bug; the user is not told. Without a handler, one line goes to standard error.
+// Tests install a handler.
 std::function<void(const std::string& what)>& UnexpectedErrorHandler();
 
 // Hands the exception in flight to the handler.
 void ReportUnexpectedError() noexcept;
 
-// Runs `steps` and returns whether they finished. Steps that were done before an exception stay
-// done.
+// Runs `steps` and returns whether they finished. What they did before an exception stays done.
 template <class Steps>
 bool RunGuarded(Steps&& steps) noexcept {
   try {

@@ -1,4 +1,5 @@
-// A failure that the program means: the system refuses, or a text or value can't be taken.
+// The exception for an expected failure: the system refuses something, or a text or value is
+// invalid.
 #pragma once
 
 #include <stdexcept>

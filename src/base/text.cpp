@@ -15,7 +15,7 @@ constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c
 
 constexpr bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
-// The lower-case letter of a two-byte character, or the character itself.
+// The lower-case form of a character that takes two bytes in UTF-8.
 unsigned FoldTwoByte(unsigned code) {
   if ((code >= 0xC0 && code <= 0xDE && code != 0xD7) || (code >= 0x391 && code <= 0x3A9) ||
       (code >= 0x410 && code <= 0x42F))
@@ -156,7 +156,7 @@ std::optional<double> ToNumber(std::string_view text) {
   double number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (end != text.data() + text.size() || error == std::errc::invalid_argument) return {};
-  // Too many digits for the type.
+  // The number has more digits than a double can hold.
   if (error != std::errc()) return text.starts_with('-') ? -HUGE_VAL : HUGE_VAL;
   return number;
 }

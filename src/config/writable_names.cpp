@@ -19,7 +19,8 @@ bool IsWritableName(std::string_view name) {
 bool IsWritablePath(std::string_view path) {
   const auto separates = [](char c) { return IsControl(c) || c == '*' || c == '"'; };
   const auto isInPath = [&](std::string_view key) { return base::ContainsIgnoringCase(path, key); };
-  // A path from the root belongs to a system on which a backslash is a letter.
+  // Where paths begin with a slash, a backslash is part of a name, but the file would take it for a
+  // separator.
   return base::IsUtf8(path) && std::ranges::none_of(path, separates) &&
          std::ranges::none_of(kPathKeys, isInPath) &&
          !(path.starts_with('/') && path.find('\\') != std::string_view::npos);

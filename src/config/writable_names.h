@@ -1,4 +1,4 @@
-// What the configuration file can hold of names and paths.
+// Which names and paths the configuration file can hold.
 #pragma once
 
 #include <string>
@@ -6,21 +6,21 @@
 
 namespace config {
 
-// Whether a file or folder of this name can be named in the file: UTF-8 without control characters,
-// backslash, asterisk and double quote, which separate or enclose names and paths there on every
-// system, and without the key of another list.
+// Whether the file can hold the name of a file or folder. It can't if the name is no UTF-8,
+// contains a control character, backslash, asterisk or double quote, which separate or enclose
+// names in the file, or contains the key of a list.
 bool IsWritableName(std::string_view name);
 
-// Whether this is so of all names on a path from the root or a drive.
+// Whether the file can hold every name of a path that begins at a root or drive.
 bool IsWritablePath(std::string_view path);
 
-// Whether a path of such names can also be an option's value there: the rest of the line, or of the
-// file, would be read as something else behind ";", a second "=" and "[ ", and the whole line with
-// the program's name in it.
+// Whether such a path can also be the value of an option. It can't if it contains ";", "=" or "[ ",
+// behind which the reader would take the rest for something else, or the banner, for which it would
+// take the whole line.
 bool IsWritableValue(std::string_view path);
 
-// Whether a game of this short name can have a section and a play record of its own: they must read
-// back as that game's.
+// Whether the file can hold a section and a play record for a game of this short name, so that both
+// read back as that game's.
 bool IsWritableGame(const std::string& romName);
 
 }  // namespace config

@@ -1,5 +1,5 @@
-// The text of an input's value: tokens joined by "," inside double quotes, "NONE" for no binding,
-// or a bare number. Tokens are never validated.
+// The value of an input is a text: tokens joined by "," inside double quotes, "NONE" in quotes for
+// no binding, or a number without quotes. Tokens are not validated.
 #pragma once
 
 #include <array>
@@ -13,16 +13,18 @@ using BindingCells = std::array<std::string, kBindingColumns>;
 
 inline constexpr std::string_view kNoBinding = "\"NONE\"";
 
-// The first three tokens of a value, for show: without quotes, an unbound one empty.
+// The first three tokens of a value as the input table shows them. An input without a binding has
+// empty cells.
 BindingCells CellsOf(std::string_view value);
 
-// The value that the cells make; empty cells close up.
+// Joins the cells that are not empty into a value.
 std::string ValueOf(const BindingCells& cells);
 
-// True for what a plain conversion to a number accepts.
+// Whether the cell holds a number (an input that is on or off) instead of a token.
 bool IsNumeric(std::string_view cell);
 
-// Raw Input tells keyboards and mice apart: keyboard 1 for all, the player's own mouse.
+// Raw Input numbers keyboards and mice. All players use keyboard 1 and each player a mouse of their
+// own.
 std::string WithDeviceNumbers(std::string_view value, int player);
 std::string WithoutDeviceNumbers(std::string_view value);
 

@@ -1,4 +1,4 @@
-// All that is fixed of the emulator, a program of its own that lies in AppFolder.
+// What the front-end relies on of the emulator, which is a separate program in AppFolder.
 #pragma once
 
 #include <string_view>
@@ -9,8 +9,9 @@ inline constexpr std::string_view kEmulatorFile = "Kestrivane.exe";
 inline constexpr std::string_view kListingCommand = "Kestrivane.exe -print-games";
 inline constexpr std::string_view kPlayCommand = "Kestrivane \"";
 
-// The listing: the banner carries the version between this text and one closing character; games
-// follow the separator, short name in the first 14 columns, title from column 14 on.
+// The listing: in the banner, the version stands between this text and one closing character. The
+// games follow the separator, with the short name in columns 1 to 14 and the title from column 14
+// on.
 inline constexpr std::string_view kBanner = "Kestrivane: A Sega Model 3 Arcade Emulator (Version ";
 inline constexpr std::string_view kSeparator = "-------         -----";
 inline constexpr int kNameColumns = 14;

@@ -1,4 +1,4 @@
-// The emulator's games: a listing in, rows out; and which of their archives are there.
+// Parses the emulator's listing into rows of games and finds the games' archives.
 #pragma once
 
 #include <optional>
@@ -10,17 +10,17 @@
 
 namespace core {
 
-// What a listing says, with the names of the shared state.
+// The contents of a listing. The fields have the names of the shared variables that they go to.
 struct GameListing {
   std::string EmulatorVersion;
   bool GameListHeaderSeen = false;
   std::vector<GameEntry> GameCatalog = std::vector<GameEntry>(kSpareGameRows);
 };
 
-// The emulator's output; nothing where it has fewer than two lines.
+// Parses the emulator's output. Returns nothing if it has fewer than two lines.
 std::optional<GameListing> ParseGameListing(std::string_view output);
 
-// One line of it, without blanks at its ends.
+// Parses one line, which has no spaces at its ends.
 void ParseGameListLine(std::string_view line, GameListing& listing);
 
 // Sets GameEntry.Available and GameEntry.RomFolder of every game.

@@ -53,9 +53,9 @@ inline constexpr Slot kPerGameSlots = option::Crosshairs;  // the first ones can
 inline constexpr Slot kFirstAdvancedSlot =
     option::ForceFeedback;  // of those that frmFF edits, up to kPerGameSlots
 inline constexpr unsigned char kGlobalScope = 254;
-inline constexpr unsigned char kFilterBeingSet = 9;  // in GameListPref
-inline constexpr unsigned char kRawInput = 2;        // in Profile.InputMethod
-inline constexpr std::size_t kSearchedFolders = 4;   // of each list of folders
+inline constexpr unsigned char kFilterBeingSet = 9;  // a value of GameListPref
+inline constexpr unsigned char kRawInput = 2;        // a value of Profile.InputMethod
+inline constexpr std::size_t kSearchedFolders = 4;   // entries of a FolderList
 inline constexpr std::size_t kMaxGames = 254;
 inline constexpr std::size_t kSpareGameRows = 2;  // empty ones at the end of GameCatalog
 inline constexpr std::size_t kMaxProfiles = 255;
@@ -71,7 +71,7 @@ struct GameEntry {
 };
 
 struct PlayRecord {
-  std::string GameId;  // empty: no row from here on
+  std::string GameId;  // the first empty one ends the table
   std::string PlayCount;
   std::string PlaySeconds;
 };
@@ -80,7 +80,7 @@ using PlayRecords = std::array<PlayRecord, 41>;
 
 struct OptionSlot {
   unsigned char Kind = 0;  // 0 input of player 1, 1 input of player 2, 3 general; row 0 only
-  std::string Value;       // as the configuration file spells it; empty: not set here
+  std::string Value;       // as in the configuration file; empty if this profile does not set it
   std::string Name;        // row 0 only
 };
 
@@ -90,7 +90,7 @@ struct Profile {
   unsigned char InputMethod = 0;  // 0 DirectInput, 1 XInput, 2 Raw Input
 };
 
-// How much of the configuration file the state holds.
+// How much of the configuration file was read into the shared state.
 enum class FileHeld { Whole, UpToAFailure, FirstRowsOnly };
 
 struct Resolution {
@@ -131,8 +131,8 @@ inline unsigned char AdvancedInputSystem = 0;
 inline std::array<std::string, core::kSlotCount> EffectiveValues;
 inline std::array<std::string, core::kGeneralSlotCount> StagedOptions;
 
-// Puts every variable but AppFolder back to its start value: tables of two empty rows, all else
-// empty, zero or false.
+// Sets every variable but AppFolder to its start value: the growing tables have two empty rows, all
+// else is empty, zero or false.
 void ResetSharedState();
 
 }  // namespace Module1

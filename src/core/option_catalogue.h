@@ -10,7 +10,7 @@ namespace core {
 // The Default row of Profiles.
 Profile DefaultProfile();
 
-// The slot of an option's name, letter case ignored; -1 for a name outside the catalogue.
+// The slot of the option with this name, in any letter case; -1 if there is none.
 Slot OptionIndex(std::string_view name);
 
 }  // namespace core

@@ -11,18 +11,18 @@ namespace core {
 // Copies the default bindings (slots 30 to 127) to the Global row.
 void ResetInputsToDefaults(std::vector<Profile>& profiles);
 
-// The rows of Profiles that belong to a game, in their order: none, one, or several where a
-// configuration file names the game more than once.
+// The rows of Profiles that belong to a game, in ascending order. There are several if the
+// configuration file has more than one section for the game.
 std::vector<std::size_t> RowsOfGame(const std::string& romName);
 
-// Sets the slot's row of EffectiveValues to the value that holds for all games.
+// Sets the slot's entry of EffectiveValues to its value in the global scope.
 void RecordGlobalValue(Slot slot);
 
-// The value that holds for a slot in the scope of OptionScope. Records the global value first.
-// Fails for a scope that is not there.
+// The value of a slot in the scope of OptionScope. Calls RecordGlobalValue first. Throws if there
+// is no such scope.
 std::string EffectiveValue(Slot slot);
 
-// The same as a number. Fails for a text that is none.
+// EffectiveValue as a number. Throws if the value is no number.
 int EffectiveNumber(Slot slot);
 
 }  // namespace core

@@ -13,7 +13,7 @@ struct Row {
   std::array<std::string_view, 3> texts;  // English, Spanish, Portuguese
 };
 
-// By the number of the message.
+// Indexed by Message.
 constexpr auto kMessages = std::to_array<Row>({
     {Message::GamesListed, {" games listed", " juegos listados", " jogos listados"}},
     {Message::NoGamesAvailable,

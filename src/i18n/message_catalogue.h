@@ -1,4 +1,4 @@
-// All texts that change with the language.
+// The texts of the user interface in all languages.
 #pragma once
 
 #include <cstddef>
@@ -105,8 +105,8 @@ enum class Message : unsigned char {
 
 inline constexpr std::size_t kMessageCount = static_cast<std::size_t>(Message::AnswerCancel) + 1;
 
-// The text in the current language, blanks included; English for a language that is not one of the
-// three.
+// The text in CurrentLanguage, or in English if that number has no language. Spaces at the ends of
+// a text belong to it.
 std::string Msg(Message message);
 
 }  // namespace i18n

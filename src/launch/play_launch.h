@@ -4,8 +4,8 @@
 
 namespace launch {
 
-// Fills LaunchRequest for a game. The command line goes by the Global row's input system and stays
-// as it was if that is none of the three.
+// Fills LaunchRequest for a game. The input system of the Global row decides the command line,
+// which stays unchanged if the number is not one of the three systems.
 void BuildLaunchRequest(const core::GameEntry& game);
 
 }  // namespace launch

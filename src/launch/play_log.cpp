@@ -16,15 +16,15 @@ namespace {
 
 constexpr long long kLongestUncountedPlay = 20;
 
-// Fails where the sum leaves the 32 bits that the figures are read back in.
+// Throws if the sum exceeds the 32 bits in which the figures are read back.
 int Sum(int figure, long long more) {
   if (more > std::numeric_limits<int>::max() - std::max(figure, 0))
     throw base::Failure("figure too large");
   return static_cast<int>(figure + more);
 }
 
-// Adds the play to the rows of the game, or to the first free row; false if there is neither, or
-// the file could not give a new record back.
+// Adds the play to the rows of the game, or else to the first free row. Returns false if there is
+// no free row, or if the configuration file can't hold a record for this game.
 bool CountPlay(const std::string& game, long long seconds) {
   bool counted = false;
   for (auto& record : Module1::PlayLog) {
@@ -36,7 +36,7 @@ bool CountPlay(const std::string& game, long long seconds) {
     }
     if (record.GameId != game) continue;
     counted = true;
-    // Both figures must be numbers before either changes.
+    // Both figures are converted before either changes, since the conversion may throw.
     const auto plays = Sum(base::ToInteger(record.PlayCount), 1);
     const auto total = Sum(base::ToInteger(record.PlaySeconds), seconds);
     record.PlayCount = std::to_string(plays);

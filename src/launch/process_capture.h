@@ -1,14 +1,14 @@
-// Services of the operating system that report failure by an empty text or false.
+// Services of the operating system whose failures are not reported.
 #pragma once
 
 #include <string>
 
 namespace launch {
 
-// Runs a command to its end and gives what it wrote to standard output; empty on any failure.
+// Runs a command to its end and returns its standard output, or an empty text on failure.
 std::string ShellExecuteCapture(const std::string& sCommandLine, bool bShowWindow = true);
 
-// Hands an address to the system's opener.
+// Opens a web address in the system's browser. Does nothing on failure.
 void OpenUrl(const std::string& address);
 
 }  // namespace launch

@@ -1,4 +1,4 @@
-// The emulator's run, and how long it has lasted.
+// Runs the emulator and measures how long it has run.
 #pragma once
 
 #include <functional>
@@ -8,8 +8,8 @@
 
 namespace launch {
 
-// Starts the command line and returns when the program has ended; once a second `onTick` runs. A
-// program that can't be started ends it at once.
+// Runs the command line and returns when the program has ended. Calls `onTick` once a second
+// meanwhile. Returns at once if the program can't be started.
 void RunAndWait(const std::string& commandLine, const std::function<void()>& onTick);
 
 // The time since `start` as hours, minutes and seconds.

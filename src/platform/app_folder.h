@@ -4,13 +4,13 @@
 
 namespace platform {
 
-// The folder of the program's own executable, without a separator at its end unless it is a root.
+// The folder of the executable, without a trailing separator unless it is a root.
 std::string ProgramFolder();
 
-// Takes the place of the executable's folder from then on; for tests.
+// Makes ProgramFolder return this folder instead. For tests.
 void SetProgramFolder(std::string folder);
 
-// Makes the folder the working folder, which started programs inherit. Throws on failure.
+// Sets the working folder, which started programs inherit. Throws on failure.
 void SetWorkingFolder(const std::string& folder);
 
 }  // namespace platform

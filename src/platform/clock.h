@@ -1,4 +1,4 @@
-// What plays and pauses are measured by; a test puts its own in place.
+// The clock that measures plays and pauses. A test can replace it.
 #pragma once
 
 #include <chrono>
@@ -6,7 +6,7 @@
 
 namespace platform {
 
-// Steady: a change of the system's clock does not move it.
+// Steady: setting the system's clock does not change it.
 using Moment = std::chrono::steady_clock::time_point;
 
 struct Clock {

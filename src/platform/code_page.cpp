@@ -19,7 +19,7 @@ bool ReadsAsUtf8(std::string_view line) {
 
 std::string DecodeCodePage(std::string_view bytes) {
   if (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
-  // Another system's lines have no CR at all.
+  // A text without any CR comes from a system whose line end is LF.
   const char lineEnd = bytes.find('\r') == std::string_view::npos ? '\n' : '\r';
   std::string text;
   text.reserve(bytes.size());
@@ -51,7 +51,7 @@ std::string EncodeCodePage(std::string_view text) {
     bytes += base::kLineEnd;
     text.remove_prefix(end + base::kLineEnd.size());
   }
-  // A reader drops the first mark.
+  // A reader drops one byte order mark, so a text that begins with one needs a second.
   if (bytes.starts_with(kMark)) bytes.insert(0, kMark);
   return bytes;
 }

@@ -1,5 +1,5 @@
-// Text from and for outside. A line of well-formed UTF-8 with a character beyond ASCII is UTF-8,
-// any other is in the system's code page.
+// The encoding of files and of other programs' output, line by line. A line is UTF-8 if it is
+// well-formed UTF-8 and has a character beyond ASCII; any other line is in the system's code page.
 #pragma once
 
 #include <optional>
@@ -8,20 +8,21 @@
 
 namespace platform {
 
-// UTF-8 whose lines end in CR LF. In `bytes` a line ends at CR or CR LF, where there is no CR at
-// all at LF. A UTF-8 mark at the start is dropped. The last line stays without an end if it has
-// none.
+// Converts to UTF-8 with CR LF as line end. In `bytes`, lines end at CR or CR LF, or at LF if there
+// is no CR in the whole text. A byte order mark at the start is dropped. No line end is added to
+// the last line.
 std::string DecodeCodePage(std::string_view bytes);
 
-// The same, and the last line ends too.
+// DecodeCodePage, with a line end after the last line too.
 std::string DecodeLines(std::string_view bytes);
 
-// Lines that end in CR LF, as bytes that decode to the same text: in the code page where that can
-// spell them and they would not read as UTF-8, else as UTF-8.
+// Encodes lines that end in CR LF so that they decode to the same text. A line is written in the
+// code page, or as UTF-8 if the code page lacks one of its characters or the bytes would read as
+// UTF-8.
 std::string EncodeCodePage(std::string_view text);
 
-// One line in the system's code page, Windows-1252 where the system has none of its own, as UTF-8
-// and back. The latter gives nothing for a line with a character outside the code page.
+// Convert one line between the system's code page and UTF-8. The code page is Windows-1252 if the
+// system has none. ToSystemPage returns nothing if the code page lacks a character.
 std::string FromSystemPage(std::string_view bytes);
 std::optional<std::string> ToSystemPage(std::string_view text);
 

@@ -9,10 +9,10 @@
 namespace platform {
 namespace {
 
-// No system takes a longer path: what lies behind it is not tried as a part of the name.
+// No system accepts a longer path, so longer pieces are not tried as a name.
 constexpr std::size_t kLongestProgram = 4096;
 
-// The file that a program's name stands for, in the system's spelling.
+// The path of the program with this name, in the system's spelling.
 std::optional<std::string> FindProgram(std::string name) {
   if (name.empty()) return {};
   const auto slash = name.find_last_of("\\/");
@@ -58,7 +58,7 @@ Command MakeCommand(std::string program, std::string_view rest) {
 
 std::optional<Command> FindCommand(std::string_view commandLine) {
   const auto line = base::Trim(commandLine);
-  // The system's own texts end at a zero: it would run something else.
+  // The system stops reading at a zero byte, so it would run a different command.
   if (line.find('\0') != std::string_view::npos) return {};
   if (line.starts_with('"')) {
     const auto end = line.find('"', 1);

@@ -2,8 +2,8 @@
 
 namespace platform {
 
-// The environment as PrepareProgram found it, or today's if it was not called. The system never
-// frees the texts in it.
+// The environment at the time of PrepareProgram, or the present one if that was not called. Its
+// texts are never freed.
 char** FirstEnvironment();
 
 }  // namespace platform

@@ -6,8 +6,8 @@
 
 namespace platform {
 
-// For each of the names, the index of the first folder in which IsFile finds it, or the number of
-// folders. For many names at once: no folder is listed twice.
+// For each name, the index of the first folder that has a file of this name, or the number of
+// folders if none has. Each folder is listed at most once.
 std::vector<std::size_t> FirstFolderOfEach(const std::vector<std::string>& names,
                                            const std::vector<std::string>& folders);
 

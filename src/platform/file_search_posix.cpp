@@ -21,7 +21,7 @@ class Folder {
  public:
   explicit Folder(const std::string& path) : path_(SystemPath(path)) {}
 
-  // The exact spelling is tried first: mostly it spares listing the folder.
+  // The exact spelling is tried first, which usually avoids listing the folder.
   bool hasFile(const std::string& name) {
     struct stat status {};
     if (!IsPlainName(name)) return IsFile(Joined(path_, name));

@@ -8,16 +8,16 @@
 
 namespace platform {
 
-// The names in one folder as they stood when it was read, to be found in any letter case.
+// The names in one folder at the time it was read, searchable in any letter case.
 class FolderNames {
  public:
   explicit FolderNames(const std::string& folder);
 
-  // The name as the folder spells it, rather as given if there are several; nothing without one.
+  // The folder's spelling of the name, or null if it has none. An exact match is preferred.
   const char* find(std::string_view name) const;
 
  private:
-  std::string names_;                                           // each with a zero behind it
+  std::string names_;                                           // each followed by a zero
   std::vector<std::pair<std::uint32_t, std::uint32_t>> index_;  // hash, offset in names_
 };
 

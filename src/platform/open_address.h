@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Hands a web address to the system's opener. Nothing happens if there is none.
+// Opens a web address in the system's browser. Does nothing if there is none.
 void OpenAddress(const std::string& address);
 
 }  // namespace platform

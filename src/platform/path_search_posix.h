@@ -1,4 +1,4 @@
-// Finding a path on a system that minds letter case.
+// Finds paths in any letter case on a case-sensitive file system.
 #pragma once
 
 #include <string>

@@ -7,7 +7,7 @@
 
 namespace platform {
 
-// Fails with what the last system call left behind.
+// Throws a Failure with the text of errno if `success` is false.
 inline void Check(bool success) {
   if (!success) throw base::Failure(std::strerror(errno));
 }

@@ -1,5 +1,5 @@
-// Running other programs. A command line is one text: its first word, in quotes or not, is the
-// program. No shell sees it.
+// Runs other programs. A command line is one text whose first word, quoted or not, is the program.
+// No shell is involved.
 #pragma once
 
 #include <cstddef>
@@ -16,27 +16,28 @@ struct Command {
   std::vector<std::string> arguments;
 };
 
-// Finds the program of a command line. Without quotes it is the longest piece up to a blank that
-// names a file, so that none planted on the way to it can run. ".exe" is added where the name has
-// no ending; a bare name is looked for in the program's own folder, then in the working folder.
-// Arguments that are paths come in the system's spelling. Nothing if there is no such program.
+// Finds the program of a command line. Without quotes, the program is the longest piece up to a
+// space that names a file, so that a file with a shorter name on the same path can't run instead.
+// ".exe" is added to a name without an extension. A name without a path is looked for in the
+// program's own folder, then in the working folder. Arguments that are paths are converted to the
+// system's spelling. Returns nothing if there is no such program.
 std::optional<Command> FindCommand(std::string_view commandLine);
 
-// Runs the command to its end, without time limit, and gives the first 16 MB that it wrote to
-// standard output, as text. Standard error is dropped. Our end is also the command's. Throws if it
+// Runs the command to its end, without a time limit, and returns the first 16 MB of its standard
+// output as text. Standard error is dropped. The command is ended with this program. Throws if it
 // can't be started.
 std::string CaptureOutput(std::string_view commandLine, bool showWindow);
 
-// How much of a command's output is kept, in bytes.
+// How many bytes of a command's output are kept.
 inline constexpr std::size_t kMostOutput = 16U << 20U;
 
 inline constexpr int kStillActive = 259;
 
-// A program that runs on by itself: it outlives this object and this program.
+// A program that is started and left to itself: it outlives this object and this program.
 class StartedProcess {
  public:
-  // Starts the command minimised and without focus, where the system knows that; its output goes
-  // nowhere. Throws if it can't be started.
+  // Starts the command and drops its output. Its window opens minimised and without focus if the
+  // system supports that. Throws if it can't be started.
   explicit StartedProcess(std::string_view commandLine);
   ~StartedProcess();
   StartedProcess(const StartedProcess&) = delete;

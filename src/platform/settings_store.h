@@ -1,4 +1,4 @@
-// The desktop's per-user settings store: texts under application, section and key. Output only.
+// Writes texts to the desktop's per-user settings store, under application, section and key.
 #pragma once
 
 #include <memory>
@@ -9,8 +9,8 @@ namespace platform {
 class SettingsStore {
  public:
   explicit SettingsStore(const std::string& application);
-  // What was saved goes to the store here, which takes at most a second; a store that can't be
-  // written is no error.
+  // Writes everything that was saved, for at most a second. A store that can't be written is no
+  // error.
   ~SettingsStore();
   SettingsStore(const SettingsStore&) = delete;
   SettingsStore& operator=(const SettingsStore&) = delete;

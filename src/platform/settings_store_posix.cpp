@@ -24,8 +24,8 @@ struct SettingsStore::Native {
 SettingsStore::SettingsStore(const std::string& application)
     : native_(new Native{QString::fromStdString(application), {}}) {}
 
-// A pipe or another program's lock in the store's place holds up whoever writes to it. So a thread
-// of its own does, and is left to itself after a second.
+// Writing blocks if a pipe stands in place of the store's file or another program has locked it.
+// So a separate thread writes, and is left behind after a second.
 SettingsStore::~SettingsStore() {
   base::RunGuarded([this] {
     constexpr std::chrono::seconds kPatience(1);
@@ -41,7 +41,7 @@ SettingsStore::~SettingsStore() {
 
 void SettingsStore::save(const std::string& section, const std::string& key,
                          const std::string& value) {
-  // A separator in a key would open a section of its own.
+  // A separator in a key would create a section.
   const auto plainKey = QString::fromStdString(key)
                             .replace('/', QStringLiteral("%2F"))
                             .replace('\\', QStringLiteral("%5C"));

@@ -20,7 +20,7 @@ struct WorkingFolder {
 constexpr WorkingFolder kWorkingFolders[] = {
     {"roms", "ROMs"}, {"snaps", "Snaps"}, {"icons", "Icons"}, {"config", "Config"}};
 
-// One that can't be deleted stays; the next play reports what it says.
+// A log that can't be deleted stays where it is; the next play then shows its contents as a report.
 void DeleteStrayErrorLog(const std::string& appFolder) {
   base::RunGuarded([&] {
     auto log = platform::Joined(appFolder, core::kErrorLog);
@@ -28,8 +28,8 @@ void DeleteStrayErrorLog(const std::string& appFolder) {
   });
 }
 
-// Runs the emulator and finds the archives of its games. Fails with a message where the emulator is
-// missing or lists nothing; any other failure ends the step without a message.
+// Runs the emulator and finds the archives of its games. Sets loaded.failure if the emulator is
+// missing or lists nothing. Throws on any other failure.
 void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
   auto emulator = platform::Joined(appFolder, core::kEmulatorFile);
   if (!platform::FileExists(emulator)) {
@@ -49,7 +49,7 @@ void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
 
 Loaded Load(const std::string& appFolder) {
   Loaded loaded;
-  // Until it has been read. Even a start for which memory ran out must not cost the file.
+  // Assumed until the file has been read: a start that fails early must not cost the user the file.
   loaded.configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   base::RunGuarded([&] {
     loaded.configuration.Profiles[0] = core::DefaultProfile();

@@ -1,4 +1,4 @@
-// The whole road of a start, from the program's folder to what the main window shows.
+// The start of the program up to the point where the main window can be filled.
 #pragma once
 
 #include <future>
@@ -14,15 +14,15 @@ namespace startup {
 struct Loaded {
   config::Configuration configuration;
   core::GameListing listing;
-  std::optional<i18n::Message> failure;  // with which the program ends instead of starting
+  std::optional<i18n::Message> failure;  // if set, the program shows this message and ends
 };
 
-// Begins with the steps that need no window: the working folders, the configuration file, the
-// emulator's listing, the archives. Another thread does them where the system has one to spare; it
-// touches no shared state. No failure leaves it.
+// Starts the steps that need no window: working folders, configuration file, the emulator's
+// listing, archives. They run on another thread if the system can start one, and touch no shared
+// state. The future never throws.
 std::future<Loaded> BeginLoading(std::string appFolder);
 
-// The shared state as it is when nothing was loaded yet; AppFolder stays.
+// Sets the shared state, except AppFolder, to what it is before anything is loaded.
 void FillSharedState();
 
 // Moves what was loaded into the shared state.

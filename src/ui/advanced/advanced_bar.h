@@ -9,15 +9,15 @@
 
 namespace ui {
 
-// Which option a bar stands for, and where it stands.
+// The option that a bar edits, and the place of the bar.
 struct AdvancedBarPlan {
-  int index;  // of barraD
+  int index;  // in the control array barraD
   int frame;
   int left, top, width;  // twips
   const char* caption;
   core::Slot option;
   int minimum, maximum, start;
-  const char* unit;  // behind the value
+  const char* unit;  // shown after the value
 };
 
 // A scroll bar with its caption, its value and the ends of its range.
@@ -26,10 +26,10 @@ class AdvancedBar {
   AdvancedBar(forms::Frame& frame, const AdvancedBarPlan& plan);
 
   int frame() const { return plan_.frame; }
-  // From the option's value in force: the nearest end for a value outside the range; unchanged for
-  // a text that is no number.
+  // Shows the option's effective value, or the nearest end of the range for a value outside it. The
+  // bar stays where it is if the value is no number.
   void load();
-  // Leaves the bar's value for the next save.
+  // Stages the bar's value for the next save.
   void stage();
 
  private:
@@ -42,7 +42,7 @@ class AdvancedBar {
   forms::Label lblReferencia_, lblReferenciaEnd_;
 };
 
-// Leaves a value for the next save.
+// Sets the option's entry of StagedOptions, which the next save stores.
 void StageOption(core::Slot option, int value);
 
 }  // namespace ui

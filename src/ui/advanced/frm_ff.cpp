@@ -18,7 +18,7 @@ constexpr const char* kDescriptionText =
 constexpr int kLeft = 240, kMiddle = 3960, kHalf = 3480, kWhole = 7200;
 constexpr const char* kPercent = " %";
 
-// In the order in which the eye meets them.
+// In the order in which the Tab key visits them: by rows, from the left.
 constexpr std::array<AdvancedBarPlan, 11> kBars = {{
     {0, 0, kLeft, 870, kHalf, "Constant force:", core::option::DirectInputConstForceMax, 0, 200, 0,
      kPercent},

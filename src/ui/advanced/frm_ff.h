@@ -1,4 +1,4 @@
-// The advanced options: force feedback, keys and mouse. All its texts are in English.
+// The dialog of the advanced options: force feedback, keys and mouse. Its texts are not translated.
 #pragma once
 
 #include <memory>
@@ -15,7 +15,7 @@
 
 namespace ui {
 
-// OK leaves the values in StagedOptions, where they wait for the next save.
+// OK puts the values into StagedOptions; the next global save stores them.
 class frmFF : public forms::Form {
  public:
   frmFF();
@@ -28,7 +28,7 @@ class frmFF : public forms::Form {
   void optADV_Click(int index);
   void cmdSave_Click();
   void ShowFrame(int index);
-  // The frame of the force feedback that this opening loads and stages: 0 DirectInput, 1 XInput.
+  // The force feedback frame of the selected input system: 0 for DirectInput, 1 for the others.
   static int ForceFrame();
 
   forms::Frame frame[kFrames] = {{*this, "frame(0)", {128, 600, 7680, 4215}},

@@ -1,4 +1,5 @@
-// The third page: settings of one axis of one joystick. Its rows live in its list only.
+// The third page of the advanced options, which is disabled: settings of joystick axes. Nothing
+// saves the rows of its list.
 #pragma once
 
 #include "platform/forms/combo_box.h"

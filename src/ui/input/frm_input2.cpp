@@ -62,7 +62,7 @@ constexpr std::string_view kJoystickNames =
 
 struct Device {
   std::string_view names;
-  std::string_view prefix;  // without its "_"
+  std::string_view prefix;  // without the "_" behind it
 };
 
 constexpr Device kDevices[] = {

@@ -8,7 +8,8 @@
 
 namespace ui {
 
-// Leaves one token in InputChoice, or the empty text if the user left without choosing.
+// Sets InputChoice to the chosen token, or to the empty text if the user closes the dialog without
+// a choice.
 class frmInput2 : public forms::Form {
  public:
   frmInput2();

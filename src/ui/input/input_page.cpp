@@ -20,7 +20,7 @@ struct Group {
   Message caption;
 };
 
-// By the index of optTypeInputs.
+// Indexed like optTypeInputs.
 constexpr Group kGroupsOfInputs[] = {{30, 63, Message::Basics},
                                      {110, 127, Message::Gun},
                                      {64, 81, Message::Race},
@@ -63,7 +63,7 @@ void InputPage::LoadBindings() {
 void InputPage::StoreBindings() {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     Module1::Profiles[1].Slots[slot].Value = Module1::EffectiveValues[slot];
-  // In a game's scope this value may be the game's.
+  // In the scope of a game, the value under edit may be that game's own.
   if (Module1::OptionScope == core::kGlobalScope)
     Module1::Profiles[1].Slots[core::option::Crosshairs].Value =
         Module1::EffectiveValues[core::option::Crosshairs];
@@ -96,7 +96,7 @@ void InputPage::AddInputRow(const std::string& name, core::Slot slot,
 }
 
 void InputPage::cmbInputType_Click() {
-  // One game's options leave the bindings of all games alone.
+  // The bindings are global, so a dialog for one game must not rename them.
   if (Module1::OptionScope == core::kGlobalScope) {
     if (inputSystem() == core::kRawInput)
       ApplyRawInputNames();

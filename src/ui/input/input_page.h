@@ -17,16 +17,17 @@ namespace ui {
 
 class InputPage {
  public:
-  // `form` owns the dialogs that the page opens; the advanced options are centred over `main`.
+  // `form` owns the dialogs that the page opens. The advanced options open centred over `main`.
   InputPage(forms::Frame& frame, forms::Form& form, const forms::Form& main);
 
-  // Takes the bindings under edit from the Global row; the lists stay empty.
+  // Copies the bindings of the Global row to EffectiveValues. Does not fill the lists.
   static void LoadBindings();
-  // The input system's code; -1 for none. Selecting another fits the bindings to it.
+  // The number of the selected input system, -1 for none. Selecting a system renames the devices in
+  // the bindings under edit.
   int inputSystem() const { return cmbInputType.selectedRow(); }
   void SelectInputSystem(int code) { cmbInputType.select(code); }
   void FillInputLists();
-  // Copies the bindings under edit into the Global row.
+  // Copies the bindings of EffectiveValues to the Global row.
   static void StoreBindings();
   void ApplyLanguage();
 

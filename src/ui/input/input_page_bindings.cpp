@@ -1,4 +1,5 @@
-// The binding editor: four lists that act as one table, and what changes a cell.
+// The binding editor: four lists that scroll and select together as one table, and the changes of a
+// cell.
 #include "core/bindings.h"
 #include "i18n/message_catalogue.h"
 #include "platform/forms/message_box.h"
@@ -53,7 +54,7 @@ void InputPage::lstInput_Delete(int index) {
   const int row = lstInput[index].selectedRow();
   if (index == 0 || row < 0) return;
   if (core::IsNumeric(lstInput[1].text(row))) {
-    // A numeric row goes back to its off state and stays numeric.
+    // A numeric row is switched off instead of emptied: it has to stay numeric.
     if (index != 1) return;
     lstInput[1].setText(row, "0");
     ValueOfRow(row) = "0";

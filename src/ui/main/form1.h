@@ -1,4 +1,4 @@
-// The main window: the games, the selected one's picture and figures, the menus.
+// The main window: the list of games, the panel of the selected game, the menus.
 #pragma once
 
 #include <future>
@@ -21,15 +21,15 @@ class Form1 : public forms::Form {
  public:
   Form1();
 
-  // Takes over what was loaded and shows the window, or ends the program with a message instead.
+  // Waits for the loading and shows the window, or shows a message and ends the program.
   void Form_Load(std::future<startup::Loaded> loading);
-  // Lists the games of the selected filter and selects the first one.
+  // Fills the list with the games that pass the filter and selects the first one.
   void RefreshGameList();
 
  private:
   void Form_Unload();
   void AbortWith(const std::string& message);
-  // The buttons of message boxes, in the current language.
+  // Sets the captions of message box buttons in the current language.
   static void NameAnswers();
 
   // List and panel.
@@ -55,7 +55,7 @@ class Form1 : public forms::Form {
   void mExit_Click();
 
   bool Aborting = false;
-  frmGaming* gaming_ = nullptr;  // while it is open
+  frmGaming* gaming_ = nullptr;  // set while the in-game window is open
 
   forms::Label lblGameTitle{
       *this, "lblGameTitle", {720, 120, 10095, 495}, "KESTRIVANE UI®", {18, true}};

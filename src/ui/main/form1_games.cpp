@@ -19,7 +19,7 @@ using forms::Picture;
 using i18n::Message;
 using i18n::Msg;
 
-// The path of the game's archive; of one that isn't there its name and where it was looked for.
+// The path of the game's archive, or if it is missing its name and the folders that were searched.
 std::string ArchiveTip(const core::GameEntry& game) {
   auto tip = game.RomName + ".zip";
   if (game.Available)

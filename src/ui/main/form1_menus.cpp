@@ -1,4 +1,4 @@
-// What the menus do, and the language of the main window.
+// The actions of the menus, and the captions in the current language.
 #include "base/error_boundary.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"
@@ -19,7 +19,7 @@ std::string MainTitle() {
   return "Kestrivane UI®  (Kestrivane " + Module1::EmulatorVersion + Msg(Message::Detected);
 }
 
-// The menu's order is not that of the languages' numbers.
+// The number of the language that each item of the menu selects.
 constexpr unsigned char kLanguageOfItem[] = {0, 2, 1};
 
 }  // namespace

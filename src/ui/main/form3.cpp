@@ -34,7 +34,7 @@ void Form3::Form_Load() {
                     Msg(Message::Build) + " " + base::PaddedNumber(core::kRevision, 3) + ")");
   Image1.setPicture(forms::Picture::ProgramIcon(Image1.box().width));
   lblCredits.setCaption(Msg(Message::Credits));
-  // Nothing in the box takes the focus.
+  // No control takes the focus, so a screen reader would speak none of these texts.
   setDescription(Label4.caption() + "\n" + lblCredits.caption() + "\n" + Label3.caption());
 }
 

@@ -1,4 +1,4 @@
-// What the emulator reported of a run that failed.
+// Shows the report of the emulator after a failed run.
 #pragma once
 
 #include "platform/forms/form.h"

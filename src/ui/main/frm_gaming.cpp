@@ -75,7 +75,7 @@ void frmGaming::Form_Activate() {
   close();
 }
 
-// The window stays, painted anew once a second.
+// Keeps the window open and repaints it once a second.
 void frmGaming::PauseAfterGoodEnd() {
   for (int second = 0; second < kGoodEndSeconds; ++second) {
     forms::DoEvents();
@@ -83,7 +83,7 @@ void frmGaming::PauseAfterGoodEnd() {
   }
 }
 
-// At the start and once a minute: each second would be chatter.
+// Tells screen readers the time at the start and once a minute; every second would be too much.
 void frmGaming::Describe() {
   const auto minute = platform::SecondsSince(StartTime) / 60;
   if (minute == describedMinute_) return;

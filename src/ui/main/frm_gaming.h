@@ -13,11 +13,12 @@ namespace ui {
 
 class frmGaming : public forms::Form {
  public:
-  // Stands over `main`, which is painted anew after a report, with the title and icon of a game.
+  // Shows the title and icon of a game. `main` is repainted after a report has covered it.
   frmGaming(forms::Form& main, const std::string& title, const forms::Picture& icon);
 
  private:
-  // The whole play, from the emulator's start to its report. The window is closed at its end.
+  // Runs the whole play: starts the emulator, waits, counts the play, shows a report, closes the
+  // window.
   void Form_Activate();
   std::string KeysText() const;
   void PauseAfterGoodEnd();

@@ -24,7 +24,7 @@ constexpr int kMaxFolders = 3;
 constexpr core::FolderList* kFolderLists[kFirstShaderList] = {
     &Module1::RomPaths, &Module1::SnapPaths, &Module1::IconPaths};
 constexpr core::Slot kShaders[] = {core::option::FragmentShader, core::option::VertexShader};
-// In the list's size it would not fit in every language.
+// The hint is too long for the list's own font in some languages.
 constexpr forms::FontStyle kHint{8.25, true, false, false, 95};
 constexpr forms::Colour kRed{255, 0, 0};
 
@@ -90,7 +90,8 @@ void FoldersPage::lstFolders_Click(int index) {
 }
 
 void FoldersPage::cmdAddPath_Click(int index) {
-  // Where the loading did not come so far, nothing that the user can't see must go.
+  // If the load step did not get here, the stored folders are not shown yet. A save would drop
+  // them.
   if (!filled_) Fill();
   if (!cmdAddPath[index].enabled()) return;
   if (index < kFirstShaderList)
@@ -122,10 +123,11 @@ void FoldersPage::StartFileChoice(int index) {
   auto& list = lstFolders[index];
   list.setFont(kHint);
   list.setTextColour(kRed);
-  list.setBackColour(forms::kWhite);  // red can't be read on a dark desktop's colour
+  list.setBackColour(forms::kWhite);  // red is unreadable on the background of a dark desktop
   list.clear();
   list.add(Msg(Message::ShaderHint));
-  // First, since the focus would go on to the list from a button that is disabled.
+  // The file list takes the focus before the button is disabled; else the focus would move to
+  // lstFolders.
   File1.setVisible(true);
   File1.selectFirst();
   File1.setFocus();

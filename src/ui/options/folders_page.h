@@ -23,16 +23,17 @@ class FoldersPage {
  public:
   explicit FoldersPage(forms::Frame& frame);
 
-  // The folders from the shared state, the shaders from the options in force.
+  // Shows the folders of the shared state and the effective shader options.
   void Fill();
-  // One game's options have no folders of their own.
+  // Hides the folder lists, which a game's options don't have.
   void HideFolders();
-  // What a save makes of the lists; those that were never filled nor touched are left out.
+  // Store or return the contents of the lists, without those that were neither filled nor changed.
   void StoreFolders();
   std::vector<std::pair<core::Slot, std::string>> StagedShaders() const;
   void ApplyLanguage();
 
-  // While a shader file is being chosen the rest of the dialog is locked.
+  // Called with false when the choice of a shader file begins, which locks the rest of the dialog,
+  // and with true when it ends.
   std::function<void(bool enabled)> onEnable;
 
  private:

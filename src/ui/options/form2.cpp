@@ -13,7 +13,8 @@ using i18n::Msg;
 
 namespace {
 
-// A value that a control can't take ends the loading, so the order tells what is there then.
+// A value that a control can't take ends the load step, so this order decides which options are
+// loaded by then.
 constexpr core::Slot kLoadOrder[] = {core::option::EmulateSound, core::option::EmulateDSB,
                                      core::option::FlipStereo,   core::option::ShowFrameRate,
                                      core::option::FullScreen,   core::option::WideScreen,
@@ -56,7 +57,7 @@ Form2::Form2(const forms::Form& main)
 }
 
 void Form2::Form_Load() {
-  // Whatever comes of the loading: one game's options must not be taken for those of all.
+  // First, since the rest may fail and a game's options must never look like the global ones.
   if (!isGlobal()) ShowAsOneGame();
   bool inList = false;
   base::RunGuarded([&] {
@@ -70,7 +71,7 @@ void Form2::Form_Load() {
 }
 
 void Form2::FillControls() {
-  // A save compares with the global values, also where the loading ends early.
+  // First, since a save compares with the global values even if the loading ends early.
   for (core::Slot slot = 0; slot < core::kGeneralSlotCount; ++slot)
     if (slot < core::kFirstAdvancedSlot || slot >= core::kPerGameSlots)
       core::RecordGlobalValue(slot);

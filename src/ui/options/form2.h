@@ -1,5 +1,5 @@
-// The options dialog, for all games or for one: its scope, the order of loading, saving, restoring.
-// What stands on a page belongs to the page's own class.
+// The options dialog, global or for one game: scope, load order, saving, restoring. The controls of
+// a page belong to the class of that page.
 #pragma once
 
 #include <vector>
@@ -21,7 +21,7 @@ namespace ui {
 
 class Form2 : public forms::Form {
  public:
-  // `main` is what the advanced options are centred over.
+  // The advanced options open centred over `main`.
   explicit Form2(const forms::Form& main);
 
  private:
@@ -45,7 +45,7 @@ class Form2 : public forms::Form {
   static core::Profile* RowInHand();
   void lblGameDef_Click();
 
-  // The frames come first: what is built later lies above them.
+  // The frames come first, because later controls lie above earlier ones.
   forms::Frame frmOPT[kPages] = {{*this, "frmOPT(0)", {128, 600, 7680, 4215}},
                                  {*this, "frmOPT(1)", {128, 600, 7680, 4215}},
                                  {*this, "frmOPT(2)", {128, 600, 7680, 4215}},
@@ -66,7 +66,7 @@ class Form2 : public forms::Form {
   InputPage input_;
   MachinePage machine_{frmOPT[3]};
   FoldersPage folders_{frmOPT[4]};
-  std::vector<OptionControl> options_;  // of all pages, in the order of loading
+  std::vector<OptionControl> options_;  // of all pages, in load order
 };
 
 }  // namespace ui

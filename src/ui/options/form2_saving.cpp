@@ -1,5 +1,5 @@
-// Saving the dialog: controls into values, values into the right row, the row into the file; and
-// dropping the row of a game.
+// Saving and restoring: stages the values of the controls, stores them in the row of the scope,
+// writes the file; restoring removes the row of a game.
 #include <utility>
 
 #include "config/config_writer.h"
@@ -22,8 +22,8 @@ void Form2::cmdSave_Click() {
   close();
 }
 
-// The slots for which the save has a value: what the loading did not reach and the user did not
-// touch is left as it was.
+// Fills StagedOptions and returns the slots that the save stores. Controls that the loading did not
+// reach and the user did not change are left out, so that their options stay as they are.
 std::vector<core::Slot> Form2::StageOptions() {
   std::vector<core::Slot> staged;
   const auto stage = [&](core::Slot slot, std::string value) {
@@ -36,7 +36,7 @@ std::vector<core::Slot> Form2::StageOptions() {
   const auto [width, height] = video_.StagedResolution();
   stage(core::option::XResolution, width);
   stage(core::option::YResolution, height);
-  // What the advanced dialog left waits for the options of all games.
+  // The values that the advanced dialog staged are stored by a global save.
   for (auto slot = core::kFirstAdvancedSlot; slot < core::kPerGameSlots; ++slot)
     if (isGlobal() && !Module1::StagedOptions[slot].empty()) staged.push_back(slot);
   return staged;
@@ -57,7 +57,7 @@ void Form2::StoreOptions(const std::vector<core::Slot>& staged) {
   }
 }
 
-// Nothing for a game that the file can't hold a row of.
+// The row that the save writes to. Null for a game that the configuration file can't hold.
 core::Profile* Form2::RowInHand() {
   if (isGlobal()) return &Module1::Profiles[1];
   const auto& name = game().RomName;

@@ -14,7 +14,7 @@ MachinePage::MachinePage(forms::Frame& frame) : frame_(frame) {
 
 std::vector<OptionControl> MachinePage::options() {
   auto multiThreaded = ForOption(core::option::MultiThreaded, chkMulti);
-  // An emulator too old to know the option must not find it in its file.
+  // An old emulator does not know the option, so it must not be written to its file.
   multiThreaded.staged = [this] {
     return chkMulti.enabled() ? std::to_string(chkMulti.value()) : std::string();
   };

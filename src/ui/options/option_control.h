@@ -1,4 +1,4 @@
-// A control of a page that stands for one option.
+// Connects one control of a page with the option that it edits.
 #pragma once
 
 #include <functional>
@@ -10,14 +10,14 @@ namespace ui {
 
 struct OptionControl {
   core::Slot option;
-  std::function<void(int value)> load;  // fails for a value that the control can't take
-  std::function<std::string()> staged;  // what a save makes of the control
+  std::function<void(int value)> load;  // throws for a value that the control can't show
+  std::function<std::string()> staged;  // the value that a save would store
 
   bool loaded = false;
-  std::string stagedAtFirst;  // when the dialog opened
+  std::string stagedAtFirst;  // the value of staged() when the dialog opened
 
-  // False while the control shows neither the option's value nor a choice of the user, since the
-  // loading did not reach it: a save then leaves the option as it was.
+  // False if the loading did not reach the control and the user did not change it. A save then
+  // leaves the option as it is.
   bool hasValueToStore() const { return loaded || staged() != stagedAtFirst; }
 };
 

@@ -45,7 +45,7 @@ void VideoPage::FillCustomResolution() {
 
 std::pair<std::string, std::string> VideoPage::StagedResolution() const {
   if (chkCustRes.value() != 0) {
-    // A box may show less than the option holds.
+    // A box shows four characters. An option that is longer must not be cut by a save.
     const auto staged = [](const forms::TextBox& box, const std::string& shown, core::Slot option) {
       return box.text() == shown && !shown.empty() ? core::EffectiveValue(option) : box.text();
     };

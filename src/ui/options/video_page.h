@@ -20,11 +20,11 @@ class VideoPage {
   explicit VideoPage(forms::Frame& frame);
 
   void FillResolutions();
-  // Chooses the pair in force in the list; false if it is not there.
+  // Selects the effective resolution in the list. Returns false if the list does not have it.
   bool SelectResolution();
-  // Shows the pair in force as one of the user's own.
+  // Shows the effective resolution in the custom boxes.
   void FillCustomResolution();
-  // Width and height as a save makes them of the controls.
+  // The width and height that a save would store.
   std::pair<std::string, std::string> StagedResolution() const;
 
   std::vector<OptionControl> options();
@@ -36,7 +36,7 @@ class VideoPage {
   void chkCustRes_Click();
 
   forms::Frame& frame_;
-  std::pair<std::string, std::string> shown_;  // in the boxes, when the dialog opened
+  std::pair<std::string, std::string> shown_;  // contents of the boxes when the dialog opened
 
   forms::Label Label7{frame_, "Label7", {240, 420, 1215, 375}, "Resolution:", kText};
   forms::ComboBox cmbRes{frame_, "cmbRes", {1560, 360, 1575, 360}, kText};

@@ -1,4 +1,4 @@
-// What the pages of Form2 are written in.
+// The fonts of the pages of Form2.
 #pragma once
 
 #include "platform/forms/control.h"

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-// Asks whether defaults are really wanted. They are not where the window that asks has closed while
-// its question went: what it showed may be another's by then.
+// Asks the user whether to restore defaults. A Yes does not count if the asking window has closed
+// meanwhile: the scope may have changed by then.
 bool AskForDefaults(const forms::Form& asking);
 
 }  // namespace ui
