@@ -1,6 +1,7 @@
 #include "bench_data.h"
 
 #include <filesystem>
+#include <functional>
 
 #include "core/module1.h"
 #include "startup/startup.h"

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QTimer>
+#include <algorithm>
 
 #include "bench_data.h"
 #include "config/config_writer.h"

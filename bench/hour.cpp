@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <thread>

@@ -1,6 +1,7 @@
 // The configuration file: what was read from any bytes, written and read again is what the format
 // can hold of it, and the file settles. Games of any name can be played in between.
 #include <algorithm>
+#include <array>
 
 #include "base/error_boundary.h"
 #include "config/config_reader.h"

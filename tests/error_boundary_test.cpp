@@ -1,5 +1,7 @@
 #include "base/error_boundary.h"
 
+#include <stdexcept>
+
 #include <gtest/gtest.h>
 
 namespace base {

@@ -1,5 +1,7 @@
 // The list of games, its filter, and the panel of the selected game.
 #include <QImageWriter>
+#include <cstdint>
+#include <cstdlib>
 
 #include "platform/code_page.h"
 #include "platform/files.h"

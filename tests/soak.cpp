@@ -7,6 +7,7 @@
 #include <QTextBrowser>
 #include <QTimer>
 #include <QWheelEvent>
+#include <functional>
 #include <random>
 
 #include "config/config_reader.h"

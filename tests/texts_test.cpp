@@ -1,5 +1,6 @@
 // All that makes a text out of a text, by the rows of texts.tsv.
 #include <fstream>
+#include <functional>
 #include <map>
 
 #include "base/error_boundary.h"

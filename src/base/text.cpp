@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <system_error>
 #include <utility>
 
 #include "base/failure.h"

@@ -1,6 +1,7 @@
 #include "config/config_reader.h"
 
 #include <array>
+#include <vector>
 
 #include "base/error_boundary.h"
 #include "base/failure.h"

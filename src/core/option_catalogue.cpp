@@ -1,6 +1,7 @@
 #include "core/option_catalogue.h"
 
 #include <array>
+#include <string>
 
 #include "base/text.h"
 

@@ -1,6 +1,7 @@
 #include "launch/play_launch.h"
 
 #include <array>
+#include <string>
 
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"

@@ -1,5 +1,10 @@
 #include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "base/text.h"
 #include "platform/app_folder.h"

@@ -5,8 +5,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "platform/files.h"
 #include "platform/open_file_posix.h"

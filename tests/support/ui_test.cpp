@@ -1,5 +1,6 @@
 #include "support/ui_test.h"
 
+#include <QAbstractButton>
 #include <QHelpEvent>
 #include <QRegularExpression>
 #include <QTimer>
@@ -7,6 +8,8 @@
 #include <QWheelEvent>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <memory>
 
 #include "base/text.h"
 #include "platform/forms/application.h"

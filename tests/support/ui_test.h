@@ -7,6 +7,9 @@
 #include <QMap>
 #include <QMessageBox>
 #include <QTest>
+#include <functional>
+#include <memory>
+#include <stdexcept>
 
 #include "support/temp_app.h"
 #include "ui/main/form1.h"

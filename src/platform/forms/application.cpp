@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QPalette>
 #include <QTimer>
+#include <chrono>
 #include <cstdlib>
 
 #include "platform/clock.h"

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <array>
+#include <string>
 
 #include "base/failure.h"
 #include "platform/forms/native.h"

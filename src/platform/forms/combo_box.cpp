@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <string>
 
 #include "base/failure.h"
 #include "platform/forms/native.h"

@@ -1,6 +1,7 @@
 #include "platform/forms/command_button.h"
 
 #include <QPushButton>
+#include <string>
 
 #include "platform/forms/native.h"
 

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QWidget>
 #include <map>
+#include <memory>
 
 #include "platform/forms/accessible_text.h"
 

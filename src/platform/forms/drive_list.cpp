@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QStorageInfo>
 #include <algorithm>
+#include <string>
+#include <utility>
 
 #include "base/error_boundary.h"
 #include "platform/files.h"

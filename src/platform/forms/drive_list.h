@@ -2,6 +2,8 @@
 
 #include "platform/forms/combo_box.h"
 
+#include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 

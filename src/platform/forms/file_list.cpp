@@ -1,6 +1,7 @@
 #include "platform/forms/file_list.h"
 
 #include <QWidget>
+#include <string>
 
 #include "base/error_boundary.h"
 #include "platform/files.h"

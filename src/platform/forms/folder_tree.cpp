@@ -8,6 +8,7 @@
 #include <QTreeWidget>
 #include <algorithm>
 #include <filesystem>
+#include <string>
 
 #include "base/error_boundary.h"
 #include "platform/files.h"

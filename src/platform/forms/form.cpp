@@ -12,7 +12,9 @@
 #include <QScreen>
 #include <QThread>
 #include <QWindow>
+#include <chrono>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "platform/forms/native.h"

@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QTextLayout>
 #include <algorithm>
+#include <string>
 
 #include "platform/forms/native.h"
 

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QPointer>
+#include <memory>
 #include <utility>
 #include <vector>
 

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <string>
 
 #include "base/error_boundary.h"
 #include "base/failure.h"

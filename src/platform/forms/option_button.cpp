@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QToolButton>
 #include <algorithm>
+#include <string>
 
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"

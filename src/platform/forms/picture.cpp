@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QImageReader>
 #include <QPixmap>
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 

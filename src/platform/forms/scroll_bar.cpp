@@ -2,6 +2,7 @@
 
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <string>
 
 #include "base/failure.h"
 #include "platform/forms/control_accessible.h"

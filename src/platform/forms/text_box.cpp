@@ -3,6 +3,8 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QValidator>
+#include <algorithm>
+#include <string>
 
 #include "platform/forms/native.h"
 

@@ -1,6 +1,7 @@
 #include "platform/forms/text_view.h"
 
 #include <QPlainTextEdit>
+#include <string>
 
 #include "platform/forms/native.h"
 

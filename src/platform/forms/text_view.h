@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/forms/control.h"
 
 namespace forms {

@@ -1,6 +1,8 @@
 #include "ui/input/frm_input2.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/text.h"
 #include "core/module1.h"

@@ -1,5 +1,7 @@
 // The binding editor: four lists that scroll and select together as one table, and the changes of a
 // cell.
+#include <string>
+
 #include "core/bindings.h"
 #include "i18n/message_catalogue.h"
 #include "platform/forms/message_box.h"

@@ -1,5 +1,6 @@
 #include "ui/main/form1.h"
 
+#include <string>
 #include <utility>
 
 #include "base/error_boundary.h"

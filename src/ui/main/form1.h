@@ -2,6 +2,7 @@
 #pragma once
 
 #include <future>
+#include <string>
 
 #include "core/module1.h"
 #include "platform/forms/command_button.h"

@@ -1,4 +1,7 @@
 // The actions of the menus, and the captions in the current language.
+#include <string>
+#include <utility>
+
 #include "base/error_boundary.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"

@@ -1,5 +1,7 @@
 #include "ui/main/form3.h"
 
+#include <string>
+
 #include "base/text.h"
 #include "core/version.h"
 #include "i18n/message_catalogue.h"

@@ -1,6 +1,7 @@
 #include "ui/options/audio_page.h"
 
 #include <cstdlib>
+#include <string>
 
 #include "i18n/message_catalogue.h"
 #include "platform/forms/form.h"

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "config/writable_names.h"
+#include "core/module1.h"
 #include "platform/forms/command_button.h"
 #include "platform/forms/drive_list.h"
 #include "platform/forms/file_list.h"

@@ -1,6 +1,8 @@
 // Saving and restoring: stages the values of the controls, stores them in the row of the scope,
 // writes the file; restoring removes the row of a game.
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "config/config_writer.h"
 #include "config/user_settings.h"

@@ -1,5 +1,7 @@
 #include "ui/options/machine_page.h"
 
+#include <string>
+
 #include "i18n/message_catalogue.h"
 
 namespace ui {
