@@ -1,7 +1,7 @@
 # Run at installing: copies the toolkit that PROGRAM needs, its plugins for displays, input methods and
-# pictures, what these need and the licences of all, into FOLDER. QMAKE is asked where
-# plugins are. Left out is what belongs to the machine and its display: the C and C++ runtimes, the X,
-# Wayland and OpenGL libraries, fonts.
+# pictures, and what these need into FOLDER, with the licences of all and a list of their source
+# packages. QMAKE is asked where plugins are. Left out is what belongs to the machine and its display:
+# the C and C++ runtimes, the X, Wayland and OpenGL libraries, fonts.
 set(OF_THE_MACHINE
   "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|gcc_s|stdc\\+\\+)\\.so"
   "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|GL|GLX|EGL|OpenGL|GLdispatch|drm|gbm|wayland-.*)\\.so"
@@ -9,11 +9,18 @@ set(OF_THE_MACHINE
 
 execute_process(COMMAND "${QMAKE}" -query QT_INSTALL_PLUGINS
   OUTPUT_VARIABLE PLUGIN_FOLDER OUTPUT_STRIP_TRAILING_WHITESPACE)
-file(GLOB MODULES
-  "${PLUGIN_FOLDER}/platforms/libqxcb.so" "${PLUGIN_FOLDER}/platforms/libqwayland-generic.so"
-  "${PLUGIN_FOLDER}/wayland-decoration-client/*.so"
-  "${PLUGIN_FOLDER}/wayland-shell-integration/libxdg-shell.so"
-  "${PLUGIN_FOLDER}/platforminputcontexts/*.so" "${PLUGIN_FOLDER}/imageformats/libq[ij]*.so")
+set(NEEDED_PLUGINS
+  platforms/libqxcb.so platforms/libqwayland-generic.so wayland-shell-integration/libxdg-shell.so
+  imageformats/libqico.so imageformats/libqjpeg.so)
+list(TRANSFORM NEEDED_PLUGINS PREPEND "${PLUGIN_FOLDER}/")
+foreach(PLUGIN ${NEEDED_PLUGINS})
+  if(NOT EXISTS "${PLUGIN}")
+    message(FATAL_ERROR "Not found: ${PLUGIN}\n`tools/install.sh package` installs what it takes.")
+  endif()
+endforeach()
+file(GLOB MORE_PLUGINS
+  "${PLUGIN_FOLDER}/wayland-decoration-client/*.so" "${PLUGIN_FOLDER}/platforminputcontexts/*.so")
+set(MODULES ${NEEDED_PLUGINS} ${MORE_PLUGINS})
 file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${PROGRAM} MODULES ${MODULES}
   RESOLVED_DEPENDENCIES_VAR NEEDED UNRESOLVED_DEPENDENCIES_VAR MISSING
   PRE_EXCLUDE_REGEXES ${OF_THE_MACHINE})
@@ -32,11 +39,12 @@ foreach(PLUGIN ${MODULES})
   configure_file("${PLUGIN}" "${FOLDER}/plugins/${NAME}" COPYONLY)
 endforeach()
 
-# Debian keeps a package's licence in its documentation.
+# Debian keeps a package's licence in its documentation, and knows the source that it was built from.
 foreach(LIBRARY ${NEEDED} ${MODULES})
   get_filename_component(FILE "${LIBRARY}" REALPATH)
-  get_filename_component(NAME "${FILE}" NAME)
-  execute_process(COMMAND dpkg-query --search "*/${NAME}" OUTPUT_VARIABLE PACKAGE ERROR_QUIET)
+  # A package may name a file of /usr/lib by /lib.
+  string(REGEX REPLACE "^/usr" "" NAME "${FILE}")
+  execute_process(COMMAND dpkg-query --search "*${NAME}" OUTPUT_VARIABLE PACKAGE ERROR_QUIET)
   string(REGEX REPLACE "[:\n].*" "" PACKAGE "${PACKAGE}")
   set(LICENCE "/usr/share/doc/${PACKAGE}/copyright")
   if(NOT PACKAGE OR NOT EXISTS "${LICENCE}")
@@ -44,4 +52,11 @@ foreach(LIBRARY ${NEEDED} ${MODULES})
   endif()
   get_filename_component(LICENCE "${LICENCE}" REALPATH)
   configure_file("${LICENCE}" "${FOLDER}/licences/${PACKAGE}.txt" COPYONLY)
+  execute_process(COMMAND dpkg-query --show "--showformat=\${source:Package} \${source:Version}\n"
+    "${PACKAGE}" OUTPUT_VARIABLE SOURCE COMMAND_ERROR_IS_FATAL ANY)
+  list(APPEND SOURCES "${SOURCE}")
 endforeach()
+list(SORT SOURCES)
+list(REMOVE_DUPLICATES SOURCES)
+list(JOIN SOURCES "" SOURCES)
+file(WRITE "${FOLDER}/licences/sources.txt" "${SOURCES}")

@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing for the tasks named: build, demo, display, test,
-# windows (the logic's tests under wine), qt-windows, fuzz, tidy, spoken, contrast, bench. Where
+# Installs the Debian packages that are missing for the tasks named: build, package (the archive with
+# Qt), demo, display, test, windows (the logic's tests under wine), qt-windows, fuzz, tidy, spoken,
+# contrast, bench. Where
 # nothing can be installed it names them in one line, and fails.
 set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build qt6-base-dev"
+    [package]="qt6-wayland"
     [demo]="fonts-dejavu-core imagemagick"
     [display]="xvfb openbox xdotool procps"
     [test]="fonts-dejavu-core libgtest-dev"

@@ -1,6 +1,8 @@
 # What is installed, and the archives that cpack makes of it: the program alone, and on Linux also with
 # the toolkit. All goes into one folder, the emulator's, where other files of these kinds may be.
 function(install_program) # options of each installation
+  # As `cmake --install --strip` does; a debugger still wants the names.
+  install(CODE "set(CMAKE_INSTALL_DO_STRIP ON)" CONFIGURATIONS Release MinSizeRel ${ARGN})
   install(TARGETS KestrivaneUI RUNTIME DESTINATION . ${ARGN})
   install(FILES LICENSE DESTINATION . RENAME KestrivaneUI-LICENSE.txt ${ARGN})
   if(WIN32)
@@ -20,15 +22,17 @@ set(CPACK_COMPONENTS_ALL program)
 set(CPACK_ARCHIVE_PROGRAM_FILE_NAME "KestrivaneUI-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}")
 
 if(CMAKE_SYSTEM_NAME STREQUAL Linux)
-  # The loader looks here first, for the needs of the libraries in it too.
-  set(TOOLKIT KestrivaneUI-Qt)
-  set_target_properties(KestrivaneUI PROPERTIES INSTALL_RPATH "$ORIGIN/${TOOLKIT}")
+  # The loader looks here first, for the needs of the libraries in it too, and the program for its
+  # plugins (application.cpp). The version keeps a program from libraries that an archive with another
+  # toolkit left here: it takes the system's then.
+  set(TOOLKIT KestrivaneUI-Qt-${Qt6_VERSION})
+  # The same before it is installed: to make room for another path, CMake would lengthen it by empty
+  # entries, and the loader takes those for the working folder.
+  set_target_properties(KestrivaneUI PROPERTIES
+    INSTALL_RPATH "$ORIGIN/${TOOLKIT}" INSTALL_RPATH_USE_LINK_PATH ON BUILD_WITH_INSTALL_RPATH ON)
   target_link_options(KestrivaneUI PRIVATE -Wl,--disable-new-dtags)
-  set(SETTINGS "${CMAKE_CURRENT_BINARY_DIR}/qt.conf")
-  file(WRITE "${SETTINGS}" "[Paths]\nPrefix=${TOOLKIT}\nPlugins=plugins\n")
 
   install_program(COMPONENT bundle EXCLUDE_FROM_ALL)
-  install(FILES "${SETTINGS}" DESTINATION . COMPONENT bundle EXCLUDE_FROM_ALL)
   install(CODE "
     set(PROGRAM \"$<TARGET_FILE:KestrivaneUI>\")
     set(QMAKE \"$<TARGET_FILE:Qt6::qmake>\")
@@ -49,5 +53,4 @@ set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
 set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-set(CPACK_STRIP_FILES ON)
 include(CPack)

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QHelpEvent>
 #include <QPalette>
@@ -9,6 +10,7 @@
 #include <chrono>
 #include <cstdlib>
 
+#include "platform/app_folder.h"
 #include "platform/clock.h"
 #include "platform/forms/control_accessible.h"
 #include "platform/forms/list_accessible.h"
@@ -20,6 +22,14 @@ static void LoadAssets() { Q_INIT_RESOURCE(assets); }
 namespace forms {
 
 namespace {
+
+// The loader takes the toolkit from this folder of ours where there is one of the version that the
+// program was built with; its plugins must come from there too, and only from there.
+void UseBundledPlugins() {
+  const QDir plugins(QString::fromStdString(platform::ProgramFolder()) +
+                     QStringLiteral("/KestrivaneUI-Qt-" QT_VERSION_STR "/plugins"));
+  if (plugins.exists()) QCoreApplication::setLibraryPaths({plugins.path()});
+}
 
 // A wait during which assistive technology is answered, but nothing that a person does is obeyed.
 void SleepAnswering(std::chrono::milliseconds time) {
@@ -108,8 +118,10 @@ struct Application::Native {
   Rules rules;
 };
 
-Application::Application() : native_(std::make_unique<Native>()) {
+Application::Application() {
   LoadAssets();
+  UseBundledPlugins();
+  native_ = std::make_unique<Native>();
   QApplication::instance()->installEventFilter(&native_->rules);
   QApplication::setPalette(WithReadableSelection(QApplication::palette()));
   MakeControlsAccessible();

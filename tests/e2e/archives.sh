@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Unpacks the archives for Linux over each other in every order, also over what older ones left, and
+# starts what stands then. Each start has to take the toolkit of one place, plugins too.
+# Usage: archives.sh BUILD_FOLDER [OLDER_ARCHIVE...]   (after `cpack` in the build folder)
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/../../tools/front_end.sh"
+
+build=$(realpath "$1")
+older=("${@:2}")
+plain=$(ls "$build"/KestrivaneUI-*-Linux.tar.gz)
+bundle=$(ls "$build"/KestrivaneUI-*-Linux-with-Qt.tar.gz)
+app="$work/Jögos & mais"
+toolkit=$(tar -tzf "$bundle" | sed -n 's|^\(KestrivaneUI-Qt-[^/]*\)/$|\1|p')
+
+# What the archives of before had: libraries under one name for all versions, and a file that leads to
+# them. These can't be loaded, so whoever takes them doesn't start.
+leave_remains() { # folder
+    mkdir -p "$1/plugins/platforms"
+    touch "$1"/libQt6{Core,Gui,Widgets,DBus,XcbQpa}.so.6 "$1/plugins/platforms/libqxcb.so"
+    printf '[Paths]\nPrefix=%s\nPlugins=plugins\n' "$(basename "$1")" >"$app/qt.conf"
+}
+
+# What the running program took from its own folder of the toolkit and its plugin for the display.
+taken() { sed -n "s|.* $app/||p" "/proc/$front_end/maps" | grep -E '/(libQt6Core|libqxcb)\.so' | sort -u; }
+
+check() { # where the toolkit comes from: "system" or "folder"; archives...
+    local place=$1 expected=
+    shift
+    for archive in "$@"; do tar -xzf "$archive" -C "$app"; done
+    echo "$(printf '%s, ' "${@##*/}")with the toolkit of the $place"
+    start_to_main_window "$app"
+    [[ $place == system ]] ||
+        expected=$(printf '%s\n' "$toolkit/libQt6Core.so.6" "$toolkit/plugins/platforms/libqxcb.so")
+    [[ $(taken) == "$expected" ]] || fail "from the program's folder: $(taken)"
+    press Escape
+    expect_end 0
+}
+
+fresh() { lay_out "$app" /dev/null "$build/standin/Kestrivane.exe"; }
+
+start_display "$work" || fail "no display"
+fresh; check system "$plain"; check folder "$bundle"; check folder "$plain"
+fresh; leave_remains "$app/KestrivaneUI-Qt"; check system "$plain"; check folder "$bundle"
+fresh; leave_remains "$app/KestrivaneUI-Qt-6.0.0"; check system "$plain"; check folder "$bundle"
+for archive in "${older[@]}"; do
+    fresh; check system "$archive" "$plain"; check folder "$bundle"
+    fresh; check folder "$archive" "$bundle"; check folder "$plain"
+done
