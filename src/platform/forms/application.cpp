@@ -12,7 +12,9 @@
 
 #include "platform/app_folder.h"
 #include "platform/clock.h"
+#include "platform/forms/button_accessible.h"
 #include "platform/forms/control_accessible.h"
+#include "platform/forms/input_guard.h"
 #include "platform/forms/list_accessible.h"
 #include "platform/forms/native.h"
 
@@ -33,81 +35,29 @@ void UseBundledPlugins() {
 
 // A wait during which assistive technology is answered, but nothing that a person does is obeyed.
 void SleepAnswering(std::chrono::milliseconds time) {
+  const InputPause pause;
   QEventLoop loop;
   QTimer::singleShot(time, &loop, &QEventLoop::quit);
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-bool dropsInput = false;
-
-// What holds for every window.
-class Rules : public QObject {
+// Assistive technology gets a tool tip as it is set; only what is drawn could be taken for markup.
+class ToolTips : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::KeyPress:
-      case QEvent::KeyRelease:
-        // Told of every key, also of one that is dropped.
-        return closesAgain(*static_cast<QKeyEvent*>(event), watched->isWindowType()) || dropsInput;
-      case QEvent::ToolTip:
-        return watched->isWidgetType() && showToolTip(*static_cast<QWidget*>(watched), *event);
-      default:
-        return dropsInput && IsInput(*event);
-    }
+    return event->type() == QEvent::ToolTip && watched->isWidgetType() &&
+           show(*static_cast<QWidget*>(watched), *event);
   }
 
  private:
-  // A key that is held down would go on to answer, close and press what comes next.
-  bool closesAgain(const QKeyEvent& event, bool first) {
-    const bool press = event.type() == QEvent::KeyPress;
-    const bool held = press && (event.isAutoRepeat() || (first && repeatsUntold(event)));
-    if (first && !press) released_ = {event.key(), event.timestamp()};
-    const auto key = event.key();
-    return held && (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter);
-  }
-  // The toolkit misses a repetition where the window system's pair of release and press, which has
-  // one time, comes in two pieces.
-  bool repeatsUntold(const QKeyEvent& press) const {
-    return press.nativeScanCode() != 0 && press.key() == released_.key &&
-           press.timestamp() == released_.time;
-  }
-  // Assistive technology gets the tool tip as it is set; only what is drawn could be taken for
-  // markup.
-  static bool showToolTip(QWidget& widget, const QEvent& event) {
+  static bool show(QWidget& widget, const QEvent& event) {
     if (widget.toolTip().isEmpty()) return false;
     ShowPlainToolTip(static_cast<const QHelpEvent&>(event), widget.toolTip(), widget);
     return true;
   }
-
-  struct {
-    int key = 0;
-    quint64 time = 0;
-  } released_;
 };
 
 }  // namespace
-
-bool IsInput(const QEvent& event) {
-  switch (event.type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::Shortcut:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletRelease:
-      return true;
-    default:
-      return false;
-  }
-}
 
 struct Application::Native {
   // The toolkit wants a command line for as long as it lives; the program has none.
@@ -115,15 +65,17 @@ struct Application::Native {
   char name[13] = "KestrivaneUI";
   char* words[2] = {name, nullptr};
   QApplication application{count, words};
-  Rules rules;
+  ToolTips toolTips;
 };
 
 Application::Application() {
   LoadAssets();
   UseBundledPlugins();
   native_ = std::make_unique<Native>();
-  QApplication::instance()->installEventFilter(&native_->rules);
+  GuardInput(native_->application);
+  native_->application.installEventFilter(&native_->toolTips);
   QApplication::setPalette(WithReadableSelection(QApplication::palette()));
+  MakeButtonsAccessible();
   MakeControlsAccessible();
   MakeListsAccessible();
   platform::TheClock().sleep = [sleep = platform::TheClock().sleep](auto time) {
@@ -141,10 +93,9 @@ void Application::run() { QApplication::exec(); }
 void LeaveEventLoop() { QApplication::quit(); }
 
 void DoEvents() {
-  dropsInput = true;
+  const InputPause pause;
   QGuiApplication::sync();  // the window system may still hold some
   QApplication::processEvents();
-  dropsInput = false;
 }
 
 std::function<void(int status)>& EndProgram() {

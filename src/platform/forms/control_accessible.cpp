@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "platform/forms/accessible_text.h"
+#include "platform/forms/input_guard.h"
 
 namespace forms {
 namespace {
@@ -60,12 +61,14 @@ class RoleInterface : public QAccessibleWidget {
     return (pressable() ? QStringList(pressAction()) : QStringList()) +
            QAccessibleWidget::actionNames();
   }
-  // Later, since what it opens may stay for long and the caller waits.
   void doAction(const QString& name) override {
     if (name != pressAction()) return QAccessibleWidget::doAction(name);
     if (!pressable() || !widget()->isEnabled()) return;
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
-      QCoreApplication::postEvent(widget(), new QKeyEvent(type, Qt::Key_Space, Qt::NoModifier));
+    const auto press = [this] {
+      for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+        QCoreApplication::postEvent(widget(), new QKeyEvent(type, Qt::Key_Space, Qt::NoModifier));
+    };
+    PressLater(*widget(), press);
   }
 
  private:
@@ -92,7 +95,9 @@ class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface 
                                               : QAccessibleWidget::interface_cast(type);
   }
   QVariant currentValue() const override { return bar()->value(); }
-  void setCurrentValue(const QVariant& value) override { bar()->setValue(value.toInt()); }
+  void setCurrentValue(const QVariant& value) override {
+    if (TakesInput(*bar())) bar()->setValue(value.toInt());
+  }
   QVariant maximumValue() const override { return bar()->maximum(); }
   QVariant minimumValue() const override { return bar()->minimum(); }
   QVariant minimumStepSize() const override { return bar()->singleStep(); }

@@ -17,6 +17,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/forms/input_guard.h"
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"
 
@@ -70,7 +71,11 @@ class FormWindow : public QMainWindow {
     const bool hasFrame = !windowFlags().testFlag(Qt::FramelessWindowHint);
     const auto outer =
         size() + (hasFrame ? framed.frameGeometry().size() - framed.size() : QSize(0, 0));
-    move(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
+    const QPoint corner(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
+    // The title and the menus can be reached whatever the size of the screen.
+    const auto room = (neighbour ? neighbour : this)->screen()->availableGeometry();
+    const QPoint inside(std::max(corner.x(), room.x()), std::max(corner.y(), room.y()));
+    move(QGuiApplication::screenAt(corner) ? corner : inside);
   }
 
   QPushButton* defaultButton = nullptr;
@@ -83,9 +88,7 @@ class FormWindow : public QMainWindow {
       centreOn(*std::exchange(centreOnceShown, {}), nullptr);
     if (!watched->isWidgetType()) return false;
     auto* target = static_cast<QWidget*>(watched);
-    // The system may still hold keys and clicks for a window that has closed.
-    if (IsInput(*event) && target->window() == this && !isVisible()) return true;
-    if (event->type() != QEvent::KeyPress) return false;
+    if (event->type() != QEvent::KeyPress || !TakesInput(*target)) return false;
     // An event that a control ignores climbs to its parents; the form has seen it by then.
     const QWidget* focus = QApplication::focusWidget();
     if (target->window() != this || target != (focus ? focus : this)) return false;

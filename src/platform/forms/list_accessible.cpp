@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/forms/accessible_text.h"
+#include "platform/forms/input_guard.h"
 
 namespace forms {
 namespace {
@@ -136,13 +137,12 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   }
 
   QStringList actionNames() const override { return {pressAction()}; }
-  // Later, since what it opens may stay for long and the caller waits.
   void doAction(const QString& name) override {
     if (name != pressAction() || !isValid() || state().disabled) return;
     const auto press = [this] {
       if (isValid()) rows().press(row_);
     };
-    QMetaObject::invokeMethod(control_.data(), press, Qt::QueuedConnection);
+    PressLater(*control_, press);
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override {
     return rows().role() == QAccessible::List ? QStringList(QStringLiteral("F2")) : QStringList();
@@ -252,8 +252,7 @@ class ComboInterface : public RowsInterface {
   }
   void doAction(const QString& name) override {
     if (name != pressAction()) return QAccessibleWidget::doAction(name);
-    if (box()->isEnabled())
-      QMetaObject::invokeMethod(box(), &QComboBox::showPopup, Qt::QueuedConnection);
+    if (box()->isEnabled()) PressLater(*box(), [box = box()] { box->showPopup(); });
   }
 
  private:

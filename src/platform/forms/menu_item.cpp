@@ -9,25 +9,11 @@
 #include <QMenuBar>
 #include <QShortcut>
 
+#include "platform/forms/input_guard.h"
 #include "platform/forms/native.h"
 
 namespace forms {
 namespace {
-
-// Opens the first menu. Once all menus are closed the focus is back where it was; the toolkit would
-// leave it in the bar.
-void OpenFirstMenu(QMenuBar& bar) {
-  auto* visit = new QObject(&bar);
-  const auto end = [visit, &bar] {
-    if (QApplication::activePopupWidget()) return;  // moved on to another menu
-    visit->deleteLater();
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    if (bar.hasFocus()) QApplication::sendEvent(&bar, &escape);
-  };
-  for (const auto* action : bar.actions())
-    QObject::connect(action->menu(), &QMenu::aboutToHide, visit, end, Qt::QueuedConnection);
-  bar.setActiveAction(bar.actions().constFirst());
-}
 
 QMenuBar& MenuBarOf(const Form& form) {
   auto* window = static_cast<QMainWindow*>(form.clientArea()->window());
@@ -35,14 +21,26 @@ QMenuBar& MenuBarOf(const Form& form) {
   auto* bar = window->menuBar();
   bar->setNativeMenuBar(false);
   const auto* open = new QShortcut(Qt::Key_F10, bar);
-  QObject::connect(open, &QShortcut::activated, bar, [bar] { OpenFirstMenu(*bar); });
+  QObject::connect(open, &QShortcut::activated, bar,
+                   [bar] { bar->setActiveAction(bar->actions().constFirst()); });
   return *bar;
+}
+
+const QWidget& BarOf(const QAction& action) {
+  const auto* holder = static_cast<const QWidget*>(action.parent());
+  while (qobject_cast<const QMenu*>(holder)) holder = holder->parentWidget();
+  return *holder;
 }
 
 QMenu& MenuOf(QAction& action) {
   if (!action.menu()) {
     auto* menu = new QMenu(static_cast<QWidget*>(action.parent()));
     action.setMenu(menu);
+    // Assistive technology opens menus without asking.
+    const auto closeWhereNoneOpens = [menu, &action] {
+      if (!TakesInput(BarOf(action))) menu->close();
+    };
+    QObject::connect(menu, &QMenu::aboutToShow, menu, closeWhereNoneOpens, Qt::QueuedConnection);
   }
   return *action.menu();
 }
@@ -77,7 +75,12 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
     action_->setSeparator(true);
   else
     setCaption(caption);
-  QObject::connect(action_, &QAction::triggered, action_, [this] { Raise(onClick); });
+  QObject::connect(action_, &QAction::triggered, action_, [this] {
+    if (TakesInput(BarOf(*action_)))
+      Raise(onClick);
+    else
+      action_->setChecked(action_->isCheckable());  // only a ticked one can be unticked
+  });
   QObject::connect(
       action_, &QAction::hovered, action_, [this] { TellAgain(*action_); }, Qt::QueuedConnection);
 }

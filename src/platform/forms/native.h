@@ -7,7 +7,6 @@
 #include "base/error_boundary.h"
 
 class QColor;
-class QEvent;
 class QFont;
 class QHelpEvent;
 class QPaintEvent;
@@ -26,9 +25,6 @@ template <class Handler, class... Arguments>
 void Raise(const Handler& handler, Arguments&&... arguments) {
   if (handler) base::RunGuarded([&] { handler(std::forward<Arguments>(arguments)...); });
 }
-
-// What a person does, and what the toolkit makes of it.
-bool IsInput(const QEvent& event);
 
 int ToPixels(int twips);
 QRect ToPixels(const Box& box);

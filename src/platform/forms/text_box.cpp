@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/forms/input_guard.h"
 #include "platform/forms/native.h"
 
 namespace forms {
@@ -70,14 +71,22 @@ TextBox::TextBox(Container& parent, const char* name, const Box& box, Accept acc
     : Control(new NativeTextBox(parent.clientArea()), name, box, font), maxChars_(maxChars) {
   Native(widget())->setAlignment(Qt::AlignCenter);
   Native(widget())->setValidator(new Filter(Native(widget()), accept, maxChars));
+  // Assistive technology changes the text without asking.
+  QObject::connect(Native(widget()), &QLineEdit::textChanged, widget(), [this] {
+    if (TakesInput(*widget()))
+      accepted_ = text();
+    else if (text() != accepted_)
+      setText(accepted_);
+  });
 }
 
 std::string TextBox::text() const { return Native(widget())->text().toStdString(); }
 
 void TextBox::setText(const std::string& text) {
+  accepted_ = ToQString(text).left(maxChars_).toStdString();
   const auto* const filter = Native(widget())->validator();
   Native(widget())->setValidator(nullptr);
-  Native(widget())->setText(ToQString(text).left(maxChars_));
+  Native(widget())->setText(ToQString(accepted_));
   Native(widget())->setValidator(filter);
 }
 

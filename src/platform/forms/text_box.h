@@ -20,6 +20,7 @@ class TextBox : public Control {
 
  private:
   int maxChars_;
+  std::string accepted_;  // what stands there unless someone changed it without asking
 };
 
 }  // namespace forms

@@ -1,0 +1,176 @@
+#include "platform/forms/input_guard.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <utility>
+
+namespace forms {
+namespace {
+
+bool paused = false;
+
+// What a person does, and what the toolkit makes of it.
+bool IsInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool IsOfMouse(const QEvent& event) {
+  return event.type() >= QEvent::MouseButtonPress && event.type() <= QEvent::MouseMove;
+}
+
+// A popup belongs to the window that it was opened from.
+bool IsPartOf(const QWidget& window, const QWidget& other) {
+  return &window == &other || window.isAncestorOf(&other) ||
+         (other.parentWidget() && IsPartOf(window, *other.parentWidget()->window()));
+}
+
+// A key that is held down would go on to answer, close and press what comes next.
+class HeldKeys {
+ public:
+  // Told of each key event of a window, in their order.
+  bool repeats(const QKeyEvent& event) {
+    const bool press = event.type() == QEvent::KeyPress;
+    // The copies that come back from assistive technology have lost their time.
+    if (!event.spontaneous()) return press && event.isAutoRepeat();
+    const bool held = press && (event.isAutoRepeat() || repeatsUntold(event));
+    if (!press) released_ = {event.key(), event.timestamp()};
+    return held;
+  }
+
+ private:
+  // The toolkit misses a repetition where the window system's pair of release and press, which has
+  // one time, comes in two pieces.
+  bool repeatsUntold(const QKeyEvent& press) const {
+    return press.nativeScanCode() != 0 && press.key() == released_.key &&
+           press.timestamp() == released_.time;
+  }
+
+  struct {
+    int key = 0;
+    quint64 time = 0;
+  } released_;
+};
+
+// The second click of a double click is meant for what stood there at the first one, not for what
+// came up since because a window opened or closed.
+class SecondClicks {
+ public:
+  void windowOpenedOrClosed() { windowsChanged_ = true; }
+
+  bool drops(const QMouseEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick)
+      dropping_ = goesThrough(event);
+    if (event.type() != QEvent::MouseButtonRelease) return dropping_;
+    released_ = true;
+    return std::exchange(dropping_, false);
+  }
+
+ private:
+  bool goesThrough(const QMouseEvent& press) {
+    const auto& hints = *QGuiApplication::styleHints();
+    const auto place = press.globalPosition().toPoint();
+    const bool follows =
+        std::exchange(released_, false) &&
+        press.timestamp() - time_ < static_cast<quint64>(hints.mouseDoubleClickInterval()) &&
+        (place - place_).manhattanLength() <= hints.startDragDistance();
+    if (!follows) windowsChanged_ = false;
+    time_ = press.timestamp();
+    place_ = place;
+    return follows && windowsChanged_;
+  }
+
+  quint64 time_ = 0;  // of the last press, in milliseconds
+  QPoint place_;
+  bool windowsChanged_ = false;  // since the last press that no other one led up to
+  bool released_ = false;
+  bool dropping_ = false;  // what belongs to a press, up to its release
+};
+
+class Guard : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto type = event->type();
+    const bool key = type == QEvent::KeyPress || type == QEvent::KeyRelease;
+    // Told of every key and click, also of those that are dropped for another reason.
+    if (key && repeats(*static_cast<QKeyEvent*>(event), watched->isWindowType())) return true;
+    const bool ofWidget = watched->isWidgetType();
+    if (IsOfMouse(*event) && (ofWidget || paused) &&
+        clicks_.drops(*static_cast<QMouseEvent*>(event)))
+      return true;
+    if (!ofWidget) return paused && IsInput(*event);
+    const auto& widget = *static_cast<QWidget*>(watched);
+    if ((type == QEvent::Show || type == QEvent::Hide) && opensAndCloses(widget))
+      clicks_.windowOpenedOrClosed();
+    return IsInput(*event) && !TakesInput(widget);
+  }
+
+ private:
+  bool repeats(const QKeyEvent& event, bool ofWindow) {
+    // The bridge to assistive technology takes each key and gives a copy back later. This guard has
+    // to stand before it: a key of a pause must not come back behind it.
+    if (ofWindow && !event.spontaneous())
+      QMetaObject::invokeMethod(
+          this, [this] { qApp->installEventFilter(this); }, Qt::QueuedConnection);
+    const bool held =
+        ofWindow ? keys_.repeats(event) : event.type() == QEvent::KeyPress && event.isAutoRepeat();
+    return held && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return ||
+                    event.key() == Qt::Key_Enter);
+  }
+  // Menus and the lists of drop-downs open under a click and close at the next one as they should.
+  static bool opensAndCloses(const QWidget& widget) {
+    const auto type = widget.windowType();
+    return widget.isWindow() && type != Qt::Popup && type != Qt::ToolTip;
+  }
+
+  HeldKeys keys_;
+  SecondClicks clicks_;
+};
+
+}  // namespace
+
+void GuardInput(QApplication& application) {
+  application.installEventFilter(new Guard(&application));
+}
+
+bool TakesInput(const QWidget& widget) {
+  const auto& window = *widget.window();
+  const auto* modal = QApplication::activeModalWidget();
+  return !paused && window.isVisible() && (!modal || IsPartOf(*modal, window));
+}
+
+InputPause::InputPause() : before_(std::exchange(paused, true)) {}
+
+InputPause::~InputPause() { paused = before_; }
+
+void PressLater(QWidget& widget, std::function<void()> press) {
+  if (!TakesInput(widget)) return;
+  const auto pressIfTaken = [&widget, press = std::move(press)] {
+    if (TakesInput(widget)) press();
+  };
+  QMetaObject::invokeMethod(&widget, pressIfTaken, Qt::QueuedConnection);
+}
+
+}  // namespace forms
