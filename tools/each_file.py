@@ -15,7 +15,7 @@ top = pathlib.Path(__file__).resolve().parent.parent
 build = top / "build-tidy"
 subprocess.run([top / "tools/install.sh", "build", "test", "fuzz", "bench"], check=True)
 subprocess.run(["cmake", "--preset", "tidy", "-DBUILD_TESTING=ON", "-DKESTRIVANE_BENCH=ON",
-                "-DKESTRIVANE_FUZZ=ON", "-DKESTRIVANE_SANITIZE=ON"],
+                "-DKESTRIVANE_FUZZ=ON", "-DKESTRIVANE_SANITIZE=address"],
                cwd=top, check=True, stdout=subprocess.DEVNULL)
 
 # Of each source the compiler's words without the source itself and what becomes of it.

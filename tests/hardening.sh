@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Reads back from built programs and libraries what protects them: no part of the search path for
+# libraries depends on the working folder, and with --program also that stacks and calls are guarded
+# and nothing stays writable that the loader filled in.
+# Usage: hardening.sh [--program] FILE...
+set -euo pipefail
+
+program=
+[[ $1 != --program ]] || { program=1 && shift; }
+(($# > 0)) || { echo "No files to look at" >&2 && exit 1; }
+status=0
+lacks() { # file, what
+    echo "$1: $2" >&2
+    status=1
+}
+for file in "$@"; do
+    dynamic=$(readelf -dW "$file")
+    while read -r path; do
+        # Each part has to begin with a slash or with $ORIGIN, also behind the last colon.
+        [[ ":$path" =~ ^(:(/|\$ORIGIN(/|:|$))[^:]*)+$ ]] || lacks "$file" "search path \"$path\""
+    done < <(sed -nE 's/.*\((RPATH|RUNPATH)\).*\[(.*)\]$/\2/p' <<<"$dynamic")
+    [[ -n $program ]] || continue
+
+    grep -q 'GNU_RELRO' <(readelf -lW "$file") || lacks "$file" "no read-only relocations"
+    grep -qE '\(BIND_NOW\)|\(FLAGS\).*BIND_NOW' <<<"$dynamic" || lacks "$file" "no immediate binding"
+    grep -q '(FLAGS_1).*PIE' <<<"$dynamic" || lacks "$file" "not position independent"
+    symbols=$(readelf -W --dyn-syms "$file")
+    grep -q ' __stack_chk_fail' <<<"$symbols" || lacks "$file" "no stack protector"
+    grep -qE ' __[a-z]+_chk(@|$)' <<<"$symbols" || lacks "$file" "no fortified calls"
+done
+exit "$status"
