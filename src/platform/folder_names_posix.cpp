@@ -14,9 +14,8 @@ namespace {
 // The same for all spellings of a name: letters beyond ASCII are left out.
 std::uint32_t HashOf(std::string_view name) {
   std::uint32_t hash = 2166136261;
-  for (const char c : name)
-    if (c > 0)
-      hash = (hash ^ static_cast<std::uint32_t>(c >= 'A' && c <= 'Z' ? c + 32 : c)) * 16777619;
+  for (const unsigned char c : name)
+    if (c < 0x80) hash = (hash ^ (c >= 'A' && c <= 'Z' ? c + 32U : c)) * 16777619;
   return hash;
 }
 
