@@ -7,7 +7,7 @@ namespace standin {
 namespace {
 
 // Accented letters are single bytes of Windows-1252. The order is deliberately not alphabetic.
-const auto games = std::to_array<Game>({
+const auto kGames = std::to_array<Game>({
     {"thornhil", "Thornwick Hill Drive"},
     {"voltlynx", "Volt Lynx"},
     {"lanternf2", "Lantern Fists 2 (Revision B)"},
@@ -57,6 +57,6 @@ const auto games = std::to_array<Game>({
 
 }  // namespace
 
-std::span<const Game> Games() { return games; }
+std::span<const Game> Games() { return kGames; }
 
 }  // namespace standin

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::vector<Option> defaults = {
+const std::vector<Option> kDefaults = {
     {"XResolution", "496"},
     {"YResolution", "384"},
     {"Throttle", "1"},
@@ -75,7 +75,7 @@ void Overlay(std::vector<Option>& options, const std::vector<std::string>& lines
 }  // namespace
 
 std::vector<Option> OptionsInForce(std::string_view game) {
-  std::vector<Option> options = defaults;
+  std::vector<Option> options = kDefaults;
   const fs::path folder = FindEntry(".", "Config");
   if (folder.empty()) return options;
   const auto lines = ReadLines(FindEntry(folder, "Kestrivane.ini"), 4 << 20);

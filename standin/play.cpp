@@ -21,9 +21,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-volatile std::sig_atomic_t quitting = 0;
+volatile std::sig_atomic_t QuitRequested = 0;
 
-void OnQuitSignal(int) { quitting = 1; }
+void OnQuitSignal(int) { QuitRequested = 1; }
 
 struct Script {
   int seconds = 5;
@@ -51,24 +51,24 @@ bool RunFor(int seconds) {
   std::signal(SIGINT, OnQuitSignal);
   using std::chrono::steady_clock;
   const auto end = steady_clock::now() + std::chrono::seconds(seconds);
-  while (quitting == 0 && steady_clock::now() < end) {
+  while (QuitRequested == 0 && steady_clock::now() < end) {
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
   }
-  return quitting == 0;
+  return QuitRequested == 0;
 }
 
 struct CommandLine {
   std::string archive;
-  std::string input_system = "dinput";
+  std::string inputSystem = "dinput";
   std::string unknown;
 };
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
   CommandLine command;
-  const std::string input_key = "-input-system=";
+  const std::string inputKey = "-input-system=";
   for (const std::string& argument : arguments) {
-    if (argument.starts_with(input_key)) {
-      command.input_system = argument.substr(input_key.size());
+    if (argument.starts_with(inputKey)) {
+      command.inputSystem = argument.substr(inputKey.size());
     } else if (command.archive.empty() && !argument.starts_with('-')) {
       command.archive = argument;
     } else {
@@ -115,16 +115,16 @@ int Play(const std::vector<std::string>& arguments, const std::string& version) 
     return 1;
   }
 
-  log += "Input system: " + command.input_system + "\r\n";
+  log += "Input system: " + command.inputSystem + "\r\n";
   for (const Option& option : OptionsInForce(ToText(archive.stem()))) {
     log += option.name + " = " + option.value + "\r\n";
   }
 
   const Script script = ReadScript(archive);
-  const bool played_out = RunFor(script.seconds);
-  if (played_out && script.end == "crash") std::abort();
-  if (played_out && script.end == "nolog") return 0;
-  if (played_out && script.end == "error") {
+  const bool playedOut = RunFor(script.seconds);
+  if (playedOut && script.end == "crash") std::abort();
+  if (playedOut && script.end == "nolog") return 0;
+  if (playedOut && script.end == "error") {
     WriteLog(log +
              "Error: the sound board stopped answering at address 00F0A31C.\r\n"
              "Error: 3 of 16 program images have a wrong checksum:\r\n"

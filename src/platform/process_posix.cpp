@@ -76,13 +76,13 @@ void Replace(int descriptor, const char* file) {
   close(opened);
 }
 
-enum class Lifetime { endsWithUs, itsOwn };
+enum class Lifetime { EndsWithUs, Independent };
 
 // What the child does before it becomes the program; returns if it can't. Between fork and exec
 // only plain system calls are safe.
 void BecomeProgram(char* const* words, bool forWindows, int output, Lifetime lifetime,
                    pid_t parent) {
-  if (lifetime == Lifetime::endsWithUs) {
+  if (lifetime == Lifetime::EndsWithUs) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent) return;
   } else {
@@ -157,7 +157,7 @@ class Output {
 
 std::string CaptureOutput(std::string_view commandLine, bool /*showWindow*/) {
   Pipe pipe;
-  const pid_t child = Start(commandLine, pipe.writeEnd(), Lifetime::endsWithUs, FirstEnvironment());
+  const pid_t child = Start(commandLine, pipe.writeEnd(), Lifetime::EndsWithUs, FirstEnvironment());
   pipe.closeWriteEnd();
   constexpr int kLookAfterMs = 20;
   Output output;
@@ -182,7 +182,7 @@ struct StartedProcess::Native {
 };
 
 StartedProcess::StartedProcess(std::string_view commandLine)
-    : native_(new Native{Start(commandLine, -1, Lifetime::itsOwn, environ)}) {}
+    : native_(new Native{Start(commandLine, -1, Lifetime::Independent, environ)}) {}
 
 StartedProcess::~StartedProcess() = default;
 
