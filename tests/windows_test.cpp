@@ -1,6 +1,8 @@
 // What only Windows has.
 #include <cstdlib>
+#include <future>
 #include <map>
+#include <utility>
 
 #include "platform/code_page.h"
 #include "platform/file_search.h"
@@ -8,6 +10,9 @@
 #include "platform/system_windows.h"
 #include "support/fake_clock.h"
 #include "support/process_app.h"
+
+// The entry for this function in the program's import table.
+extern "C" decltype(&CreateProcessW) __imp_CreateProcessW;
 
 namespace platform {
 namespace {
@@ -23,6 +28,23 @@ class Windows : public support::ProcessApp {
                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   }
 };
+
+constexpr auto* kCompatibility = L"__COMPAT_LAYER";
+decltype(&CreateProcessW) create = nullptr;
+
+// As for a program whose file asks for an administrator's rights, to one who has none.
+BOOL WINAPI CreateProcessThatNeedsRights(LPCWSTR file, LPWSTR line, LPSECURITY_ATTRIBUTES process,
+                                         LPSECURITY_ATTRIBUTES thread, BOOL inherits, DWORD flags,
+                                         LPVOID environment, LPCWSTR folder, LPSTARTUPINFOW start,
+                                         LPPROCESS_INFORMATION created) {
+  std::wstring layer(GetEnvironmentVariableW(kCompatibility, nullptr, 0), L'\0');
+  layer.resize(GetEnvironmentVariableW(kCompatibility, layer.data(),
+                                       static_cast<DWORD>(layer.size())));
+  if (layer == L"RunAsInvoker")
+    return create(file, line, process, thread, inherits, flags, environment, folder, start, created);
+  SetLastError(kElevationRequired);
+  return FALSE;
+}
 
 TEST_F(Windows, FileInUseIsWaitedForAndThenLeftAlone) {
   const auto file = AppFolder + "\\a.txt";
@@ -121,6 +143,38 @@ TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAsTheyAre) {
   EXPECT_EQ(run("Kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" -input-system=xinput"), 0)
       << read("error.log");
   EXPECT_NE(read("error.log").find("Input system: xinput"), std::string::npos);
+}
+
+TEST_F(Windows, ProgramsInheritNoHandleButTheListingItsPipe) {
+  addEmulator();
+  write("game.zip", "seconds=3");
+  for (const bool listing : {true, false}) {
+    SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
+    HANDLE readEnd = nullptr;
+    HANDLE writeEnd = nullptr;
+    ASSERT_TRUE(CreatePipe(&readEnd, &writeEnd, &inheritable, 0));
+    const auto running = std::async(std::launch::async, [&] {
+      listing ? capture("Kestrivane game.zip") : std::to_string(run("Kestrivane game.zip"));
+    });
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    CloseHandle(writeEnd);
+    // The pipe is broken when nobody holds its other end.
+    EXPECT_FALSE(PeekNamedPipe(readEnd, nullptr, 0, nullptr, nullptr, nullptr)) << listing;
+    EXPECT_EQ(running.wait_for(std::chrono::seconds(0)), std::future_status::timeout) << listing;
+    CloseHandle(readEnd);
+  }
+}
+
+TEST_F(Windows, ProgramThatNeedsRightsIsListedWithoutThemAndPlayedWithThem) {
+  addEmulator();
+  write("日本 é/game.zip", "seconds=0");
+  create = std::exchange(__imp_CreateProcessW, CreateProcessThatNeedsRights);
+  EXPECT_TRUE(capture("Kestrivane.exe -print-games").ends_with("Nimblewick's Parade\r\n"));
+  EXPECT_EQ(run("Kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" \"-x y\\\""), 1);
+  __imp_CreateProcessW = create;
+  EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
+      << read("error.log");
+  EXPECT_EQ(GetEnvironmentVariableW(kCompatibility, nullptr, 0), 0U);
 }
 
 TEST_F(Windows, CodePageIsTheSystems) {

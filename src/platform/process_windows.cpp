@@ -1,6 +1,8 @@
 #include "platform/process.h"
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 #include "base/failure.h"
 #include "platform/code_page.h"
@@ -17,11 +19,15 @@ std::wstring Quoted(const std::string& word) {
   return ToWide('"' + word + std::string(backslashes, '\\') + '"');
 }
 
-// The command as one text that the program's own library cuts into the same words again.
-std::wstring LineOf(const Command& command) {
-  auto line = Quoted(command.program);
+// The arguments as one text that the program's own library cuts into the same words again.
+std::wstring ArgumentsOf(const Command& command) {
+  std::wstring line;
   for (const auto& argument : command.arguments) line += L' ' + Quoted(argument);
   return line;
+}
+
+std::wstring LineOf(const Command& command) {
+  return Quoted(command.program) + ArgumentsOf(command);
 }
 
 // The program's file as the system takes it. Other programs may not know the mark of a full name,
@@ -31,27 +37,114 @@ std::wstring FileOf(const Command& command) {
   return full.size() < MAX_PATH ? ToWide(command.program) : full;
 }
 
-// Starts the command line with its standard output at `output`, or nowhere, and ends it with `job`
-// if there is one. The caller closes the result.
-HANDLE Start(std::string_view commandLine, WORD showState, HANDLE output, HANDLE job) {
-  const auto command = FindCommand(commandLine);
-  if (!command) throw base::Failure("no such program");
+// The handles that a new process inherits: the one given and no other, whatever else in this
+// program may be inheritable.
+class Inheritance {
+ public:
+  explicit Inheritance(HANDLE handle) : handle_(handle) {
+    SIZE_T size = 0;
+    InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+    bytes_.resize(size);
+    Check(InitializeProcThreadAttributeList(list(), 1, 0, &size) != 0);
+    Check(UpdateProcThreadAttribute(list(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, &handle_,
+                                    sizeof handle_, nullptr, nullptr) != 0);
+  }
+  ~Inheritance() { DeleteProcThreadAttributeList(list()); }
+  Inheritance(const Inheritance&) = delete;
+  Inheritance& operator=(const Inheritance&) = delete;
+
+  LPPROC_THREAD_ATTRIBUTE_LIST list() {
+    return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(bytes_.data());
+  }
+
+ private:
+  HANDLE handle_;
+  std::vector<char> bytes_;
+};
+
+// Creates the command's process, which waits to be resumed, with its standard output at `output`, or
+// nowhere. Returns whether it could; the system's last error says why not.
+bool Create(const Command& command, WORD showState, HANDLE output, PROCESS_INFORMATION& process) {
   // The system may write into this text.
-  auto line = LineOf(*command);
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  startup.dwFlags = STARTF_USESHOWWINDOW | STARTF_USESTDHANDLES;
-  startup.wShowWindow = showState;
-  startup.hStdOutput = output;
-  PROCESS_INFORMATION process{};
+  auto line = LineOf(command);
+  STARTUPINFOEXW startup{};
+  startup.StartupInfo.cb = sizeof startup;
+  startup.StartupInfo.dwFlags = STARTF_USESHOWWINDOW | STARTF_USESTDHANDLES;
+  startup.StartupInfo.wShowWindow = showState;
+  startup.StartupInfo.hStdOutput = output;
+  std::optional<Inheritance> inheritance;
+  if (output) startup.lpAttributeList = inheritance.emplace(output).list();
   // The file is named, so that no other than the one that was found can run.
-  Check(CreateProcessW(FileOf(*command).c_str(), line.data(), nullptr, nullptr, output != nullptr,
-                       NORMAL_PRIORITY_CLASS | CREATE_SUSPENDED, nullptr, nullptr, &startup,
-                       &process) != 0);
-  if (job) AssignProcessToJobObject(job, process.hProcess);
+  return CreateProcessW(FileOf(command).c_str(), line.data(), nullptr, nullptr, output != nullptr,
+                        NORMAL_PRIORITY_CLASS | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT,
+                        nullptr, nullptr, &startup.StartupInfo, &process) != 0;
+}
+
+// As long as it lives, a program whose file asks for an administrator's rights starts without them.
+class WithoutElevation {
+ public:
+  WithoutElevation() { SetEnvironmentVariableW(kName, L"RunAsInvoker"); }
+  ~WithoutElevation() { SetEnvironmentVariableW(kName, nullptr); }
+  WithoutElevation(const WithoutElevation&) = delete;
+  WithoutElevation& operator=(const WithoutElevation&) = delete;
+
+ private:
+  static constexpr auto* kName = L"__COMPAT_LAYER";
+};
+
+HANDLE Resumed(const PROCESS_INFORMATION& process) {
   ResumeThread(process.hThread);
   CloseHandle(process.hThread);
   return process.hProcess;
+}
+
+Command Found(std::string_view commandLine) {
+  auto command = FindCommand(commandLine);
+  if (!command) throw base::Failure("no such program");
+  return *std::move(command);
+}
+
+// Lets the shell start the command, which asks the person for the rights that it needs.
+HANDLE StartElevated(const Command& command, int showState) {
+  const auto file = FileOf(command);
+  const auto arguments = ArgumentsOf(command);
+  std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
+  folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
+  SHELLEXECUTEINFOW start{};
+  start.cbSize = sizeof start;
+  start.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
+  start.lpFile = file.c_str();
+  start.lpParameters = arguments.c_str();
+  // Without it the program would start in the system's folder.
+  start.lpDirectory = folder.c_str();
+  start.nShow = showState;
+  Check(ShellExecuteExW(&start) != 0);
+  // The shell may have handed the command to a program that runs already.
+  if (!start.hProcess) throw base::Failure("no process to wait for");
+  return start.hProcess;
+}
+
+// The caller closes the result.
+HANDLE StartPlay(std::string_view commandLine) {
+  const auto command = Found(commandLine);
+  PROCESS_INFORMATION process{};
+  if (Create(command, SW_MINIMIZE, nullptr, process)) return Resumed(process);
+  Check(GetLastError() == kElevationRequired);
+  return StartElevated(command, SW_MINIMIZE);
+}
+
+// Starts a command that only prints, and ends it with `job`. The caller closes the result.
+HANDLE StartListing(std::string_view commandLine, WORD showState, HANDLE output, HANDLE job) {
+  const auto command = Found(commandLine);
+  PROCESS_INFORMATION process{};
+  if (!Create(command, showState, output, process)) {
+    Check(GetLastError() == kElevationRequired);
+    // A program that runs with more rights can't write to our pipe; printing needs none.
+    const WithoutElevation layer;
+    Check(Create(command, showState, output, process));
+  }
+  if (job) AssignProcessToJobObject(job, process.hProcess);
+  return Resumed(process);
 }
 
 // What runs in it, without what that starts, ends when the job's handle is closed: at our end too.
@@ -87,7 +180,7 @@ std::string CaptureOutput(std::string_view commandLine, bool showWindow) {
 
   const Handle job(NewJob());
   const Handle child(
-      Start(commandLine, showWindow ? SW_SHOWNORMAL : SW_HIDE, writeEnd.get(), job.get()));
+      StartListing(commandLine, showWindow ? SW_SHOWNORMAL : SW_HIDE, writeEnd.get(), job.get()));
   writeEnd.close();
   constexpr DWORD kLookAfterMs = 20;
   std::string bytes;
@@ -105,7 +198,7 @@ struct StartedProcess::Native {
 };
 
 StartedProcess::StartedProcess(std::string_view commandLine)
-    : native_(new Native{Handle(Start(commandLine, SW_MINIMIZE, nullptr, nullptr))}) {}
+    : native_(new Native{Handle(StartPlay(commandLine))}) {}
 
 StartedProcess::~StartedProcess() = default;
 

@@ -11,6 +11,9 @@
 
 namespace platform {
 
+// The program asks for an administrator's rights. Some compilers' headers lack the system's name.
+inline constexpr DWORD kElevationRequired = 740;
+
 // UTF-8 to the system's texts and back. Nothing comes back of a text that is no valid Unicode.
 std::wstring ToWide(std::string_view text);
 std::string FromWide(std::wstring_view text);
