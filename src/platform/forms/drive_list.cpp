@@ -1,29 +1,35 @@
 #include "platform/forms/drive_list.h"
 
 #include <QDir>
-#include <QStorageInfo>
 #include <algorithm>
+#include <chrono>
 #include <string>
 #include <utility>
 
-#include "base/error_boundary.h"
+#include "platform/bounded_call.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
+#include "platform/mount_points.h"
 
 namespace forms {
 namespace {
 
+// How long a chosen drive has to answer.
+constexpr std::chrono::seconds kPatience(1);
+
+// Names alone: none of these calls waits for a volume.
 std::vector<std::string> Drives() {
   std::vector<std::string> drives;
-  const auto add = [&](const QString& path) {
-    auto text = QDir::toNativeSeparators(path).toStdString();
-    if (std::find(drives.begin(), drives.end(), text) == drives.end())
-      drives.push_back(std::move(text));
+  const auto add = [&](std::string path) {
+    if (std::find(drives.begin(), drives.end(), path) == drives.end())
+      drives.push_back(std::move(path));
   };
-  for (const auto& drive : QDir::drives()) add(drive.absolutePath());
-  add(QDir::homePath());
-  for (const auto& volume : QStorageInfo::mountedVolumes())
-    if (volume.isValid() && QFileInfo(volume.rootPath()).isDir()) add(volume.rootPath());
+  const auto native = [](const QString& path) {
+    return QDir::toNativeSeparators(path).toStdString();
+  };
+  for (const auto& drive : QDir::drives()) add(native(drive.absolutePath()));
+  add(native(QDir::homePath()));
+  for (auto& folder : platform::MountPoints()) add(std::move(folder));
   return drives;
 }
 
@@ -41,7 +47,8 @@ DriveList::DriveList(Container& parent, const char* name, const Box& box,
   for (const auto& path : paths_) add(path);
   onClick = [this] {
     if (selectedRow() == accepted_) return;
-    if (!base::RunGuarded([this] { platform::SubfolderNames(drive()); })) {
+    const auto looks = [path = drive()] { platform::SubfolderNames(path); };
+    if (!platform::SucceedsWithin(kPatience, looks)) {
       select(accepted_);
       return;
     }

@@ -10,7 +10,8 @@
 namespace forms {
 
 // The places at which folder trees begin: drives, or on a system without them the root, the home
-// folder and the mounted volumes. One that can't be read is not accepted.
+// folder and the mounted volumes. A volume is asked only when it is chosen. One that can't be read
+// within a second is not accepted: the list goes back to the one before.
 class DriveList : public ComboBox {
  public:
   // Offers only what `accepts` takes.

@@ -1,0 +1,44 @@
+#include "platform/mount_points.h"
+
+#include <fcntl.h>
+#include <mntent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+namespace platform {
+namespace {
+
+// The kernel's own trees, which hold no files of a user.
+bool IsOfTheSystem(std::string_view folder) {
+  constexpr std::string_view kTrees[] = {"/dev", "/proc", "/sys", "/run/lock", "/var/run",
+                                         "/var/lock"};
+  return std::any_of(std::begin(kTrees), std::end(kTrees), [&](auto tree) {
+    return folder.starts_with(tree) && (folder.size() == tree.size() || folder[tree.size()] == '/');
+  });
+}
+
+// A single file can be mounted too. What the kernel remembers is enough to tell.
+bool IsFolder(const char* path) {
+  struct statx found {};
+  return statx(AT_FDCWD, path, AT_STATX_DONT_SYNC | AT_NO_AUTOMOUNT, STATX_TYPE, &found) == 0 &&
+         S_ISDIR(found.stx_mode);
+}
+
+}  // namespace
+
+std::vector<std::string> MountPoints() {
+  std::vector<std::string> folders;
+  const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent("/proc/self/mounts", "r"), endmntent);
+  while (const mntent* entry = table ? getmntent(table.get()) : nullptr) {
+    // An automatic mount would be made by a look into it.
+    if (IsOfTheSystem(entry->mnt_dir) || entry->mnt_type == std::string_view("autofs")) continue;
+    if (IsFolder(entry->mnt_dir)) folders.emplace_back(entry->mnt_dir);
+  }
+  return folders;
+}
+
+}  // namespace platform
