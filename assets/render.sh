@@ -18,9 +18,10 @@ for size in 16 24 32 48 64; do
     png icon "icon_$size.png" "$size"
     frames+=("icon_$size.png")
 done
-convert "${frames[@]}" icon.ico  # for the program file on Windows
 png icon icon_128.png 128
 png icon icon.png 256
+# For the program file on Windows; its largest frame is a PNG inside.
+convert "${frames[@]}" icon.png icon.ico
 
 rsvg-convert -w 784 -h 684 default.svg -o "$work/default.png"
 for size in 392x342:default.jpg 784x684:default@2x.jpg; do
