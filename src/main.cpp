@@ -3,13 +3,18 @@
 #include "base/error_boundary.h"
 #include "core/module1.h"
 #include "platform/app_folder.h"
+#include "platform/console.h"
 #include "platform/forms/application.h"
 #include "platform/program_start.h"
+#include "startup/arguments.h"
 #include "startup/startup.h"
 #include "ui/main/form1.h"
 
-int main() {
+int main(int count, char** words) {
   platform::PrepareProgram();
+  const auto answer = startup::AnswerTo(platform::ProgramArguments(count, words));
+  if (!answer.complaint.empty()) platform::PrintError(answer.complaint);
+  if (!answer.output.empty()) return platform::PrintOutput(answer.output) ? 0 : 1;
   base::RunGuarded([] {
     Module1::AppFolder = platform::ProgramFolder();
     // The emulator inherits the working folder.

@@ -16,6 +16,13 @@ save_options() {
     expect_main_window
 }
 
+echo "Asked for its version or for help, it says so and ends, without display and folders"
+lay_out "$app" "$1"
+[[ $("$app/KestrivaneUI" --version 2>&1) == "Kestrivane UI "?.?.??? ]] || fail "no version"
+[[ $("$app/KestrivaneUI" --help 2>/dev/null what) == "Usage: KestrivaneUI "* ]] || fail "no help"
+! "$app/KestrivaneUI" --help >/dev/full || fail "help got lost, and no word about it"
+[[ $(ls "$app") == KestrivaneUI$'\n'ROMs ]] || fail "something was made"
+
 start_display "$work" || fail "no display"
 
 echo "A start without an emulator, and one beside an emulator that lists nothing, end with a message"
