@@ -1,11 +1,37 @@
 #!/bin/sh
-# Puts the KestrivaneUI of this script's folder into the desktop's menu; with --remove takes it out.
+# Puts the KestrivaneUI of this script's folder into the desktop's menu, or takes it out.
 set -eu
 folder=$(cd -- "$(dirname -- "$0")" && pwd)
 entry=${XDG_DATA_HOME:-$HOME/.local/share}/applications/kestrivane-ui.desktop
-if [ "${1:-}" = --remove ]; then
-    rm -f -- "$entry"
-    exit
+
+usage() {
+    echo "Usage: sh KestrivaneUI-menu.sh [--remove | --help]"
+    echo "Puts the KestrivaneUI of this script's folder into your desktop's menu;"
+    echo "with --remove takes it out again."
+}
+[ $# -le 1 ] || { usage >&2; exit 2; }
+case ${1:-} in
+    "") ;;
+    --help)
+        usage
+        exit ;;
+    --remove)
+        if [ -e "$entry" ] || [ -L "$entry" ]; then
+            rm -f -- "$entry"
+            echo "Taken out of the menu: $entry"
+        else
+            echo "Not in the menu: there is no $entry"
+        fi
+        exit ;;
+    *)
+        echo "KestrivaneUI-menu.sh: unknown argument: $1" >&2
+        usage >&2
+        exit 2 ;;
+esac
+
+if [ ! -x "$folder/KestrivaneUI" ] || [ ! -e "$folder/kestrivane-ui.desktop" ]; then
+    echo "KestrivaneUI-menu.sh: KestrivaneUI or kestrivane-ui.desktop is missing in $folder" >&2
+    exit 1
 fi
 # A backslash counts in every value, and once more between quotes, as do $, " and `; % begins a code.
 escaped() { printf '%s' "$1" | sed 's/\\/\\\\/g'; }
@@ -16,3 +42,5 @@ mkdir -p -- "$(dirname -- "$entry")"
     printf 'Exec=%s\n' "$(escaped "$(quoted "$folder/KestrivaneUI")")"
     printf 'Icon=%s\n' "$(escaped "$folder/kestrivane-ui.png")"
 } >"$entry"
+echo "Put into the menu, for $folder/KestrivaneUI: $entry"
+echo "Run this again if you move the folder; take it out with: sh KestrivaneUI-menu.sh --remove"

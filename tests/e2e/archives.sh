@@ -39,6 +39,10 @@ check() { # where the toolkit comes from: "system" or "folder"; archives...
 fresh() { lay_out "$app" /dev/null "$build/standin/Kestrivane.exe"; }
 
 start_display "$work" || fail "no display"
+
+cmake --install "$build" --prefix "$work/installed" >/dev/null
+! readelf -S "$work/installed/KestrivaneUI" | grep -q symtab || fail "installed with its symbols"
+
 fresh; check system "$plain"; check folder "$bundle"; check folder "$plain"
 fresh; leave_remains "$app/KestrivaneUI-Qt"; check system "$plain"; check folder "$bundle"
 fresh; leave_remains "$app/KestrivaneUI-Qt-6.0.0"; check system "$plain"; check folder "$bundle"
@@ -46,3 +50,13 @@ for archive in "${older[@]}"; do
     fresh; check system "$archive" "$plain"; check folder "$bundle"
     fresh; check folder "$archive" "$bundle"; check folder "$plain"
 done
+
+echo "The menu's script does what it is told, and nothing else"
+export XDG_DATA_HOME=$work/data
+entry=$XDG_DATA_HOME/applications/kestrivane-ui.desktop
+menu() { sh "$app/KestrivaneUI-menu.sh" "$@"; }
+! menu --remvoe 2>/dev/null || fail "an unknown word was taken"
+[[ $(menu --help) == Usage* && ! -e $XDG_DATA_HOME ]] || fail "no help"
+[[ $(menu) == *"$entry"* ]] || fail "not told"
+grep -qxF "Exec=\"$app/KestrivaneUI\"" "$entry" || fail "not in the menu"
+[[ $(menu --remove) == *"$entry" && ! -e $entry ]] || fail "still in the menu"
