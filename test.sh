@@ -21,4 +21,4 @@ tests/windows_logic.sh build-windows-logic
 echo "Tests under the sanitizers"
 ctest --preset sanitize --parallel "$(nproc)"
 echo "Tests as released"
-ctest --preset release --parallel "$(nproc)" --exclude-regex '^(soak|seen_.*|ui_tests_NOT_BUILT.*)$'
+ctest --preset release --parallel "$(nproc)" --exclude-regex '^(soak|windows_at_scale_.*|ui_tests_NOT_BUILT.*)$'

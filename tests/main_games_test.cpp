@@ -1,59 +1,27 @@
-// The list of games, its filter, and the panel of the selected game.
+// The pictures of the selected game.
 #include <QImageWriter>
 #include <cstdint>
 #include <cstdlib>
 
-#include "platform/code_page.h"
-#include "platform/files.h"
+#include "support/snapshot.h"
 #include "support/ui_test.h"
 
 namespace {
 
-using namespace Module1;
-
 class MainGames : public support::UiTest {
  protected:
-  static void makePicture(const char* name, Qt::GlobalColor colour, int width = 32,
-                          int height = 32) {
-    write(name, "");
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(colour);
-    ASSERT_TRUE(image.save(QString::fromStdString(path(name).string())));
+  // The picture and the icon of a game.
+  std::string picturesOf(int row) {
+    act("click lstGames:" + QString::number(row));
+    const auto colour = [this](const char* name) { return support::ColourOf(get(window(), name)); };
+    return (colour("imgGames") + " " + colour("imgIcon")).toStdString();
   }
 };
-
-TEST_F(MainGames, AreSortedWithoutRegardToCaseAndTellWhereTheirArchiveIsOrBelongs) {
-  addGames("zebra <b>&%s%1[*] beta");
-  write("more/beta.zip", "");
-  startWith(platform::EncodeCodePage(";ROMpaths=" + AppFolder + "\\more*/gone|"));
-  for (const auto* pressed : {"=Home", "=End", "=B"}) {
-    use(pressed);
-    const auto place = list().visualItemRect(list().currentItem()).center();
-    const auto tip = tipAt(*list().viewport(), place);
-    note(plain(QString::fromStdString(tip)).toStdString());
-    EXPECT_EQ(tipAt(get(window(), "cmdPlay"), {5, 5}), tip);
-  }
-}
-
-TEST_F(MainGames, FilterRefillsTheListAndAnEmptyOneResetsThePanelAndPlaysNothing) {
-  addGames("a b c");
-  makePicture("Snaps/b.jpg", Qt::red);
-  write("roms/b.zip", "");
-  startWith(";GameListPref=1|");
-  see(window());
-  PlayLog = {{{"a", "9", "9"}, {"b", "x<b>", ""}, {"a", "3", "3725"}, {"A", "9", "9"}}};
-  PlayLog[5] = {"a", "behind the gap", "9"};
-  use("optGames(0) lstGames@1 optGames(0)");
-  GameCatalog[1].Available = false;
-  use("optGames(0)=Right =Return");
-  EXPECT_EQ(LaunchRequest.RomName, "");
-  use("optGames(0)");
-}
 
 TEST_F(MainGames, PicturesAreAsFineAsTheScreenAndIconsTheNearestFrame) {
   std::string head("\0\0\1\0\3\0", 6), frames;
   for (const auto& [size, colour] : {std::pair(16, Qt::green), {44, Qt::yellow}, {200, Qt::blue}}) {
-    makePicture("frame.ico", colour, size, size);
+    writePicture("frame.ico", colour, {size, size});
     const auto icon = read("frame.ico");
     const auto at = static_cast<std::uint32_t>(6 + 3 * 16 + frames.size());
     head += icon.substr(6, 12) + std::string(reinterpret_cast<const char*>(&at), 4);
@@ -68,7 +36,8 @@ TEST_F(MainGames, PicturesAreAsFineAsTheScreenAndIconsTheNearestFrame) {
     for (int x = 0; x < box.width(); ++x) lines.setPixel(x, y, x % 2 ? 0xFFFFFF : 0);
   ASSERT_TRUE(lines.save(QString::fromStdString(path("Snaps/a.jpg").string()), nullptr, 100));
   start();
-  see(window());
+  // Of the frames 16, 44 and 200 the one nearest to 32 pixels.
+  EXPECT_EQ(picturesOf(0), "drawn yellow");
   const auto drawn = get(window(), "imgGames").grab().toImage();
   const auto at = drawn.rect().center();
   EXPECT_GT(std::abs(qGray(drawn.pixel(at)) - qGray(drawn.pixel(at + QPoint(1, 0)))), 200);
@@ -76,23 +45,25 @@ TEST_F(MainGames, PicturesAreAsFineAsTheScreenAndIconsTheNearestFrame) {
 
 TEST_F(MainGames, PicturesComeFromTheFirstFolderUpToAGap) {
   addGames("a b c d");
-  makePicture("Snaps/a.jpg", Qt::red, 8, 900);
-  for (const auto* name : {"two/a.JPG", "two/b.JPG"}) makePicture(name, Qt::blue);
-  makePicture("four/c.jpg", Qt::green);
-  makePicture("icons1/b.ico", Qt::yellow);
+  writePicture("Snaps/a.jpg", Qt::red, {8, 900});
+  for (const auto* name : {"two/a.JPG", "two/b.JPG"}) writePicture(name, Qt::blue);
+  writePicture("four/c.jpg", Qt::green);
+  writePicture("icons1/b.ico", Qt::yellow);
   start();
-  const auto in = [](const char* folder) { return AppFolder + "/" + folder; };
-  SnapPaths = {in("Snaps"), in("one"), in("TWO"), in("three"), in("four")};
-  IconPaths[1] = in("icons1");
-  use("lstGames@1 lstGames@2 lstGames@3 lstGames@0");
-  SnapPaths = {in("Snaps"), "", in("four"), "", ""};  // an empty entry ends the list
-  use("lstGames@2");
+  const auto in = [](const char* folder) { return Module1::AppFolder + "/" + folder; };
+  Module1::SnapPaths = {in("Snaps"), in("one"), in("TWO"), in("three"), in("four")};
+  Module1::IconPaths[1] = in("icons1");
+  int row = 0;
+  for (const auto* pictures : {"red drawn", "blue yellow", "drawn drawn", "drawn drawn"})
+    EXPECT_EQ(picturesOf(row++), pictures);
+  Module1::SnapPaths = {in("Snaps"), "", in("four"), "", ""};
+  EXPECT_EQ(picturesOf(2), "drawn drawn") << "an empty entry ends the list";
 }
 
 TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
-  makePicture("Snaps/a.jpg", Qt::red);
-  makePicture("Icons/a.ico", Qt::yellow);
-  makePicture("Icons/b.ico", Qt::blue);
+  writePicture("Snaps/a.jpg", Qt::red);
+  writePicture("Icons/a.ico", Qt::yellow);
+  writePicture("Icons/b.ico", Qt::blue);
   QImageWriter writer(QString::fromStdString(path("Snaps/b.jpg").string()));
   writer.setProgressiveScanWrite(true);
   ASSERT_TRUE(writer.write(QImage(QStringLiteral("Icons/b.ico"))));
@@ -120,12 +91,14 @@ TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
   for (const auto& [picture, frames] : rows) {
     write("Snaps/b.jpg", picture);
     write("Icons/b.ico", frames);
-    use("lstGames@0 lstGames@1");
+    EXPECT_EQ(picturesOf(0), "red yellow");
+    const bool isGood = frames == icon;
+    EXPECT_EQ(picturesOf(1), isGood ? "blue blue" : "red yellow") << picture.size();
   }
   // Good but for their size.
   for (const auto* name : {"Snaps/b.jpg", "Icons/b.ico"})
     std::filesystem::resize_file(path(name), 2147483648);
-  use("lstGames@0 lstGames@1");
+  for (const int row : {0, 1}) EXPECT_EQ(picturesOf(row), "red yellow");
 }
 
 }  // namespace

@@ -7,8 +7,6 @@
 
 namespace {
 
-using namespace Module1;
-
 class MainPlay : public support::UiTest {
  protected:
   // In the second second, so that three are all that the play takes.
@@ -22,11 +20,9 @@ class MainPlay : public support::UiTest {
 TEST_F(MainPlay, InGameWindowStaysUntilTheEndAndPausesAfterAGoodOne) {
   write("roms/a.zip", "");
   start();
-  use("mLang(2)");
   std::string how;
   clock.onSleep = [&] {
     auto& gaming = *QApplication::activeModalWidget();
-    if (clock.sleeps.size() == 1) see(gaming);
     // A good end may come before the clock moves.
     const bool moves = clock.sleeps.size() > 1 && how != "good";
     EXPECT_TRUE(textOf(gaming, "lblTime") == "1:00:05" || !moves);
@@ -43,13 +39,13 @@ TEST_F(MainPlay, InGameWindowStaysUntilTheEndAndPausesAfterAGoodOne) {
   for (const auto* end : {"good", "nolog", "crash"}) {
     write("roms/a.zip", "seconds=0\nend=" + (how = end));
     clock.sleeps.clear();
-    use("=Return");
+    act("press Return");
     EXPECT_EQ(clock.sleeps.size() > 3, how == "good") << how;
     EXPECT_FALSE(QApplication::activeModalWidget() || exists("error.log")) << how;
   }
   std::filesystem::remove(path("Kestrivane.exe"));
   clock.sleeps.clear();
-  use("cmdPlay");
+  act("click cmdPlay");
   EXPECT_TRUE(clock.sleeps.empty()) << "an emulator that is gone closes the window at once";
 }
 
@@ -68,27 +64,10 @@ TEST_F(MainPlay, InputOfThePlayAndThePauseIsDropped) {
     QTimer::singleShot(0, [&] { ++handled; });
     waitForEmulator();
   };
-  use("=Return");
+  act("press Return");
   clock.onSleep = nullptr;
   QTest::qWait(50);
   EXPECT_LE(clock.sleeps.size(), 6U) << "one play";
-  see(window());
-}
-
-TEST_F(MainPlay, DoubleClickPlaysAlsoWhatIsNotThereAndTextFromOutsideIsShownAsItIs) {
-  addGames("<b>&amp;%1[*] zz");
-  start();
-  clock.onSleep = [&] {
-    const auto& gaming = *QApplication::activeModalWidget();
-    if (clock.sleeps.size() == 1) see(gaming);
-    EXPECT_EQ(gaming.windowHandle()->title().toStdString(), textOf(window(), "lblGameTitle"));
-  };
-  clock.firstSleepTakes = std::chrono::seconds(21);
-  for (const auto* row : {"lstGames@@0{=Esc}", "lstGames@@1{=Esc}"}) {
-    clock.sleeps.clear();
-    use(row);
-    EXPECT_FALSE(exists("error.log"));
-  }
 }
 
 }  // namespace

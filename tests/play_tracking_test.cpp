@@ -25,10 +25,11 @@ class PlayTracking : public support::TempApp {
 TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
   RomPaths[2] = "C:\\my roms";
   Profiles.emplace_back().Name = "game_a";
-  for (const unsigned char system : {0, 1, 2}) {
-    Profiles[1].InputMethod = system;
+  unsigned char system = 0;
+  for (const std::string option : {"", " -input-system=xinput", " -input-system=rawinput"}) {
+    Profiles[1].InputMethod = system++;
     BuildLaunchRequest({"Title", "game_a", true, 2});
-    note(LaunchRequest.CommandLine);
+    EXPECT_EQ(LaunchRequest.CommandLine, R"(Kestrivane "C:\my roms\game_a.zip")" + option);
   }
 }
 
@@ -45,17 +46,19 @@ TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
 }
 
 TEST_F(PlayTracking, OddAndEqualRowsSurviveAndAFullTableTakesNoMore) {
-  for (const auto& [plays, seconds] : {std::pair("1", ""), {" 1 ", "5"}, {"2147483647", "5"}}) {
+  const std::tuple<const char*, const char*, const char*> rows[] = {
+      {"1", "", "g,1,"}, {" 1 ", "5", "g,2,35"}, {"2147483647", "5", "g,2147483647,5"}};
+  for (const auto& [plays, seconds, after] : rows) {
     PlayLog[0] = {"g", plays, seconds};
     countPlay("g", 30);
-    note(row(0) + " " + row(1));
+    EXPECT_EQ(row(0) + row(1), after + std::string(",,"));
   }
   PlayLog.fill({"other", "1", "30"});
   countPlay("new", 30);
-  note(row(0) + " " + row(40));
+  EXPECT_EQ(row(0) + row(40), "other,1,30other,1,30");
   PlayLog[0] = PlayLog[40] = {"g", "1", "30"};
   countPlay("g", 30);
-  note(row(0) + " " + row(39) + " " + row(40));
+  EXPECT_EQ(row(0) + row(39) + row(40), "g,2,60other,1,30g,2,60");
 }
 
 TEST_F(PlayTracking, ErrorLogOfAnyLengthIsReadAndOneThatStaysIsNot) {

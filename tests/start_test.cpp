@@ -13,12 +13,15 @@ using namespace Module1;
 class Start : public support::TempApp {};
 
 TEST_F(Start, TakesTheEmulatorAsItIs) {
-  for (const std::string fault :
-       {"", "silent", "nobanner", "binary", "noseparator", "games300", "killed", "log"}) {
+  const std::tuple<const char*, const char*, std::size_t> rows[] = {
+      {"", "0.3a", 41},       {"silent", "", 0},          {"nobanner", "", 41},
+      {"binary", "", 0},      {"noseparator", "0.3a", 0}, {"games300", "0.3a", 254},
+      {"killed", "0.3a", 41}, {"log", "0.3a", 41}};
+  for (const auto& [fault, version, games] : rows) {
     addEmulator(fault);
-    const bool silent = load() == i18n::Message::EmulatorSilent;
-    note(fault + ": " + EmulatorVersion + " " + std::to_string(GameCatalog.size() - 2) +
-         (silent ? " games, silent" : " games"));
+    EXPECT_EQ(load() == i18n::Message::EmulatorSilent, fault == std::string("silent"));
+    EXPECT_EQ(EmulatorVersion, version) << fault;
+    EXPECT_EQ(GameCatalog.size(), games + 2) << fault;
     EXPECT_FALSE(exists("error.log"));
   }
 }
@@ -60,17 +63,19 @@ TEST_F(Start, ArchivesAreTakenFromTheFirstFolderThatHasThem) {
   GameCatalog.assign(6, {});
   for (std::size_t row = 0; row < 4; ++row) GameCatalog[row].RomName = "abcd"[row];
   // Of each game the folder in which it was found last, with a dash ahead if it is gone.
-  const auto noteFound = [this](const char* first, const char* second) {
+  const auto foundWith = [](const char* first, const char* second) {
     RomPaths = {"ROMS", first, second, "three", "four"};
     for (auto& folder : RomPaths)
       if (!folder.empty()) folder.insert(0, AppFolder + "\\");
     FindGameArchives(GameCatalog, RomPaths);
+    std::string found;
     for (std::size_t row = 0; row < 4; ++row)
-      note((GameCatalog[row].Available ? "" : "-") + std::to_string(GameCatalog[row].RomFolder));
+      found += (GameCatalog[row].Available ? "" : "-") + std::to_string(GameCatalog[row].RomFolder);
+    return found;
   };
-  noteFound("One", "two\\");
-  noteFound("", "two\\");  // an empty entry ends the list, and the last folder is not searched
-  noteFound("two\\", "three");
+  EXPECT_EQ(foundWith("One", "two\\"), "103-0") << "the last folder is not searched";
+  EXPECT_EQ(foundWith("", "two\\"), "-10-3-0") << "an empty entry ends the list";
+  EXPECT_EQ(foundWith("two\\", "three"), "102-0");
 }
 
 TEST_F(Start, WorkingFoldersAreMadeUpToTheFirstFailure) {

@@ -94,7 +94,7 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
        {"Kestrivane.exe", "two words/Tool.exe", "two.exe", "x/Kestrivane.exe", "ROMs/My Game.zip"})
     write(file, "");
   std::filesystem::current_path(path("x"));
-  std::ifstream table(support::ToPath(SEEN) / "../texts.tsv", std::ios::binary);
+  std::ifstream table(support::ToPath(TESTS) / "texts.tsv", std::ios::binary);
   int rows = 0;
   for (std::string line; std::getline(table, line); ++rows) {
     const auto cells = base::Split(line, "\t");

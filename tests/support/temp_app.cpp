@@ -1,7 +1,5 @@
 #include "support/temp_app.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <random>
 
@@ -47,21 +45,6 @@ TempApp::~TempApp() {
   platform::SetProgramFolder(oldProgramFolder_);
   fs::current_path(oldWorkingFolder_);
   RemoveAll(root_);
-}
-
-void TempApp::note(std::string_view line) { (notes_ += line) += "\n"; }
-
-void TempApp::TearDown() {
-  if (notes_.empty()) return;
-  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-  const auto path = ToPath(SEEN) / (std::string(test->test_suite_name()) + "." + test->name());
-  if (std::getenv("SEEN_ANEW")) std::ofstream(path, std::ios::binary) << notes_;
-  std::ifstream in(path, std::ios::binary);
-  const std::string kept(std::istreambuf_iterator<char>(in), {});
-  const auto differ = std::mismatch(notes_.begin(), notes_.end(), kept.begin(), kept.end()).first;
-  const auto line = notes_.rfind('\n', differ - notes_.begin() - 1) + 1;
-  if (notes_ != kept)
-    ADD_FAILURE() << "now: " << notes_.substr(line, 500) << "\nkept: " << kept.substr(line, 500);
 }
 
 std::optional<i18n::Message> TempApp::load() {

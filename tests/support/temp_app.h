@@ -27,11 +27,6 @@ class TempApp : public testing::Test {
   TempApp();
   ~TempApp() override;
 
-  // Notes a line. A test ends by comparing its notes with those kept in tests/seen. With SEEN_ANEW
-  // in the environment it keeps the new ones, to be read before they are committed.
-  void note(std::string_view line);
-  void TearDown() override;
-
   // What a start loads, into the shared state; the message with which it would end.
   static std::optional<i18n::Message> load();
 
@@ -54,7 +49,7 @@ class TempApp : public testing::Test {
 
  private:
   std::filesystem::path root_, oldWorkingFolder_;
-  std::string oldProgramFolder_, notes_;
+  std::string oldProgramFolder_;
 };
 
 // Also what other functions find too long.

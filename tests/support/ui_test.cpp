@@ -1,10 +1,13 @@
 #include "support/ui_test.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QHelpEvent>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeWidget>
 #include <QWheelEvent>
 #include <cstdio>
 #include <cstdlib>
@@ -12,6 +15,7 @@
 #include <memory>
 
 #include "base/text.h"
+#include "platform/code_page.h"
 #include "platform/forms/application.h"
 
 namespace support {
@@ -57,87 +61,117 @@ void UiTest::start() {
 }
 
 void UiTest::startWith(const std::string& lines) {
-  write("Config/Kestrivane.ini",
-        base::ReplaceIgnoringCase(";*** Kestrivane UI\xae|[ Global ]|" + lines, "|", "\r\n"));
+  writeConfig(base::ReplaceIgnoringCase(lines, "|", "\n"));
   start();
 }
 
-void UiTest::key(const QKeySequence& key) {
+void UiTest::writeConfig(std::string lines) {
+  if (lines.find("InputStart") == std::string::npos) {
+    std::string bindings;
+    for (const auto& slot : Module1::Profiles[0].Slots)
+      if (slot.Value.starts_with('"')) bindings += slot.Name + " = " + slot.Value + "\n";
+    lines.insert(0, bindings);
+  }
+  lines = ";*** Kestrivane UI\xae\n[ Global ]\n" + platform::EncodeCodePage(lines) + "\n";
+  write("Config/Kestrivane.ini", base::ReplaceIgnoringCase(lines, "\n", "\r\n"));
+}
+
+void UiTest::writePicture(const std::string& name, const QColor& colour, QSize size) {
+  write(name, "");
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(colour);
+  ASSERT_TRUE(image.save(QString::fromStdString(ToText(path(name)))));
+}
+
+void UiTest::key(const QKeySequence& key, bool held) {
   const auto* popup = QApplication::activePopupWidget();
   const auto* target = popup ? popup : QApplication::activeWindow();
   ASSERT_TRUE(target) << "no window takes keys";
-  QTest::keyClick(target->windowHandle(), key[0].key(), key[0].keyboardModifiers());
+  if (held)
+    QTest::simulateEvent(target->windowHandle(), true, key[0].key(), Qt::NoModifier, {}, true);
+  else
+    QTest::keyClick(target->windowHandle(), key[0].key(), key[0].keyboardModifiers());
 }
 
-void UiTest::use(QWidget& window, const QString& steps) {
-  static const QRegularExpression form("([^ {]+)(\\{([^{}]|(?2))*\\})?");
-  for (auto found = form.globalMatch(steps); found.hasNext();) {
-    const auto match = found.next();
-    const auto step = match.captured(1), inside = match.captured(2);
-    note("> " + step.toStdString());
-    EXPECT_TRUE(!window.isVisible() || QTest::qWaitForWindowActive(&window));
-    const auto useOpened = [&](QWidget& opened) {
-      see(opened);
-      use(opened, inside.mid(1, inside.size() - 2));
-      const auto isClosed = [&] { return !opened.isVisible(); };
-      // The button of an access key is seen to go down first.
-      const int patience = inside.contains("=Alt+") ? 5000 : 0;  // milliseconds
-      note(QTest::qWaitFor(isClosed, patience) ? "<" : "< left");
-    };
-    if (inside.isEmpty())
-      act(window, step);
-    else
-      inModal(useOpened, [&] { act(window, step); });
-    if (window.isVisible()) see(window);
-    seeState();
+QString UiTest::act(QWidget& window, const QString& step) {
+  EXPECT_TRUE(!window.isVisible() || QApplication::activeWindow() == &window ||
+              QTest::qWaitForWindowActive(&window))
+      << qPrintable(step);
+  const auto verb = step.section(' ', 0, 0), rest = step.section(' ', 1);
+  const auto words = rest.split(" in ");
+  const auto what = words[0], name = words.last().section(':', 0, 0);
+  if (auto* box = qobject_cast<QMessageBox*>(&window)) {
+    for (auto* button : box->findChildren<QPushButton*>())
+      if (button->text().remove('&') == what) return button->click(), QString();
+    throw std::runtime_error("no button says " + what.toStdString());
   }
+  if (verb == "press" || verb == "hold") {
+    if (words.size() > 1) get(window, name).setFocus();
+    key(QKeySequence(what), verb == "hold");
+  } else if (verb == "choose") {
+    get<QAction>(window, name).trigger();
+  } else if (verb == "close") {
+    window.close();
+  } else {
+    return actOn(get(window, name), verb, words);
+  }
+  QApplication::processEvents();
+  return {};
 }
 
-void UiTest::act(QWidget& window, const QString& step) {
-  static const QRegularExpression form("^([^=~@]*)(=|~|@*)(.*)$");
-  const auto parts = form.match(step);
-  const auto name = parts.captured(1), kind = parts.captured(2), what = parts.captured(3);
-  static const QMap<QString, QMessageBox::StandardButton> buttons = {
-      {"Yes", QMessageBox::Yes},
-      {"No", QMessageBox::No},
-      {"Cancel", QMessageBox::Cancel},
-      {"Ok", QMessageBox::Ok}};
-  if (auto* box = qobject_cast<QMessageBox*>(&window))
-    return box->button(buttons.value(name))->click();
-  if (name.isEmpty()) return key(QKeySequence(what));
-  if (auto* menu = window.findChild<QAction*>(name)) return menu->trigger();
-  auto& control = get(window, name);
-  if (kind == "=") {
-    if (!window.isVisible()) return QTest::keyClick(&control, QKeySequence(what)[0].key());
-    control.setFocus();
-    return key(QKeySequence(what));
-  }
-  if (kind == "~") {
+QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& words) {
+  auto* list = qobject_cast<QListWidget*>(&control);
+  const int row = words.last().section(':', 1).toInt();
+  const bool isRow = words.last().contains(':');
+  auto& target = isRow ? *list->viewport() : control;
+  // Near the left end, where a check box has its box.
+  const auto place =
+      isRow ? list->visualItemRect(list->item(row)).center() : QPoint(9, control.height() / 2);
+  if (verb == "hover") return "tip " + QString::fromStdString(tipAt(target, place));
+  if (verb == "click" || verb == "double-click") {
+    QTest::mouseClick(&target, Qt::LeftButton, {}, place);
+    if (verb == "double-click") QTest::mouseDClick(&target, Qt::LeftButton, {}, place);
+  } else if (verb == "wheel") {
     const QPointF at(5, 5);
-    QWheelEvent wheel(at, control.mapToGlobal(at), {}, {0, what.toInt()}, {}, {}, {}, false);
+    QWheelEvent wheel(at, control.mapToGlobal(at), {}, {0, words[0].toInt()}, {}, {}, {}, false);
     QApplication::sendEvent(&control, &wheel);
-    return;
+  } else if (verb == "type") {
+    control.setFocus();
+    QTest::keyClicks(&control, words[0]);
+  } else if (verb == "focus") {
+    control.setFocus();
+  } else if (verb == "open") {
+    // As a person would by opening its parents.
+    auto& tree = dynamic_cast<QTreeWidget&>(control);
+    tree.setCurrentItem(tree.findItems(words[0], Qt::MatchExactly | Qt::MatchRecursive).first());
+  } else if (verb == "activate") {
+    // By assistive technology.
+    auto* told = QAccessible::queryAccessibleInterface(&control);
+    (isRow ? told->child(row) : told)
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+  } else {
+    throw std::runtime_error("nobody can " + verb.toStdString());
   }
-  auto* target = &control;
-  QPoint place(9, control.height() / 2);
-  if (const auto* list = qobject_cast<const QListWidget*>(&control); list && !kind.isEmpty()) {
-    target = list->viewport();
-    place = list->visualItemRect(list->item(what.toInt())).center();
-  }
-  QTest::mouseClick(target, Qt::LeftButton, {}, place);
-  if (kind == "@@") QTest::mouseDClick(target, Qt::LeftButton, {}, place);
+  QApplication::processEvents();
+  return {};
 }
 
 void UiTest::modify(const char* page, const std::function<void(QWidget&)>& step) {
   const auto inPage = [&](QWidget& options) {
-    use(options, page);
+    act(options, QString("click ") + page);
     step(options);
   };
-  inModal(inPage, [this] { use("mConfig"); });
+  inModal(inPage, [this] { act("choose mConfig"); });
 }
 
 void UiTest::inModal(const std::function<void(QWidget&)>& step,
                      const std::function<void()>& action) {
+  EXPECT_TRUE(whenModal(step, action)) << "no window opened";
+}
+
+bool UiTest::whenModal(const std::function<void(QWidget&)>& step,
+                       const std::function<void()>& action) {
   const auto* before = QApplication::activeModalWidget();
   bool done = false;
   int patience = 2000;
@@ -154,7 +188,7 @@ void UiTest::inModal(const std::function<void(QWidget&)>& step,
   });
   timer.start(5);
   action();
-  EXPECT_TRUE(done) << "no window opened";
+  return done;
 }
 
 }  // namespace support

@@ -1,0 +1,66 @@
+// What is painted: the focus, and texts that are too long for their place.
+#include <QScrollBar>
+
+#include "platform/forms/form.h"
+#include "platform/forms/label.h"
+#include "support/ui_test.h"
+
+namespace {
+
+class Painting : public support::UiTest {};
+
+TEST_F(Painting, ScrollsTheInputsTogetherAndShowsTheFocusOfALink) {
+  start();
+  modify("optOPT(2)", [this](QWidget& window) {
+    const auto bar = [&](const char* name) {
+      return get<QListWidget>(window, name).verticalScrollBar();
+    };
+    act(window, "press Tab in cmbInputType");
+    act(window, "press End in lstInput(2)");
+    EXPECT_GT(bar("lstInput(2)")->value(), 0);
+    EXPECT_EQ(bar("lstInput(2)")->value(), bar("lstInput(1)")->value());
+    bar("lstInput(0)")->setValue(1);
+    EXPECT_EQ(bar("lstInput(3)")->value(), 1);
+    auto& link = get(window, "lblAdvOpts");
+    const auto plain = link.grab().toImage();
+    link.setFocus();
+    EXPECT_NE(link.grab().toImage(), plain) << "the focus is seen";
+  });
+}
+
+TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
+  forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
+  forms::Label label(form, "label", {0, 0, 3000, 900}, "");
+  auto& widget = get(*form.clientArea()->window(), "label");
+  const auto drawn = [&](const QString& text) {
+    label.setCaption(text.toStdString());
+    return widget.grab().toImage();
+  };
+  // How many lines of text are seen.
+  const auto linesOf = [](const QImage& image) {
+    int lines = 0;
+    bool inside = false;
+    for (int y = 0; y < image.height(); ++y) {
+      bool ink = false;
+      for (int x = 1; x < image.width(); ++x) ink |= image.pixel(x, y) != image.pixel(0, y);
+      lines += ink && !inside;
+      inside = ink;
+    }
+    return lines;
+  };
+  // Without letters that reach above or below the others.
+  const auto text = QStringLiteral("sea cows are near us no one crew saw ").repeated(20);
+  for (const int lines : {1, 3}) {
+    label.setWordWrap(lines > 1);
+    widget.resize(200, widget.fontMetrics().lineSpacing() * lines + (lines > 1 ? 5 : 0));
+    const auto cut = drawn(text);
+    EXPECT_EQ(linesOf(cut), lines);
+    int same = 0;
+    for (int length = 20; length < 200; ++length)
+      same += drawn(text.left(length).trimmed() + QChar(0x2026)) == cut;
+    EXPECT_GT(same, 0) << "no beginning of the text and an ellipsis";
+    EXPECT_EQ(linesOf(drawn("sea cows")), 1);
+  }
+}
+
+}  // namespace

@@ -1,0 +1,171 @@
+#include "support/snapshot.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMetaEnum>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTreeWidget>
+
+#include "core/module1.h"
+
+namespace support {
+namespace {
+
+QString Quoted(const QString& text) { return "\"" + text + "\""; }
+
+QAccessibleInterface& Told(const QWidget& control) {
+  return *QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
+}
+
+// A row as assistive technology has it. In brackets stands what it is called where it is empty.
+QString RowText(const QListWidget& list, int row) {
+  const auto& told = *Told(list).child(row);
+  const auto shown = list.item(row)->text(), name = told.text(QAccessible::Name);
+  const auto description = told.text(QAccessible::Description);
+  auto text = shown.isEmpty() ? "(" + name + ")" : shown;
+  if (!shown.isEmpty() && shown != name) text += " called " + Quoted(name);
+  if (!description.isEmpty()) text += " (" + description + ")";
+  if (told.state().disabled && list.isEnabled()) text += " disabled";
+  if (told.state().selected != list.item(row)->isSelected()) text += " SELECTION NOT TOLD";
+  return text;
+}
+
+// Of a list all rows, of a tree the current one and what is open below it.
+QStringList RowsOf(const QWidget& control) {
+  QStringList rows;
+  if (const auto* list = qobject_cast<const QListWidget*>(&control))
+    for (int row = 0; row < list->count(); ++row) rows << RowText(*list, row);
+  if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
+    const auto* current = tree->currentItem();
+    rows << current->text(0);
+    for (int row = 0; current->isExpanded() && row < current->childCount(); ++row)
+      rows << current->child(row)->text(0);
+  }
+  return rows;
+}
+
+QString SelectionOf(const QListWidget& list) {
+  QString text;
+  for (int row = 0; row < list.count(); ++row)
+    if (list.item(row)->isSelected()) text += "row " + QString::number(row);
+  return text + (list.verticalScrollBar()->value() > 0 ? " scrolled" : "");
+}
+
+QString StateOf(const QWidget& control) {
+  const auto& told = Told(control);
+  const auto role = told.role();
+  const auto state = told.state();
+  QStringList text;
+  if (const auto* label = qobject_cast<const QLabel*>(&control);
+      label && role != QAccessible::Graphic)
+    text << Quoted(label->text());
+  else if (role == QAccessible::CheckBox || role == QAccessible::RadioButton)
+    text << (state.checkStateMixed ? "mixed" : state.checked ? "checked" : "unchecked");
+  else if (role == QAccessible::Graphic)
+    text << ColourOf(control);
+  else if (const auto* list = qobject_cast<const QListWidget*>(&control))
+    text << SelectionOf(*list);
+  // Every machine has drives of its own.
+  else if (const auto value = told.text(QAccessible::Value);
+           !value.isEmpty() && control.objectName() != "Drive1")
+    text << Quoted(value);
+  for (const auto colour : {control.foregroundRole(), control.backgroundRole()})
+    if (control.palette().isBrushSet(QPalette::Active, colour))
+      text << control.palette().color(colour).name();
+  const auto tip = control.toolTip();
+  if (!tip.isEmpty() && tip != told.text(QAccessible::Name)) text << "tip " + Quoted(tip);
+  if (control.isHidden()) text << "hidden";
+  if (!control.isEnabledTo(control.parentWidget())) text << "disabled";
+  if (state.disabled == control.isEnabled()) text << "NOT TOLD WHETHER ENABLED";
+  if (control.isVisible()) text << LayoutFaults(control).trimmed();
+  text.removeAll("");
+  return text.join(' ');
+}
+
+QString LooksOf(const QWidget& control) {
+  const auto& told = Told(control);
+  const auto name = told.text(QAccessible::Name), caption = control.property("text").toString();
+  const auto box = control.geometry();
+  const auto font = control.font();
+  QString text = QMetaEnum::fromType<QAccessible::Role>().valueToKey(told.role());
+  const bool isLabel = qobject_cast<const QLabel*>(&control);
+  if (!isLabel || name != caption) text += " " + Quoted(name);
+  if (!isLabel && !caption.isEmpty() && caption != name && told.role() != QAccessible::EditableText)
+    text += " " + Quoted(caption);
+  if (!name.isEmpty() && control.toolTip() == name) text += " as tip too";
+  text += QString(" %1px").arg(font.pixelSize());
+  // Where a link stands depends on the machine's fonts.
+  if (!isLabel || control.focusPolicy() == Qt::NoFocus)
+    text += QString(" %1,%2 %3x%4").arg(box.x()).arg(box.y()).arg(box.width()).arg(box.height());
+  if (font.bold()) text += " bold";
+  if (font.italic()) text += " italic";
+  if (font.underline()) text += " underlined";
+  if (told.state().readOnly) text += " read only";
+  if (const auto* button = qobject_cast<const QPushButton*>(&control);
+      button && button->isDefault())
+    text += " default";
+  if (told.role() == QAccessible::ComboBox && control.objectName() != "Drive1") {
+    QStringList rows;
+    for (int row = 0; row < told.childCount(); ++row)
+      rows << told.child(row)->text(QAccessible::Name);
+    text += " of " + rows.join(", ");
+  }
+  return text;
+}
+
+}  // namespace
+
+QString Whole(const Snapshot& it) {
+  auto text = it.name + ":";
+  if (!it.state.isEmpty()) text += " " + it.state;
+  if (!it.rows.isEmpty()) text += " [" + it.rows.join(" | ") + "]";
+  return text + " --" + (it.looks.isEmpty() ? "" : " " + it.looks);
+}
+
+// Where folders are spelled by the system or by the program, one spelling is taken.
+QString Plain(QString text) {
+  text.replace(QString::fromStdString(Module1::AppFolder), "<app>").replace('\\', '/');
+  return text.replace("/roms", "/ROMs").remove('\r').replace('\n', " / ");
+}
+
+QString ColourOf(const QWidget& picture) {
+  static const char* const names[] = {"red", "yellow", "green", "cyan", "blue", "magenta"};
+  const auto image = const_cast<QWidget&>(picture).grab().toImage();
+  const auto pixel = image.pixelColor(image.rect().center());
+  return pixel.saturation() < 240 ? "drawn" : names[(pixel.hue() + 30) / 60 % 6];
+}
+
+QList<Snapshot> SnapshotsOf(const QWidget& window) {
+  QList<Snapshot> all;
+  const auto add = [&](const QString& name, const QString& state, QStringList rows,
+                       const QString& looks) {
+    for (auto& row : rows) row = Plain(row);
+    all.append({name, Plain(state), rows, Plain(looks)});
+  };
+  const auto isOurs = [](const QObject& object) {
+    return !object.objectName().isEmpty() && !object.objectName().startsWith("qt_");
+  };
+  add("Title", Quoted(window.windowTitle()), {}, window.windowIcon().isNull() ? "NO ICON" : "icon");
+  const auto* focus = window.focusWidget();
+  add("Focus", focus && isOurs(*focus) ? focus->objectName() : "", {}, "at first");
+  const auto* popup = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
+  add("Menu", popup ? popup->menuAction()->objectName() + " is open" : "", {}, "");
+  QStringList order;
+  for (auto* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
+    if (next->isVisible() && next->focusPolicy() & Qt::TabFocus) order << next->objectName();
+  add("Tab", "", {}, order.join(' '));
+  for (const auto* item : window.findChildren<QAction*>())
+    if (isOurs(*item))
+      add(item->objectName(), item->isChecked() ? "checked" : "", {}, Quoted(item->text()));
+  for (const auto* control : window.findChildren<QWidget*>())
+    if (isOurs(*control) && control->window() == &window)
+      add(control->objectName(), StateOf(*control), RowsOf(*control), LooksOf(*control));
+  return all;
+}
+
+}  // namespace support
