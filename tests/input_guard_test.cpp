@@ -1,4 +1,5 @@
 // Whose input is obeyed and when: by mouse, by keys, and by assistive technology.
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QLineEdit>
@@ -148,6 +149,23 @@ TEST_F(InputGuard, SameKeyTwiceIsObeyedTwiceBesideAListener) {
   EXPECT_EQ(ends.size(), 2U);
   copy(QEvent::KeyPress, Qt::Key_Escape, true);
   EXPECT_EQ(ends.size(), 2U) << "held down";
+}
+
+// Without a grab by popups the keys come to the window below.
+TEST_F(InputGuard, KeyThatClosesADropDownListDoesNothingElse) {
+  start();
+  inOptions([&](QWidget& options) {
+    auto& box = get<QComboBox>(options, "cmbInputType");
+    for (const auto key : {Qt::Key_Escape, Qt::Key_Return}) {
+      box.setFocus();
+      box.showPopup();
+      QTest::keyClick(options.windowHandle(), key);
+      EXPECT_FALSE(box.view()->isVisible());
+      EXPECT_TRUE(options.isVisible()) << key;
+    }
+    QTest::keyClick(options.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(options.isVisible());
+  });
 }
 
 TEST_F(InputGuard, EnterPressesTheFirstButtonOfAQuestion) {

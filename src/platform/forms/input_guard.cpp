@@ -71,6 +71,30 @@ class HeldKeys {
   } released_;
 };
 
+// A drop-down list closes at the question whether a key is a shortcut. The key press behind it is
+// meant for the list too, but where the window system has no grab by popups it comes to the window
+// below.
+class PopupKeys {
+ public:
+  // Told of each question, which climbs from a control to its parents.
+  void asked(const QKeyEvent& question) {
+    if (QApplication::activePopupWidget())
+      taken_ = {question.key(), question.timestamp()};
+    else if (question.timestamp() != taken_.time)
+      taken_ = {};
+  }
+  bool drops(const QKeyEvent& key) {
+    if (key.type() == QEvent::KeyRelease) taken_ = {};
+    return key.key() == taken_.key && !QApplication::activePopupWidget();
+  }
+
+ private:
+  struct {
+    int key = 0;
+    quint64 time = 0;
+  } taken_;
+};
+
 // The second click of a double click is meant for what stood there at the first one, not for what
 // came up since because a window opened or closed.
 class SecondClicks {
@@ -115,7 +139,12 @@ class Guard : public QObject {
     const auto type = event->type();
     const bool key = type == QEvent::KeyPress || type == QEvent::KeyRelease;
     // Told of every key and click, also of those that are dropped for another reason.
-    if (key && repeats(*static_cast<QKeyEvent*>(event), watched->isWindowType())) return true;
+    if (key) {
+      const auto& pressed = *static_cast<QKeyEvent*>(event);
+      const bool repeated = repeats(pressed, watched->isWindowType());
+      if (popupKeys_.drops(pressed) || repeated) return true;
+    }
+    if (type == QEvent::ShortcutOverride) popupKeys_.asked(*static_cast<QKeyEvent*>(event));
     const bool ofWidget = watched->isWidgetType();
     if (IsOfMouse(*event) && (ofWidget || paused) &&
         clicks_.drops(*static_cast<QMouseEvent*>(event)))
@@ -146,6 +175,7 @@ class Guard : public QObject {
   }
 
   HeldKeys keys_;
+  PopupKeys popupKeys_;
   SecondClicks clicks_;
 };
 
