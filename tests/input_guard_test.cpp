@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWindow>
 
 #include "core/module1.h"
@@ -26,6 +27,13 @@ class InputGuard : public support::UiTest {
   }
   // Every press, at once and later, that the interface offers.
   static void press(QAccessibleInterface* interface) {
+    const auto closeWhatOpens = [before = QApplication::activeModalWidget()] {
+      auto* modal = QApplication::activeModalWidget();
+      if (modal == before) return;
+      ADD_FAILURE() << modal->objectName().toStdString() << " opened";
+      modal->close();
+    };
+    QTimer::singleShot(100, closeWhatOpens);
     for (const auto& action : interface->actionInterface()->actionNames())
       if (action != QAccessibleActionInterface::setFocusAction())
         interface->actionInterface()->doAction(action);

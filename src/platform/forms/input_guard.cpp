@@ -9,7 +9,7 @@
 namespace forms {
 namespace {
 
-bool paused = false;
+bool Paused = false;
 
 // What a person does, and what the toolkit makes of it.
 bool IsInput(const QEvent& event) {
@@ -146,10 +146,10 @@ class Guard : public QObject {
     }
     if (type == QEvent::ShortcutOverride) popupKeys_.asked(*static_cast<QKeyEvent*>(event));
     const bool ofWidget = watched->isWidgetType();
-    if (IsOfMouse(*event) && (ofWidget || paused) &&
+    if (IsOfMouse(*event) && (ofWidget || Paused) &&
         clicks_.drops(*static_cast<QMouseEvent*>(event)))
       return true;
-    if (!ofWidget) return paused && IsInput(*event);
+    if (!ofWidget) return Paused && IsInput(*event);
     const auto& widget = *static_cast<QWidget*>(watched);
     if ((type == QEvent::Show || type == QEvent::Hide) && opensAndCloses(widget))
       clicks_.windowOpenedOrClosed();
@@ -188,12 +188,12 @@ void GuardInput(QApplication& application) {
 bool TakesInput(const QWidget& widget) {
   const auto& window = *widget.window();
   const auto* modal = QApplication::activeModalWidget();
-  return !paused && window.isVisible() && (!modal || IsPartOf(*modal, window));
+  return !Paused && window.isVisible() && (!modal || IsPartOf(*modal, window));
 }
 
-InputPause::InputPause() : before_(std::exchange(paused, true)) {}
+InputPause::InputPause() : before_(std::exchange(Paused, true)) {}
 
-InputPause::~InputPause() { paused = before_; }
+InputPause::~InputPause() { Paused = before_; }
 
 void PressLater(QWidget& widget, std::function<void()> press) {
   if (!TakesInput(widget)) return;
