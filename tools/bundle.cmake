@@ -11,6 +11,8 @@ execute_process(COMMAND "${QMAKE}" -query QT_INSTALL_PLUGINS
   OUTPUT_VARIABLE PLUGIN_FOLDER OUTPUT_STRIP_TRAILING_WHITESPACE)
 set(NEEDED_PLUGINS
   platforms/libqxcb.so platforms/libqwayland-generic.so wayland-shell-integration/libxdg-shell.so
+  # Without this one, windows on Wayland get no title bar.
+  wayland-graphics-integration-client/libqt-plugin-wayland-egl.so
   imageformats/libqico.so imageformats/libqjpeg.so)
 list(TRANSFORM NEEDED_PLUGINS PREPEND "${PLUGIN_FOLDER}/")
 foreach(PLUGIN ${NEEDED_PLUGINS})

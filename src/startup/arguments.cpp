@@ -13,8 +13,9 @@ std::string Version() {
 constexpr const char* kHelp =
     "Usage: KestrivaneUI [--version | --help]\n"
     "\n"
-    "The front-end for the arcade emulator Kestrivane. Without an argument it opens its\n"
-    "window. The emulator, Kestrivane.exe, has to be in the same folder as KestrivaneUI.\n"
+    "The front-end for the arcade emulator Kestrivane, which\n"
+    "has to be in the same folder as Kestrivane.exe. Without an\n"
+    "argument the front-end opens its window.\n"
     "\n"
     "  --version  print the version and end\n"
     "  --help     print this text and end\n";
