@@ -26,10 +26,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL Linux)
   # plugins (application.cpp). The version keeps a program from libraries that an archive with another
   # toolkit left here: it takes the system's then.
   set(TOOLKIT KestrivaneUI-Qt-${Qt6_VERSION})
-  # The same before it is installed: to make room for another path, CMake would lengthen it by empty
-  # entries, and the loader takes those for the working folder.
-  set_target_properties(KestrivaneUI PROPERTIES
-    INSTALL_RPATH "$ORIGIN/${TOOLKIT}" INSTALL_RPATH_USE_LINK_PATH ON BUILD_WITH_INSTALL_RPATH ON)
+  set_target_properties(KestrivaneUI PROPERTIES INSTALL_RPATH "$ORIGIN/${TOOLKIT}")
   target_link_options(KestrivaneUI PRIVATE -Wl,--disable-new-dtags)
 
   install_program(COMPONENT bundle EXCLUDE_FROM_ALL)
