@@ -5,6 +5,7 @@
 #include "config/user_settings.h"
 #include "core/option_catalogue.h"
 #include "platform/code_page.h"
+#include "support/short_patience.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"
 
@@ -12,6 +13,8 @@ namespace config {
 namespace {
 
 using namespace Module1;
+
+constexpr const char* kName = "Config/Kestrivane.ini";
 
 // The file of a user who has been everywhere, with "|" for each line's end.
 constexpr const char* kFile =
@@ -39,6 +42,11 @@ class ConfigFile : public support::TempApp {
 
   static std::string& value(std::size_t row, const char* name) {
     return Profiles[row].Slots[core::OptionIndex(name)].Value;
+  }
+  static void load(const std::string& bytes) {
+    startup::FillSharedState();
+    write(kName, bytes);
+    Adopt(LoadConfigFile(AppFolder));
   }
   // The state that the file stands for, with much beside it that the file does not hold.
   void fillState() {
@@ -78,12 +86,8 @@ TEST_F(ConfigFile, AFailureLeavesTheOldFile) {
 }
 
 TEST_F(ConfigFile, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
-  const std::string file = "Config/Kestrivane.ini", unread = file + ".unread";
-  const auto load = [&](const std::string& bytes) {
-    startup::FillSharedState();
-    write(file, bytes);
-    Adopt(LoadConfigFile(AppFolder));
-  };
+  const std::string file = kName, unread = file + ".unread";
+  const support::ShortPatience patience;
   // A bad line alone, and what nobody could read or even look for.
   for (const auto& locked : {std::string(), file, std::string("Config")}) {
     if (!locked.empty() && !support::kPosix) continue;
@@ -124,6 +128,67 @@ TEST_F(ConfigFile, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
   EXPECT_EQ(read(file), sections) << "the state never held the whole file";
 }
 
+TEST_F(ConfigFile, IsCopiedWhereASaveWouldLoseIt) {
+  const std::string unread = kName + std::string(".unread"), bak = kName + std::string(".bak");
+  fillState();
+  const auto ours = platform::EncodeCodePage(ConfigText());
+  const auto cut = ours.substr(0, ours.find("KVL configuration"));
+  const std::string zeros(5000, '\0'), foreign = "Vsync = 0\r\n";
+  const struct {
+    const char* what;
+    std::string bytes;
+    bool (*happens)();  // after the start; whether there is something to lose
+  } rows[] = {
+      {"ours", ours, [] { return false; }},
+      {"with zeros behind it", ours + zeros, [] { return false; }},
+      {"cut short", cut, [] { return true; }},
+      {"cut short, with zeros", cut + zeros, [] { return true; }},
+      {"a line too much for the reader", ours + ";InputMethod=x\r\n", [] { return true; }},
+      {"of another program", foreign, [] { return false; }},
+      {"and touched", foreign,
+       [] {
+         std::filesystem::last_write_time(path(kName),
+                                          std::filesystem::file_time_type::clock::now());
+         return false;
+       }},
+      {"and then changed", foreign,
+       [] {
+         write(kName, "Vsync = 1\r\n");
+         return true;
+       }},
+  };
+  for (const auto& [what, bytes, happens] : rows)
+    for (const bool noBak : {false, true}) {
+      std::filesystem::remove_all(path("Config"));
+      if (noBak) std::filesystem::create_directories(path(bak));
+      load(bytes);
+      const bool isLost = happens() || (noBak && bytes == foreign);
+      const auto old = read(kName);
+      const auto copied = noBak ? "" : read(bak);
+      EXPECT_EQ(copied, bytes == foreign && !noBak ? foreign : "") << what;
+      WriteConfigFile();
+      EXPECT_EQ(exists(unread), isLost) << what << noBak;
+      EXPECT_EQ(read(unread), isLost ? old : "") << what;
+      EXPECT_EQ(read(kName), platform::EncodeCodePage(ConfigText())) << what;
+      WriteConfigFile();
+      EXPECT_FALSE(exists(unread + "2")) << what << ": once";
+    }
+}
+
+TEST_F(ConfigFile, HasItsCopiesForTheSameReaders) {
+  if (!support::kPosix) GTEST_SKIP() << "files have no permission bits";
+  for (const unsigned rights : {0600U, 0664U})
+    for (const std::string bytes : {"Vsync = 0\r\n", ";InputMethod=x\r\n"}) {
+      write(kName, bytes);
+      std::filesystem::permissions(path(kName), std::filesystem::perms(rights));
+      load(bytes);
+      WriteConfigFile();
+      for (const auto& file : std::filesystem::directory_iterator(path("Config")))
+        EXPECT_EQ(static_cast<unsigned>(file.status().permissions()), rights) << file.path();
+      std::filesystem::remove(path(kName + std::string(".unread")));
+    }
+}
+
 TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
   const auto file = path("Config/Kestrivane.ini");
   const auto expectDefaults = [](const char* what) {
@@ -142,6 +207,12 @@ TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
     const support::Unprivileged user;
     expectDefaults("one that nobody may read");
   }
+  std::filesystem::permissions(file, std::filesystem::perms(0666));
+  std::filesystem::resize_file(file, 17 << 20);
+  expectDefaults("one of 17 MB");
+  WriteConfigFile();
+  EXPECT_EQ(read(kName), platform::EncodeCodePage(ConfigText()));
+  EXPECT_EQ(std::filesystem::file_size(path(kName + std::string(".unread"))), 17U << 20U);
 }
 
 TEST_F(ConfigFile, SettingsStoreTakesAllItsKeysAndForgetsNone) {

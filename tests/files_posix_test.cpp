@@ -48,6 +48,9 @@ TEST_F(PosixFiles, AreFoundInAnySpelling) {
   EXPECT_EQ(FirstFolderOfEach({"two.zip", "éclair one.zip", "Three.ZIP", "three.zip", "four.zip"},
                               folders),
             std::vector<std::size_t>({1, 1, 1, 2, 2}));
+  auto shared = "\\\\" + AppFolder.substr(1) + "\\\\roms\\\\two.zip";
+  EXPECT_TRUE(FileExists(shared));
+  EXPECT_EQ(shared, "\\\\" + AppFolder.substr(1) + "\\roms\\two.zip");
   EXPECT_TRUE(IsFolder(AppFolder + "\\roms\\") && !IsFolder(AppFolder + "\\roms\\two.zip"));
   EXPECT_TRUE(IsFile("roms\\two.zip") && !IsFile("")) << "relative to the working folder";
 }

@@ -1,45 +1,119 @@
+#include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/syscall.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdarg>
+#include <thread>
+
 #include "base/error_boundary.h"
+#include "config/config_reader.h"
+#include "config/config_writer.h"
+#include "core/option_catalogue.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
-#include "support/fake_clock.h"
+#include "support/short_patience.h"
 #include "support/temp_app.h"
 
 namespace {
 
-constexpr int kKill = 0;
+enum class Kind { Fails, IsShortAndThenFails, Kills };
 
-// The system call of a save that fails, counted from 1, and what it leaves in errno.
-struct {
-  int call = 0, error = 0, calls = 0;
+// Which system call fails, counted from 1, and how often those of its name do.
+thread_local struct Fault {
+  int call = 0;
+  Kind kind = Kind::Fails;
+  int error = 0;
+  bool lasts = false;
+  bool counts = false;
+  int calls = 0;
+  std::string name{};
 } fault;
 
-template <class... Arguments>
-int Call(long number, Arguments... arguments) {
-  if (++fault.calls != fault.call) return static_cast<int>(syscall(number, arguments...));
-  if (fault.error == kKill) _exit(0);
-  errno = fault.error;
-  return -1;
+bool Fails(const char* name) {
+  if (!fault.counts) return false;
+  const bool isNext = ++fault.calls == fault.call;
+  if (isNext && fault.kind == Kind::Kills) _exit(0);
+  if (isNext) fault.name = name;
+  const bool isOneMore = fault.lasts && fault.calls > fault.call && fault.name == name;
+  if (isNext || isOneMore) errno = fault.error;
+  return isNext || isOneMore;
+}
+
+// A short call does half of its work, and the next one fails.
+std::size_t Done(const char* name, std::size_t size) {
+  const bool isShort = fault.counts && fault.calls + 1 == fault.call && size > 1 &&
+                       fault.kind == Kind::IsShortAndThenFails;
+  if (isShort) {
+    fault.kind = Kind::Fails;
+    ++fault.calls;
+    fault.name = name;
+    fault.call += fault.lasts ? 0 : 1;
+    return size / 2;
+  }
+  return Fails(name) ? 0 : size;
+}
+
+template <class Function>
+Function* Next(Function*, const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
 }  // namespace
 
+#define NEXT(function) Next(&(function), #function)
+
 // Those of the library, for this whole program.
 extern "C" {
-int flock(int file, int lock) noexcept { return Call(SYS_flock, file, lock); }
-int fallocate(int file, int mode, off_t at, off_t n) {
-  return Call(SYS_fallocate, file, mode, at, n);
+int stat(const char* path, struct stat* status) noexcept {
+  return Fails("stat") ? -1 : NEXT(stat)(path, status);
 }
-int ftruncate(int file, off_t size) noexcept { return Call(SYS_ftruncate, file, size); }
+int fstat(int file, struct stat* status) noexcept {
+  return Fails("fstat") ? -1 : NEXT(fstat)(file, status);
+}
+DIR* opendir(const char* path) { return Fails("opendir") ? nullptr : NEXT(opendir)(path); }
+dirent* readdir(DIR* folder) { return Fails("readdir") ? nullptr : NEXT(readdir)(folder); }
+ssize_t readlink(const char* path, char* text, size_t size) noexcept {
+  return Fails("readlink") ? -1 : NEXT(readlink)(path, text, size);
+}
+int open(const char* path, int how, ...) {
+  va_list more;
+  va_start(more, how);
+  const auto mode = va_arg(more, mode_t);
+  va_end(more);
+  return Fails("open") ? -1 : NEXT(open)(path, how, mode);
+}
+int flock(int file, int lock) noexcept { return Fails("flock") ? -1 : NEXT(flock)(file, lock); }
+ssize_t pread(int file, void* bytes, size_t size, off_t at) {
+  const auto done = Done("pread", size);
+  return done == 0 && size > 0 ? -1 : NEXT(pread)(file, bytes, done, at);
+}
 ssize_t pwrite(int file, const void* bytes, size_t size, off_t at) {
-  return Call(SYS_pwrite64, file, bytes, size, at);
+  const auto done = Done("write", size);
+  return done == 0 && size > 0 ? -1 : NEXT(pwrite)(file, bytes, done, at);
 }
-int fdatasync(int file) { return Call(SYS_fdatasync, file); }
-int fsync(int file) { return Call(SYS_fsync, file); }
+ssize_t write(int file, const void* bytes, size_t size) {
+  const auto done = Done("write", size);
+  return done == 0 && size > 0 ? -1 : NEXT(write)(file, bytes, done);
+}
+int fallocate(int file, int mode, off_t at, off_t n) {
+  return Fails("fallocate") ? -1 : NEXT(fallocate)(file, mode, at, n);
+}
+int ftruncate(int file, off_t size) noexcept {
+  return Fails("ftruncate") ? -1 : NEXT(ftruncate)(file, size);
+}
+int fchmod(int file, mode_t mode) noexcept {
+  return Fails("fchmod") ? -1 : NEXT(fchmod)(file, mode);
+}
+int linkat(int from, const char* old, int to, const char* name, int how) noexcept {
+  return Fails("linkat") ? -1 : NEXT(linkat)(from, old, to, name, how);
+}
+// Nobody cuts the power during a test.
+int fdatasync(int) { return Fails("sync") ? -1 : 0; }
+int fsync(int) { return Fails("sync") ? -1 : 0; }
 }
 
 namespace platform {
@@ -48,76 +122,154 @@ namespace {
 namespace fs = std::filesystem;
 using Module1::AppFolder;
 
+constexpr const char* kFile = "Config/Kestrivane.ini";
+
+std::string WithoutEmptyLines(std::string text) {
+  return text.erase(text.find_last_not_of("\r\n") + 1);
+}
+
 class Saving : public support::TempApp {
  protected:
-  // Saves, in a child process if it is to be killed; how many of its system calls were made.
-  int save(const std::string& text, int call, int error) const {
-    fault = {call, error, 0};
-    const bool dies = call > 0 && error == kKill;
-    const pid_t child = dies ? fork() : 0;
-    const bool saved = child == 0 && base::RunGuarded([&] { WriteBytes(file, text); });
-    if (dies && child == 0) _exit(0);
-    if (dies) waitpid(child, nullptr, 0);
-    EXPECT_TRUE(saved || call > 0);
-    fault.call = 0;
-    return fault.calls;
+  Saving() { fs::create_directory(path("Config")); }
+
+  // A start, a change by another program, and a save.
+  static void run(const std::string& change, std::size_t plays) {
+    startup::FillSharedState();
+    config::Adopt(config::LoadConfigFile(AppFolder));
+    const bool counts = std::exchange(fault.counts, false);
+    if (!change.empty()) write(kFile, change);
+    Module1::PlayLog.fill({});
+    for (std::size_t play = 0; play < plays; ++play)
+      Module1::PlayLog[play] = {std::string(99, 'g'), "1", "30"};
+    fault.counts = counts;
+    config::WriteConfigFile();
+    fault.counts = false;
   }
-  // What a reader makes of the file, whatever empty lines stand at its end.
-  std::string saved() const {
-    if (!exists("a.ini")) return "none";
-    auto text = ReadText(file);
-    return text.erase(text.find_last_not_of("\r\n") + 1);
+  // The same with a fault, in a child process if it is to be killed; how many calls there were.
+  static int run(const std::string& change, std::size_t plays, const Fault& with) {
+    fault = with;
+    fault.counts = true;
+    if (with.kind != Kind::Kills) {
+      run(change, plays);
+      return fault.calls;
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+      run(change, plays);
+      _exit(0);
+    }
+    fault.counts = false;
+    waitpid(child, nullptr, 0);
+    return 0;
   }
 
-  const std::string file = AppFolder + "\\a.ini";
+  static bool isKept(const std::string& text) {
+    for (const auto& file : fs::directory_iterator(path("Config")))
+      if (WithoutEmptyLines(read("Config/" + support::ToText(file.path().filename()))) ==
+          WithoutEmptyLines(text))
+        return true;
+    return false;
+  }
+  static std::string stored() { return WithoutEmptyLines(read(kFile)); }
 };
 
-TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNew) {
-  const std::string old = "old\r\n\r\nlines", longer(20000, 'x'), shorter = "new", odd = "odd!";
-  // Some file systems know no files without a name.
-  const int probe = open(AppFolder.c_str(), O_TMPFILE | O_WRONLY, 0600);
-  const bool nameless = probe >= 0;
-  close(probe);
-  for (const auto& text : {longer, shorter, odd, std::string("new\r\n\r\nlines")}) {
-    write("a.ini", old);
-    const int calls = save(text, 0, 0);
-    EXPECT_EQ(read("a.ini"), text);
-    EXPECT_EQ(calls, text.size() > old.size() ? 6 : text.size() < old.size() ? 7 : 5);
-    for (int call = 1; call <= calls; ++call)
-      for (const int error : {kKill, EIO, ENOSPC, EOPNOTSUPP, EINTR}) {
-        SCOPED_TRACE(text.substr(0, 5) + std::to_string(call) + "/" + std::to_string(error));
-        write("a.ini", old);
-        save(text, call, error);
-        EXPECT_TRUE(saved() == old || saved() == text) << saved();
-        fs::remove(path("a.ini"));
-        save(text, call, error);
-        EXPECT_TRUE(saved() == "none" || saved() == text || (!nameless && saved().empty()))
-            << saved();
-        fs::remove(path("a.ini"));
+TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
+  const support::ShortPatience patience(std::chrono::microseconds(50));
+  startup::FillSharedState();
+  config::WriteConfigFile();
+  const auto few = read(kFile);
+  run("", 40);
+  const auto many = read(kFile);
+  const std::string foreign = "Vsync = 0\n[ a ]\nThrottle = 0\n",
+                    bad = foreign + ";InputMethod=x\n";
+  const struct {
+    const char* what;
+    std::string old, change;  // one beginning with ">" is where a link leads
+    std::size_t plays;
+  } roads[] = {{"first", "", "", 1},          {"through a link", ">target", "", 1},
+               {"grow", few, "", 40},         {"shrink", many, "", 0},
+               {"same size", many, "", 40},   {"foreign", foreign, "", 40},
+               {"read in part", bad, "", 40}, {"changed", few, many + "; by hand\r\n", 1},
+               {"appeared", "", few, 1}};
+  const Fault kinds[] = {{0, Kind::Kills},
+                         {0, Kind::Fails, EIO, true},
+                         {0, Kind::Fails, EOPNOTSUPP, true},
+                         {0, Kind::Fails, EINTR},
+                         {0, Kind::IsShortAndThenFails, EIO},
+                         {0, Kind::IsShortAndThenFails, ENOSPC, true}};
+  int faults = 0;
+  for (const auto& [what, old, change, plays] : roads) {
+    const bool isLink = old.starts_with('>');
+    const auto prepare = [&] {
+      fs::remove_all(path("Config"));
+      fs::create_directory(path("Config"));
+      if (isLink)
+        fs::create_symlink(old.substr(1), path(kFile));
+      else if (!old.empty())
+        write(kFile, old);
+    };
+    const auto& lost = change.empty() ? old : change;
+    prepare();
+    const int calls = run(change, plays, {});
+    const auto saved = stored();
+    ASSERT_EQ(saved, WithoutEmptyLines(EncodeCodePage(config::ConfigText()))) << what;
+    struct stat status {};
+    ASSERT_EQ(stat(path(kFile).c_str(), &status), 0);
+    EXPECT_LT(status.st_blocks * 512, status.st_size + 4096) << what << ": no room is kept";
+    for (auto fault : kinds)
+      for (fault.call = 1; fault.call <= calls; ++fault.call, ++faults) {
+        SCOPED_TRACE(std::string(what) + ", call " + std::to_string(fault.call) + ", error " +
+                     std::to_string(fault.error) + (fault.lasts ? ", lasting" : "") +
+                     (fault.kind == Kind::IsShortAndThenFails ? ", short" : ""));
+        prepare();
+        run(change, plays, fault);
+        // What is there, and what is there when the disk is back and the user saves again.
+        for (const bool again : {false, true}) {
+          const auto now = stored();
+          if (lost.empty() || isLink)
+            EXPECT_TRUE(now == saved || !exists(kFile)) << again << now;
+          else
+            EXPECT_TRUE(now == saved || isKept(lost) ||
+                        (fault.kind == Kind::Kills && now == WithoutEmptyLines(old)))
+                << again << now;
+          if (!again && fault.kind != Kind::Kills) config::WriteConfigFile();
+        }
       }
   }
+  RecordProperty("faults", faults);
+  std::cout << faults << " faults\n";
 }
 
 TEST_F(Saving, ALinkStaysAndItsFileIsWritten) {
   fs::create_symlink("target.ini", path("link.ini"));
-  WriteBytes(AppFolder + "\\link.ini", "new");
-  EXPECT_EQ(read("target.ini"), "new");
-  EXPECT_TRUE(fs::is_symlink(path("link.ini")));
+  for (const auto* text : {"new", "newer"}) {
+    WriteBytes(AppFolder + "\\link.ini", text);
+    EXPECT_EQ(read("target.ini"), text);
+    EXPECT_TRUE(fs::is_symlink(path("link.ini")));
+  }
 }
 
 TEST_F(Saving, AnotherProgramsFileIsReadAndAfterASecondNotWritten) {
-  support::FakeClock clock;
+  EXPECT_EQ(FilePatience().load(), std::chrono::seconds(1));
+  const support::ShortPatience patience;
+  const auto file = AppFolder + "\\a.ini";
   write("a.ini", "old");
   const int other = open(path("a.ini").c_str(), O_RDWR);
   flock(other, LOCK_EX);
+  const auto start = std::chrono::steady_clock::now();
   EXPECT_ANY_THROW(WriteBytes(file, "new"));
-  EXPECT_EQ(clock.sleeps.size(), 199U);
+  EXPECT_GE(std::chrono::steady_clock::now() - start, FilePatience().load());
   EXPECT_EQ(ReadBytes(file), "old");
   flock(other, LOCK_SH);
   EXPECT_ANY_THROW(WriteBytes(file, "new")) << "a reader's";
-  clock.onSleep = [&] { flock(other, LOCK_UN); };
   flock(other, LOCK_EX);
+  FilePatience() = std::chrono::seconds(20);
+  std::thread unlocking([other] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    flock(other, LOCK_UN);
+  });
   WriteBytes(file, "new");
+  unlocking.join();
   EXPECT_EQ(ReadBytes(file), "new");
   close(other);
 }

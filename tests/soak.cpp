@@ -99,8 +99,9 @@ class Soak : public support::UiTest {
     file_ = std::move(file);
     ++saves_;
     EXPECT_EQ(file_, platform::EncodeCodePage(config::ConfigText()));
-    config::Configuration state{RomPaths, SnapPaths,    IconPaths,       Profiles,
-                                PlayLog,  GameListPref, CurrentLanguage, ConfigFileHeld};
+    config::Configuration state{RomPaths,        SnapPaths,       IconPaths,
+                                Profiles,        PlayLog,         GameListPref,
+                                CurrentLanguage, KnownConfigFile, ConfigFileHasMoreRows};
     for (auto& slot : Profiles[1].Slots)
       if (slot.Value == core::kNoBinding) slot.Value.clear();
     const auto held = config::ConfigText();

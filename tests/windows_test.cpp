@@ -2,14 +2,15 @@
 #include <cstdlib>
 #include <future>
 #include <map>
+#include <thread>
 #include <utility>
 
 #include "platform/code_page.h"
 #include "platform/file_search.h"
 #include "platform/files.h"
 #include "platform/system_windows.h"
-#include "support/fake_clock.h"
 #include "support/process_app.h"
+#include "support/short_patience.h"
 
 // The entry for this function in the program's import table.
 extern "C" decltype(&CreateProcessW) __imp_CreateProcessW;
@@ -49,12 +50,14 @@ BOOL WINAPI CreateProcessThatNeedsRights(LPCWSTR file, LPWSTR line, LPSECURITY_A
 TEST_F(Windows, FileInUseIsWaitedForAndThenLeftAlone) {
   const auto file = AppFolder + "\\a.txt";
   write("a.txt", "old");
-  support::FakeClock clock;
   auto* handle = open("a.txt", FILE_SHARE_READ);
-  clock.onSleep = [&] { CloseHandle(handle); };
+  std::thread closing([handle] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    CloseHandle(handle);
+  });
   WriteBytes(file, "new");
-  EXPECT_EQ(clock.sleeps.size(), 1U);
-  clock.onSleep = {};
+  closing.join();
+  const support::ShortPatience patience;
   // An editor that shares all but deleting, and one that shares nothing.
   handle = open("a.txt", FILE_SHARE_READ | FILE_SHARE_WRITE);
   EXPECT_EQ(ReadBytes(file), "new");
@@ -113,6 +116,13 @@ TEST_F(Windows, FoldersHoldPathsInAnySpelling) {
     EXPECT_FALSE(IsWithin("C:\\Games\\é\\x", folder)) << folder;
 }
 
+TEST_F(Windows, DriveWithNothingInItIsEmptyAndOneThatIsNotThereCantBeRead) {
+  if (!IsFolder("Y:\\")) GTEST_SKIP() << "there is no empty drive Y:";
+  EXPECT_TRUE(SubfolderNames("Y:\\").empty() && FileNames("Y:\\").empty());
+  for (const auto& folder : {std::string("X:\\"), AppFolder + "\\none"})
+    EXPECT_ANY_THROW(SubfolderNames(folder)) << folder;
+}
+
 TEST_F(Windows, DevicesAreNoFiles) {
   for (const auto* name : {"con", "nul.zip", "com1", "\\\\.\\nul", "\\\\.\\pipe\\x"}) {
     const auto file = *name == '\\' ? name : AppFolder + "\\" + name;
@@ -127,6 +137,8 @@ TEST_F(Windows, FoldersOfOtherMachinesAreLikeOurOwn) {
   const std::string share = "\\\\kestrivane\\tests";
   if (!IsFolder(share)) GTEST_SKIP() << "there is no " << share;
   WriteBytes(share + "\\A.ZIP", "x");
+  auto file = share + "\\\\a.zip";
+  EXPECT_TRUE(FileExists(file) && file == share + "\\a.zip") << file;
   EXPECT_EQ(FirstFolderOfEach({"a.zip"}, {share + "\\"}), std::vector<std::size_t>({0}));
   EXPECT_EQ(ReadBytes("//kestrivane/tests/a.zip"), "x");
   DeleteFile(share + "\\a.zip");

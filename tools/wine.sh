@@ -1,7 +1,7 @@
 # To be sourced: Windows programs under wine, in a prefix of their own.
 
 # Makes the prefix where there is none, and starts its server. A folder in it also stands as what
-# another machine shares: \\kestrivane\tests.
+# another machine shares: \\kestrivane\tests, and an empty one as drive Y:.
 start_wine() { # folder for the prefix
     mkdir -p "$1"
     WINEPREFIX=$(cd "$1" && pwd)/wine
@@ -16,6 +16,8 @@ start_wine() { # folder for the prefix
     fi
     mkdir -p "$WINEPREFIX/dosdevices/unc/kestrivane" "$WINEPREFIX/share"
     ln -sfn "$WINEPREFIX/share" "$WINEPREFIX/dosdevices/unc/kestrivane/tests"
+    mkdir -p "$WINEPREFIX/empty"
+    ln -sfn "$WINEPREFIX/empty" "$WINEPREFIX/dosdevices/y:"
     wineserver -p || true # one may run already
 }
 

@@ -6,9 +6,11 @@
 #include "base/error_boundary.h"
 #include "base/failure.h"
 #include "base/text.h"
+#include "config/comment_keys.h"
 #include "core/emulator_contract.h"
 #include "core/option_catalogue.h"
 #include "core/profiles.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 
 namespace config {
@@ -51,21 +53,22 @@ struct CommentKey {
   void (*take)(std::string_view value, const Parse& to);
 };
 
-// The first key that a line contains decides, wherever in the line it stands.
+// The first key of this table that a line contains decides. It may stand anywhere in the line, but
+// the value is always what is left when as many characters as the key has are cut from the front of
+// the line. So the value is what stands behind the key only where the key begins the line.
 constexpr std::array<CommentKey, 8> kCommentKeys = {{
     {kPathKeys[0], [](auto value, auto& to) { TakePathList(value, to.configuration.RomPaths); }},
     {kPathKeys[1], [](auto value, auto& to) { TakePathList(value, to.configuration.SnapPaths); }},
     {kPathKeys[2], [](auto value, auto& to) { TakePathList(value, to.configuration.IconPaths); }},
-    {";GameTimeLog=", [](auto value, auto& to) { TakePlayLog(value, to.configuration.PlayLog); }},
-    {kBanner, [](auto, auto& to) { to.result.bannerSeen = true; }},
-    {";InputMethod=",
+    {kPlayLogKey, [](auto value, auto& to) { TakePlayLog(value, to.configuration.PlayLog); }},
+    {kFrontEndMark, [](auto, auto& to) { to.result.markSeen = true; }},
+    {kInputMethodKey,
      [](auto value, auto& to) { to.configuration.Profiles[1].InputMethod = ToByte(value); }},
-    {";GameListPref=",
+    {kListFilterKey,
      [](auto value, auto& to) {
        if (const auto filter = ToByte(value); filter <= 1) to.configuration.GameListPref = filter;
      }},
-    {";KVLLanguage=",
-     [](auto value, auto& to) { to.configuration.CurrentLanguage = ToByte(value); }},
+    {kLanguageKey, [](auto value, auto& to) { to.configuration.CurrentLanguage = ToByte(value); }},
 }};
 
 void TakeSectionHeader(std::string_view body, std::size_t opening,
@@ -99,7 +102,7 @@ void TakeOption(std::string_view body, core::Profile& profile) {
 }
 
 void TakeLine(std::string_view line, const Parse& to) {
-  // Every comment key holds ";", and the banner a letter beyond ASCII.
+  // Every comment key holds ";", and the mark of our files a letter beyond ASCII.
   const bool mayHoldKey = line.find(';') != line.npos || line.find('\xC2') != line.npos;
   for (const auto& [key, take] : kCommentKeys)
     if (mayHoldKey && base::ContainsIgnoringCase(line, key))
@@ -122,29 +125,33 @@ ParseResult ParseConfigText(std::string_view text, Configuration& configuration)
     if (lines.size() < 2) return;
     lines.pop_back();  // the piece behind the last line end
     if (lines.size() > kMaxLines) throw Failure("too many lines");
-    for (const auto line : lines) TakeLine(line, {configuration, result});
+    for (const auto line : lines) {
+      TakeLine(line, {configuration, result});
+      if (line.starts_with(';') && base::ContainsIgnoringCase(line, kLastHeading))
+        result.lastHeadingSeen = true;
+    }
   });
   return result;
 }
 
 Configuration LoadConfigFile(const std::string& appFolder) {
   auto configuration = Defaults(appFolder);
-  auto file = platform::Joined(appFolder, core::kConfigFile);
-  std::string text;
-  const auto couldLook = [&] {
-    return base::RunGuarded([&] { platform::FileNames(platform::Joined(appFolder, "Config")); });
-  };
-  const bool isThere = platform::FileExists(file);
-  if (!isThere || !base::RunGuarded([&] { text = platform::ReadText(file); })) {
+  const auto file = platform::Joined(appFolder, core::kConfigFile);
+  std::string bytes;
+  const bool isThere = platform::LookForFile(file) == platform::Existence::There;
+  if (!isThere ||
+      !base::RunGuarded([&] { bytes = platform::ReadBytes(file, platform::kLargestText); })) {
     core::ResetInputsToDefaults(configuration.Profiles);
-    if (isThere || !couldLook()) configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
-  } else if (const auto parse = ParseConfigText(text, configuration); !parse.complete) {
-    configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
-  } else if (!parse.bannerSeen) {
-    base::RunGuarded([&] { platform::CopyFileBytes(file, file + ".bak"); });
+    return configuration;
   }
-  if (configuration.Profiles.size() > core::kMaxProfiles)
-    configuration.ConfigFileHeld = core::FileHeld::FirstRowsOnly;
+  // A power cut leaves zeros for what did not come to the disk.
+  const auto text = std::string_view(bytes).substr(0, bytes.find_last_not_of('\0') + 1);
+  const auto parse = ParseConfigText(platform::DecodeLines(text), configuration);
+  bool isKept = parse.complete && (parse.lastHeadingSeen || !parse.markSeen);
+  if (parse.complete && !parse.markSeen)
+    isKept = base::RunGuarded([&] { platform::CopyFileBytes(file, file + ".bak"); });
+  if (isKept) configuration.KnownConfigFile = std::move(bytes);
+  configuration.ConfigFileHasMoreRows = configuration.Profiles.size() > core::kMaxProfiles;
   return configuration;
 }
 

@@ -1,7 +1,6 @@
 // Reads Config\Kestrivane.ini, once per program start.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -9,20 +8,16 @@
 
 namespace config {
 
-// What a file of ours says in its head, and no other does.
-inline constexpr std::string_view kBanner = "Kestrivane UI®";
-
-// What begins the lists of folders.
-inline constexpr std::array<std::string_view, 3> kPathKeys = {
-    ";ROMpaths=", ";SNAPpaths=", ";ICONpaths="};
-
-// The file's configuration; the default bindings where there is no file or it can't be read.
-// Copies a file that another program wrote to Kestrivane.ini.bak.
+// The file's configuration; the default bindings where there is no file or it can't be read, as one
+// of more than 16 MB. Copies a file that another program wrote to Kestrivane.ini.bak. The file
+// counts as known only where nothing of it can be lost by a save: it was read to its end, is not
+// one of ours that was cut short, and was copied if it had to be.
 Configuration LoadConfigFile(const std::string& appFolder);
 
 struct ParseResult {
-  bool complete = false;  // no failure ended the parse
-  bool bannerSeen = false;
+  bool complete = false;         // no failure ended the parse
+  bool markSeen = false;         // of a file of ours
+  bool lastHeadingSeen = false;  // with which a file of ours is whole
 };
 
 // Takes the whole file, each line followed by CR LF. A failure ends the parse at its line without a

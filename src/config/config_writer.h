@@ -9,8 +9,9 @@ namespace config {
 // leave some of the file's out.
 std::string ConfigText();
 
-// Writes the file. What a failure kept from being read is copied to Kestrivane.ini.unread first. A
-// failure is quiet and leaves the file on disk as it was.
+// Writes the file. One that is not as this run read or wrote it is copied to Kestrivane.ini.unread
+// first. A failure is reported to nobody and leaves the file on disk as it was, or else its text in
+// that copy.
 void WriteConfigFile();
 
 }  // namespace config

@@ -26,7 +26,8 @@ void Adopt(Configuration configuration) {
   Module1::PlayLog = std::move(configuration.PlayLog);
   Module1::GameListPref = configuration.GameListPref;
   Module1::CurrentLanguage = configuration.CurrentLanguage;
-  Module1::ConfigFileHeld = configuration.ConfigFileHeld;
+  Module1::KnownConfigFile = std::move(configuration.KnownConfigFile);
+  Module1::ConfigFileHasMoreRows = configuration.ConfigFileHasMoreRows;
 }
 
 }  // namespace config

@@ -1,6 +1,7 @@
 // What the configuration file says, as a value with the names of the shared state.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,8 @@ struct Configuration {
   core::PlayRecords PlayLog;
   unsigned char GameListPref = 0;
   unsigned char CurrentLanguage = 0;
-  core::FileHeld ConfigFileHeld = core::FileHeld::Whole;
+  std::optional<std::string> KnownConfigFile;
+  bool ConfigFileHasMoreRows = false;
 };
 
 // What holds without a configuration file, but for the bindings of all games.

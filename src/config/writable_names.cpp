@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "config/comment_keys.h"
 #include "config/config_reader.h"
 
 namespace config {
@@ -28,7 +29,8 @@ bool IsWritablePath(std::string_view path) {
 
 bool IsWritableValue(std::string_view path) {
   return path.find_first_of(";=") == std::string_view::npos &&
-         path.find("[ ") == std::string_view::npos && !base::ContainsIgnoringCase(path, kBanner);
+         path.find("[ ") == std::string_view::npos &&
+         !base::ContainsIgnoringCase(path, kFrontEndMark);
 }
 
 bool IsWritableGame(const std::string& romName) {
@@ -38,7 +40,7 @@ bool IsWritableGame(const std::string& romName) {
   const auto result =
       ParseConfigText("[ " + romName + " ]\r\n;GameTimeLog=" + romName + ",1,2\r\n", read);
   const auto& play = read.PlayLog[0];
-  return result.complete && !result.bannerSeen && read.Profiles.size() == 3 &&
+  return result.complete && !result.markSeen && read.Profiles.size() == 3 &&
          read.Profiles[2].Name == romName && play.GameId == romName && play.PlayCount == "1" &&
          play.PlaySeconds == "2" && read.PlayLog[1].GameId.empty();
 }

@@ -12,7 +12,8 @@ void ResetSharedState() {
   LaunchRequest = {};
   InputChoice.clear();
   PlayLog.fill({});
-  ConfigFileHeld = core::FileHeld::Whole;
+  KnownConfigFile.reset();
+  ConfigFileHasMoreRows = false;
   ErrorText.clear();
   OptionScope = 0;
   OptionsSaved = false;

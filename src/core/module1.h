@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -90,9 +91,6 @@ struct Profile {
   unsigned char InputMethod = 0;  // 0 DirectInput, 1 XInput, 2 Raw Input
 };
 
-// How much of the configuration file was read into the shared state.
-enum class FileHeld { Whole, UpToAFailure, FirstRowsOnly };
-
 struct Resolution {
   int Width = 0;
   int Height = 0;
@@ -123,7 +121,10 @@ inline std::vector<core::Profile> Profiles;  // 0 Default, 1 Global, then one ro
 inline core::LaunchOrder LaunchRequest;
 inline std::string InputChoice;
 inline core::PlayRecords PlayLog;
-inline core::FileHeld ConfigFileHeld = core::FileHeld::Whole;
+// The bytes of the configuration file as this run read all of it or wrote it last. Before a save any
+// other file is copied.
+inline std::optional<std::string> KnownConfigFile;
+inline bool ConfigFileHasMoreRows = false;  // than Profiles can hold; then nothing is saved
 inline std::string ErrorText;
 inline unsigned char OptionScope = 0;  // 254 the global options, else a row of GameCatalog
 inline bool OptionsSaved = false;

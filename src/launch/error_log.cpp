@@ -10,6 +10,7 @@
 #include "core/module1.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "platform/patience.h"
 
 namespace launch {
 namespace {
@@ -103,10 +104,9 @@ bool ReadErrorLog() {
       report.take(piece);
       return true;
     });
-    platform::DeleteFile(file);
-    if (report.endedWell()) return;
-    Module1::ErrorText = base::Trim(report.text());
-    failed = true;
+    failed = !report.endedWell();
+    if (failed) Module1::ErrorText = base::Trim(report.text());
+    platform::RetryUntil([&] { return base::RunGuarded([&] { platform::DeleteFile(file); }); });
   });
   return failed;
 }

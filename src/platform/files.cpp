@@ -2,14 +2,14 @@
 
 #include "base/error_boundary.h"
 #include "base/text.h"
-#include "platform/code_page.h"
 
 namespace platform {
 
 bool FileExists(std::string& FilePath) {
   bool exists = false;
   base::RunGuarded([&] {
-    FilePath = base::ReplaceIgnoringCase(FilePath, "\\\\", "\\");
+    const std::string start = FilePath.starts_with("\\\\") ? "\\\\" : "";
+    FilePath = start + base::ReplaceIgnoringCase(FilePath.substr(start.size()), "\\\\", "\\");
     exists = IsFile(FilePath);
   });
   return exists;
@@ -29,14 +29,6 @@ void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
     DeleteFile(Joined(folder, name));
   }
   if (!any) throw base::Failure("no such file");
-}
-
-void CopyFileBytes(std::string_view from, std::string_view to) { WriteBytes(to, ReadBytes(from)); }
-
-std::string ReadText(std::string_view path) { return DecodeLines(ReadBytes(path)); }
-
-void WriteText(std::string_view path, std::string_view text) {
-  WriteBytes(path, EncodeCodePage(text));
 }
 
 }  // namespace platform

@@ -3,41 +3,35 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/error_boundary.h"
 #include "base/text.h"
 #include "platform/files.h"
-#include "platform/open_file_posix.h"
+#include "platform/open_file.h"
 #include "platform/path_search_posix.h"
 #include "platform/posix_failure.h"
 
 namespace platform {
 namespace {
 
-std::string WithSystemSeparators(std::string_view path) {
-  std::string text(path);
-  std::replace(text.begin(), text.end(), '\\', '/');
-  return text;
-}
-
-FoundPath Find(std::string_view path) { return FindPath(WithSystemSeparators(path)); }
-
-// The names in a folder, or in none, that lead to what `wanted` accepts.
+// The names in a folder that lead to what `wanted` accepts.
 std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const struct stat&)) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
   Check(stream != nullptr);
   std::vector<std::string> names;
+  errno = 0;
   while (const dirent* entry = readdir(stream.get())) {
     const std::string_view name = entry->d_name;
     struct stat status {};
     if (name == "." || name == "..") continue;
     if (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && wanted(status))
       names.emplace_back(name);
+    errno = 0;
   }
+  Check(errno == 0);
   return base::SortedIgnoringCase(std::move(names));
 }
 
@@ -49,50 +43,34 @@ bool IsWithin(std::string_view path, std::string_view folder) {
   return rest.empty() || rest.front() == '/' || folder.ends_with('/');
 }
 
-std::string SystemPath(std::string_view path) { return Find(path).path; }
+std::string SystemPath(std::string_view path) { return FindPath(path).path; }
 
-bool IsFile(std::string_view path) { return Find(path).kind == FoundPath::Kind::file; }
+Existence LookForFile(std::string_view path) {
+  auto kind = FoundPath::Kind::Unknown;
+  if (!base::RunGuarded([&] { kind = FindPathForSure(path).kind; })) return Existence::Unknown;
+  return kind == FoundPath::Kind::File ? Existence::There : Existence::NotThere;
+}
 
-bool IsFolder(std::string_view path) { return Find(path).kind == FoundPath::Kind::folder; }
+bool IsFile(std::string_view path) { return FindPath(path).kind == FoundPath::Kind::File; }
 
-void MakeFolder(std::string_view path) { Check(mkdir(Find(path).path.c_str(), 0777) == 0); }
+bool IsFolder(std::string_view path) { return FindPath(path).kind == FoundPath::Kind::Folder; }
 
-void DeleteFile(std::string_view path) { Check(unlink(Find(path).path.c_str()) == 0); }
+void MakeFolder(std::string_view path) {
+  const auto folder = FindPathForSure(path).path;
+  Check(mkdir(folder.c_str(), 0777) == 0);
+  SyncFolderOf(folder);
+}
+
+void DeleteFile(std::string_view path) { Check(unlink(FindPath(path).path.c_str()) == 0); }
 
 std::vector<std::string> SubfolderNames(std::string_view folder) {
-  return NamesIn(Find(folder).path,
+  return NamesIn(FindPath(folder).path,
                  [](const struct stat& status) { return S_ISDIR(status.st_mode); });
 }
 
 std::vector<std::string> FileNames(std::string_view folder) {
-  return NamesIn(Find(folder).path,
+  return NamesIn(FindPath(folder).path,
                  [](const struct stat& status) { return S_ISREG(status.st_mode); });
-}
-
-std::string ReadBytes(std::string_view path, long long most) {
-  const OpenFile file(Find(path).path, O_RDONLY);
-  const auto size = file.size();
-  if (size > most) throw base::Failure("file too large");
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  for (std::size_t done = 0; done < bytes.size();) {
-    const auto count = Patiently(
-        [&] { return read(file.descriptor(), bytes.data() + done, bytes.size() - done); });
-    Check(count >= 0);
-    if (count == 0) throw base::Failure("the file was cut while it was read");
-    done += static_cast<std::size_t>(count);
-  }
-  return bytes;
-}
-
-void ReadPieces(std::string_view path, std::size_t most,
-                const std::function<bool(std::string_view piece)>& takesMore) {
-  const OpenFile file(Find(path).path, O_RDONLY);
-  std::string bytes(most, '\0');
-  for (;;) {
-    const auto count = Patiently([&] { return read(file.descriptor(), bytes.data(), most); });
-    Check(count >= 0);
-    if (count == 0 || !takesMore({bytes.data(), static_cast<std::size_t>(count)})) return;
-  }
 }
 
 }  // namespace platform

@@ -3,6 +3,7 @@
 #include <dirent.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <memory>
 
@@ -23,10 +24,12 @@ std::uint32_t HashOf(std::string_view name) {
 
 FolderNames::FolderNames(const std::string& folder) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
+  errno = stream ? 0 : errno;
   while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
     index_.emplace_back(HashOf(entry->d_name), static_cast<std::uint32_t>(names_.size()));
     names_.append(entry->d_name, std::strlen(entry->d_name) + 1);
   }
+  areAll_ = stream && errno == 0;
   std::sort(index_.begin(), index_.end());
 }
 

@@ -2,22 +2,34 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <climits>
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
 
+#include "base/failure.h"
 #include "platform/folder_names_posix.h"
+#include "platform/patience.h"
 
 namespace platform {
 namespace {
 
-std::optional<struct stat> StatusOf(const std::string& path) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return {};
-  return status;
-}
+using Kind = FoundPath::Kind;
+
+struct Status : stat {
+  explicit Status(const std::string& path) : stat{} {
+    if (::stat(path.c_str(), this) != 0)
+      kind = errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG ? Kind::Nothing
+                                                                          : Kind::Unknown;
+    else
+      kind = S_ISREG(st_mode) ? Kind::File : S_ISDIR(st_mode) ? Kind::Folder : Kind::Other;
+  }
+
+  Kind kind;
+};
 
 constexpr std::int64_t kSecond = 1'000'000'000;
 
@@ -38,7 +50,7 @@ struct Listing {
   }
 
   bool provablySame(const struct stat& status) const {
-    return atRest && device == status.st_dev && node == status.st_ino &&
+    return atRest && names->areAll() && device == status.st_dev && node == status.st_ino &&
            modified == ModifiedAt(status);
   }
 
@@ -63,32 +75,44 @@ const FolderNames& NamesIn(const std::string& folder, const struct stat& status)
   return *at->second.names;
 }
 
-FoundPath::Kind KindOf(const std::optional<struct stat>& status) {
-  using Kind = FoundPath::Kind;
-  if (!status) return Kind::nothing;
-  if (S_ISREG(status->st_mode)) return Kind::file;
-  return S_ISDIR(status->st_mode) ? Kind::folder : Kind::other;
+FoundPath Find(const std::string& path) {
+  // The system takes neither a path this long nor one with a zero in it, where it would stop.
+  if (path.size() >= PATH_MAX || path.find('\0') != std::string::npos) return {path};
+  const auto exact = Status(path).kind;
+  const auto nameEnd = path.find_last_not_of('/') + 1;
+  if (exact != Kind::Nothing || nameEnd == 0 || path == ".") return {path, exact};
+
+  const auto nameStart = path.find_last_of('/', nameEnd - 1) + 1;
+  const auto name = path.substr(nameStart, nameEnd - nameStart);
+  auto folder = Find(nameStart == 0 ? "." : path.substr(0, nameStart)).path;
+  const Status status(folder);
+  if (!folder.ends_with('/')) folder += '/';
+  const auto given = folder + name;
+  if (status.kind != Kind::Folder)
+    return {given, status.kind == Kind::Unknown ? Kind::Unknown : Kind::Nothing};
+  const auto kind = Status(given).kind;
+  if (kind != Kind::Nothing) return {given, kind};
+  const auto& names = NamesIn(folder, status);
+  if (const char* const spelled = names.find(name))
+    return {folder + spelled, Status(folder + spelled).kind};
+  return {given, names.areAll() ? Kind::Nothing : Kind::Unknown};
 }
 
 }  // namespace
 
-FoundPath FindPath(const std::string& path) {
-  // The system takes neither a path this long nor one with a zero in it, where it would stop.
-  if (path.size() >= PATH_MAX || path.find('\0') != std::string::npos) return {path};
-  const auto exact = KindOf(StatusOf(path));
-  const auto nameEnd = path.find_last_not_of('/') + 1;
-  if (exact != FoundPath::Kind::nothing || nameEnd == 0 || path == ".") return {path, exact};
+FoundPath FindPath(std::string_view path) {
+  std::string text(path);
+  std::replace(text.begin(), text.end(), '\\', '/');
+  return Find(text);
+}
 
-  const auto nameStart = path.find_last_of('/', nameEnd - 1) + 1;
-  const auto name = path.substr(nameStart, nameEnd - nameStart);
-  auto folder = FindPath(nameStart == 0 ? "." : path.substr(0, nameStart)).path;
-  const auto status = StatusOf(folder);
-  if (!folder.ends_with('/')) folder += '/';
-  FoundPath found{folder + name, KindOf(StatusOf(folder + name))};
-  if (found.kind != FoundPath::Kind::nothing || KindOf(status) != FoundPath::Kind::folder)
-    return found;
-  if (const char* const spelled = NamesIn(folder, *status).find(name))
-    found = {folder + spelled, KindOf(StatusOf(folder + spelled))};
+FoundPath FindPathForSure(std::string_view path) {
+  FoundPath found;
+  const auto isSure = [&] {
+    found = FindPath(path);
+    return found.kind != Kind::Unknown;
+  };
+  if (!RetryUntil(isSure)) throw base::Failure("the disk can't be looked at");
   return found;
 }
 

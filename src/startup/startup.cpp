@@ -49,8 +49,6 @@ void LoadGameCatalog(const std::string& appFolder, Loaded& loaded) {
 
 Loaded Load(const std::string& appFolder) {
   Loaded loaded;
-  // Assumed until the file has been read: a start that fails early must not cost the user the file.
-  loaded.configuration.ConfigFileHeld = core::FileHeld::UpToAFailure;
   base::RunGuarded([&] {
     loaded.configuration.Profiles[0] = core::DefaultProfile();
     EnsureFolders(appFolder);

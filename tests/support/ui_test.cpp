@@ -72,7 +72,8 @@ void UiTest::writeConfig(std::string lines) {
       if (slot.Value.starts_with('"')) bindings += slot.Name + " = " + slot.Value + "\n";
     lines.insert(0, bindings);
   }
-  lines = ";*** Kestrivane UI\xae\n[ Global ]\n" + platform::EncodeCodePage(lines) + "\n";
+  lines = ";*** Kestrivane UI\xae\n[ Global ]\n" + platform::EncodeCodePage(lines) +
+          "\n;*** KVL configuration\n";
   write("Config/Kestrivane.ini", base::ReplaceIgnoringCase(lines, "\n", "\r\n"));
 }
 
