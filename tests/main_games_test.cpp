@@ -43,23 +43,6 @@ TEST_F(MainGames, PicturesAreAsFineAsTheScreenAndIconsTheNearestFrame) {
   EXPECT_GT(std::abs(qGray(drawn.pixel(at)) - qGray(drawn.pixel(at + QPoint(1, 0)))), 200);
 }
 
-TEST_F(MainGames, PicturesComeFromTheFirstFolderUpToAGap) {
-  addGames("a b c d");
-  writePicture("Snaps/a.jpg", Qt::red, {8, 900});
-  for (const auto* name : {"two/a.JPG", "two/b.JPG"}) writePicture(name, Qt::blue);
-  writePicture("four/c.jpg", Qt::green);
-  writePicture("icons1/b.ico", Qt::yellow);
-  start();
-  const auto in = [](const char* folder) { return Module1::AppFolder + "/" + folder; };
-  Module1::SnapPaths = {in("Snaps"), in("one"), in("TWO"), in("three"), in("four")};
-  Module1::IconPaths[1] = in("icons1");
-  int row = 0;
-  for (const auto* pictures : {"red drawn", "blue yellow", "drawn drawn", "drawn drawn"})
-    EXPECT_EQ(picturesOf(row++), pictures);
-  Module1::SnapPaths = {in("Snaps"), "", in("four"), "", ""};
-  EXPECT_EQ(picturesOf(2), "drawn drawn") << "an empty entry ends the list";
-}
-
 TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
   writePicture("Snaps/a.jpg", Qt::red);
   writePicture("Icons/a.ico", Qt::yellow);

@@ -1,4 +1,4 @@
-// The ends of the program, and the home page.
+// The home page.
 #include <QDesktopServices>
 #include <QTextBrowser>
 
@@ -7,15 +7,6 @@
 namespace {
 
 class MainMenus : public support::UiTest {};
-
-TEST_F(MainMenus, OnlyTheTitleBarEndsWithTheUnloadStep) {
-  start();
-  act("press Esc");
-  EXPECT_EQ(settings(), "");
-  act("close");
-  EXPECT_EQ(ends.size(), 1U);
-  EXPECT_NE(settings().find("Language=0"), std::string::npos);
-}
 
 TEST_F(MainMenus, HomepageOpensInTheBrowser) {
   start();
@@ -28,14 +19,6 @@ TEST_F(MainMenus, HomepageOpensInTheBrowser) {
   act("choose mHomepage");
   QDesktopServices::unsetUrlHandler("https");
   EXPECT_EQ(opened, "https://kestrivane-ui.example/");
-}
-
-TEST_F(MainMenus, AFailedStartShowsNoWindowAndLeavesTheSettings) {
-  std::filesystem::remove(path("Kestrivane.exe"));
-  inModal([this](QWidget&) { EXPECT_FALSE(form->visible()); }, [this] { start(); });
-  EXPECT_EQ(ends, std::vector<int>({1}));
-  window().close();
-  EXPECT_EQ(settings(), "") << "the unload step does nothing after a failure";
 }
 
 }  // namespace

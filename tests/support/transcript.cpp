@@ -47,7 +47,7 @@ QMap<QString, Snapshot> UsualLook(const QString& key) {
 
 // "click a b, press Tab Space in a" are four steps.
 QStringList SingleSteps(const QString& line) {
-  static const QStringList several = {"click", "press", "choose"};
+  static const QStringList several = {"click", "press", "choose", "activate"};
   QStringList steps;
   for (const auto& part : line.split(", ")) {
     const auto words = part.section(" in ", 0, 0).split(' '), place = part.split(" in ").mid(1);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -101,26 +102,32 @@ QString UiTest::act(QWidget& window, const QString& step) {
   const auto verb = step.section(' ', 0, 0), rest = step.section(' ', 1);
   const auto words = rest.split(" in ");
   const auto what = words[0], name = words.last().section(':', 0, 0);
-  if (auto* box = qobject_cast<QMessageBox*>(&window)) {
-    for (auto* button : box->findChildren<QPushButton*>())
+  if (verb == "answer") {
+    for (auto* button : window.findChildren<QPushButton*>())
       if (button->text().remove('&') == what) return button->click(), QString();
-    throw std::runtime_error("no button says " + what.toStdString());
+    throw std::runtime_error("no button says " + rest.toStdString());
   }
-  if (verb == "press" || verb == "hold") {
+  if (verb == "close") {
+    window.close();
+  } else if (verb == "press" || verb == "hold") {
     if (words.size() > 1) get(window, name).setFocus();
     key(QKeySequence(what), verb == "hold");
-  } else if (verb == "choose") {
-    get<QAction>(window, name).trigger();
-  } else if (verb == "close") {
-    window.close();
+  } else if (auto* item = this->window().findChild<QAction*>(name)) {
+    if (verb == "choose") item->trigger();
+    auto* menu = qobject_cast<QWidget*>(item->parent());
+    const auto place = menu->actions().indexOf(item);
+    if (verb == "activate") activate(told(menu)->child(static_cast<int>(place)));
   } else {
-    return actOn(get(window, name), verb, words);
+    // Assistive technology reaches what lies behind as well.
+    auto* control = window.findChild<QWidget*>(name);
+    return actOn(control ? *control : get(this->window(), name), verb, words);
   }
   QApplication::processEvents();
   return {};
 }
 
 QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& words) {
+  const auto what = words[0];
   auto* list = qobject_cast<QListWidget*>(&control);
   const int row = words.last().section(':', 1).toInt();
   const bool isRow = words.last().contains(':');
@@ -128,34 +135,50 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
   // Near the left end, where a check box has its box.
   const auto place =
       isRow ? list->visualItemRect(list->item(row)).center() : QPoint(9, control.height() / 2);
+  const QPoint thumb(control.height() + 14, control.height() / 2), moved(150, 0);  // of a bar
   if (verb == "hover") return "tip " + QString::fromStdString(tipAt(target, place));
+  if (verb == "focus" || verb == "type" || verb == "paste") control.setFocus();
   if (verb == "click" || verb == "double-click") {
     QTest::mouseClick(&target, Qt::LeftButton, {}, place);
     if (verb == "double-click") QTest::mouseDClick(&target, Qt::LeftButton, {}, place);
   } else if (verb == "wheel") {
-    const QPointF at(5, 5);
-    QWheelEvent wheel(at, control.mapToGlobal(at), {}, {0, words[0].toInt()}, {}, {}, {}, false);
+    QWheelEvent wheel(place, control.mapToGlobal(place), {}, {0, what.toInt()}, {}, {}, {}, false);
     QApplication::sendEvent(&control, &wheel);
+  } else if (verb == "drag") {
+    QTest::mousePress(&control, Qt::LeftButton, {}, thumb);
+    QTest::mouseMove(&control, thumb + moved);
+  } else if (verb == "drop") {
+    QTest::mouseRelease(&control, Qt::LeftButton, {}, thumb + moved);
   } else if (verb == "type") {
-    control.setFocus();
-    QTest::keyClicks(&control, words[0]);
-  } else if (verb == "focus") {
-    control.setFocus();
+    QTest::keyClicks(&control, what);
+  } else if (verb == "paste") {
+    QApplication::clipboard()->setText(what);
+    key(QKeySequence::Paste);
   } else if (verb == "open") {
     // As a person would by opening its parents.
     auto& tree = dynamic_cast<QTreeWidget&>(control);
-    tree.setCurrentItem(tree.findItems(words[0], Qt::MatchExactly | Qt::MatchRecursive).first());
+    tree.setCurrentItem(tree.findItems(what, Qt::MatchExactly | Qt::MatchRecursive).first());
   } else if (verb == "activate") {
-    // By assistive technology.
-    auto* told = QAccessible::queryAccessibleInterface(&control);
-    (isRow ? told->child(row) : told)
-        ->actionInterface()
-        ->doAction(QAccessibleActionInterface::pressAction());
-  } else {
+    activate(isRow ? told(&control)->child(row) : told(&control));
+  } else if (verb == "set") {
+    if (auto* text = told(&control)->editableTextInterface()) return text->replaceText(0, 9, what), QString();
+    told(&control)->valueInterface()->setCurrentValue(what.toInt());
+  } else if (verb != "focus") {
     throw std::runtime_error("nobody can " + verb.toStdString());
   }
   QApplication::processEvents();
   return {};
+}
+
+QAccessibleInterface* UiTest::told(QObject* object) {
+  return QAccessible::queryAccessibleInterface(object);
+}
+
+void UiTest::activate(QAccessibleInterface* interface) {
+  for (const auto& action : interface->actionInterface()->actionNames())
+    if (action != QAccessibleActionInterface::setFocusAction())
+      interface->actionInterface()->doAction(action);
+  QTest::qWait(150);  // the toolkit's own buttons take 100 ms
 }
 
 void UiTest::modify(const char* page, const std::function<void(QWidget&)>& step) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -56,6 +57,9 @@ class UiTest : public TempApp {
   static std::string textOf(const QWidget& window, const char* name) {
     return get(window, name).property("text").toString().toStdString();
   }
+  // As assistive technology has it, and what it can do to it.
+  static QAccessibleInterface* told(QObject* object);
+  static void activate(QAccessibleInterface* interface);
   // The tool tip, markup and all, that comes up there.
   static std::string tipAt(QWidget& widget, QPoint at);
 
@@ -65,7 +69,7 @@ class UiTest : public TempApp {
   std::vector<int> ends;  // exit statuses
 
  private:
-  static QString actOn(QWidget& control, const QString& verb, const QStringList& words);
+  QString actOn(QWidget& control, const QString& verb, const QStringList& words);
 };
 
 }  // namespace support
