@@ -1,4 +1,5 @@
 // Playing a game: the in-game window, the count, and the report of a failed run.
+#include <QLabel>
 #include <QTimer>
 #include <QWindow>
 
@@ -25,7 +26,7 @@ TEST_F(MainPlay, InGameWindowStaysUntilTheEndAndPausesAfterAGoodOne) {
     auto& gaming = *QApplication::activeModalWidget();
     // A good end may come before the clock moves.
     const bool moves = clock.sleeps.size() > 1 && how != "good";
-    EXPECT_TRUE(textOf(gaming, "lblTime") == "1:00:05" || !moves);
+    EXPECT_TRUE(get<QLabel>(gaming, "lblTime").text() == "1:00:05" || !moves);
     waitForEmulator();
     const auto icon = [](const QWidget& on) {
       return get(on, "imgIcon").grab().toImage().pixelColor(12, 16);

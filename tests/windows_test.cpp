@@ -39,10 +39,11 @@ BOOL WINAPI CreateProcessThatNeedsRights(LPCWSTR file, LPWSTR line, LPSECURITY_A
                                          LPVOID environment, LPCWSTR folder, LPSTARTUPINFOW start,
                                          LPPROCESS_INFORMATION created) {
   std::wstring layer(GetEnvironmentVariableW(kCompatibility, nullptr, 0), L'\0');
-  layer.resize(GetEnvironmentVariableW(kCompatibility, layer.data(),
-                                       static_cast<DWORD>(layer.size())));
+  layer.resize(
+      GetEnvironmentVariableW(kCompatibility, layer.data(), static_cast<DWORD>(layer.size())));
   if (layer == L"RunAsInvoker")
-    return create(file, line, process, thread, inherits, flags, environment, folder, start, created);
+    return create(file, line, process, thread, inherits, flags, environment, folder, start,
+                  created);
   SetLastError(kElevationRequired);
   return FALSE;
 }

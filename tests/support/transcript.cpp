@@ -113,7 +113,8 @@ void Transcript::run(const Line& line, QWidget* opened) {
   if (!line.text.startsWith("> ")) return;
   clock_.sleeps.clear();
   for (const auto& step : SingleSteps(line.text.mid(2))) {
-    acted_ = step.section(' ', -1).section(':', 0, 0);
+    const auto target = step.section(' ', -1).section(':', 0, 0);
+    acted_ = target;
     const auto action = [&] {
       try {
         if (step == "start") {
@@ -129,6 +130,7 @@ void Transcript::run(const Line& line, QWidget* opened) {
     };
     if (step == "start") lookAtFiles(false);
     whenModal([this](QWidget& modal) { useOpened(modal); }, action);
+    acted_ = target;
     // The button of an access key is seen to go down first.
     const auto isClosed = [&] { return !opened || !opened->isVisible(); };
     if (step.contains("Alt+") && !QTest::qWaitFor(isClosed)) out("nothing closes");
@@ -235,7 +237,7 @@ void Transcript::lookAtFiles(bool write) {
       now["saved"] << (line.startsWith(';') || line.startsWith("[ ") ? line : section + line);
   }
   for (const auto& line : QString::fromStdString(settings()).split('\n'))
-    if (line.contains('=') && !line.endsWith('=')) now["setting"] << line;
+    if (line.contains('=') && !line.endsWith('=') && !line.endsWith("=0")) now["setting"] << line;
   for (const auto& entry : fs::recursive_directory_iterator(path("")))
     if (entry.is_regular_file())
       now["file"] << QString::fromStdString(ToText(entry.path().lexically_relative(path(""))));

@@ -61,11 +61,6 @@ void UiTest::start() {
   ASSERT_EQ(QTest::qWaitForWindowActive(&window(), form->visible() ? 5000 : 0), form->visible());
 }
 
-void UiTest::startWith(const std::string& lines) {
-  writeConfig(base::ReplaceIgnoringCase(lines, "|", "\n"));
-  start();
-}
-
 void UiTest::writeConfig(std::string lines) {
   if (lines.find("InputStart") == std::string::npos) {
     std::string bindings;
@@ -161,7 +156,8 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
   } else if (verb == "activate") {
     activate(isRow ? told(&control)->child(row) : told(&control));
   } else if (verb == "set") {
-    if (auto* text = told(&control)->editableTextInterface()) return text->replaceText(0, 9, what), QString();
+    if (auto* text = told(&control)->editableTextInterface())
+      return text->replaceText(0, 9, what), QString();
     told(&control)->valueInterface()->setCurrentValue(what.toInt());
   } else if (verb != "focus") {
     throw std::runtime_error("nobody can " + verb.toStdString());

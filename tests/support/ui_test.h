@@ -25,10 +25,8 @@ class UiTest : public TempApp {
 
   // Loads the main window and waits until it is active.
   void start();
-  // The same with a configuration file of these lines, each ended by "|", behind the banner and the
-  // heading of all games.
-  void startWith(const std::string& lines);
-  // Only the file, with the default bindings if there is none; here lines end in "\n".
+  // A configuration file of these lines behind the banner and the heading of all games, with the
+  // default bindings if the lines hold none.
   static void writeConfig(std::string lines);
   static void writePicture(const std::string& name, const QColor& colour, QSize size = {32, 32});
 
@@ -46,16 +44,12 @@ class UiTest : public TempApp {
   static void key(const QKeySequence& key, bool held = false);
 
   QWidget& window() const { return *form->clientArea()->window(); }
-  QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
-  // What has this name in a window, and the text of a label there.
+  // What has this name in a window.
   template <class T = QWidget>
   static T& get(const QWidget& window, const QString& name) {
     auto* child = window.findChild<T*>(name);
     if (!child) throw std::runtime_error("nothing is called " + name.toStdString());
     return *child;
-  }
-  static std::string textOf(const QWidget& window, const char* name) {
-    return get(window, name).property("text").toString().toStdString();
   }
   // As assistive technology has it, and what it can do to it.
   static QAccessibleInterface* told(QObject* object);
