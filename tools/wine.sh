@@ -21,4 +21,12 @@ start_wine() { # folder for the prefix
     wineserver -p || true # one may run already
 }
 
-stop_wine() { wineserver -k -w 2>/dev/null || true; }
+# Its server leaves a folder behind, named by where the prefix is on the disk.
+stop_wine() {
+    wineserver -k -w 2>/dev/null || true
+    [[ -d ${WINEPREFIX:-} ]] || return 0
+    local place
+    place=$(stat -c '%d %i' "$WINEPREFIX")
+    rm -rf "/tmp/.wine-$UID/$(printf 'server-%x-%x' $place)"
+    rmdir "/tmp/.wine-$UID" 2>/dev/null || true
+}
