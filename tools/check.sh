@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# The developers' checks, some ten minutes of the processor. A finding ends it.
+# Usage: check.sh [CHECK...]   with the names of the functions below; all of them without
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+build() { # preset or folder, targets...
+    cmake --build "$1" --parallel "$(nproc)" ${2:+--target "${@:2}"} >"$1/check.log" 2>&1 ||
+        { tail -n 60 "$1/check.log" >&2 && return 1; }
+}
+
+# Each release of clang-format lays out a little differently, and of clang-tidy finds other things.
+has_version_14() {
+    [[ $("$1" --version) == *" version 14."* ]] || { echo "$1 14 is what counts; not run" && return 1; }
+}
+
+format() {
+    has_version_14 clang-format || return 0
+    find src standin tests fuzz bench \( -name '*.cpp' -o -name '*.h' \) -print0 |
+        xargs -0 clang-format --dry-run --Werror
+}
+
+each_file() { tools/each_file.py; }
+
+tidy() {
+    has_version_14 clang-tidy || return 0
+    tools/tidy.sh
+}
+
+# As on ARM, where a plain char has no sign.
+unsigned_char() {
+    cmake -S . -B build-unsigned -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=-funsigned-char \
+        -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 \
+        -DBUILD_TESTING=ON -DKESTRIVANE_WERROR="${KESTRIVANE_WERROR:-OFF}" >/dev/null
+    build build-unsigned logic_tests
+    build-unsigned/tests/logic_tests --gtest_brief=1
+}
+
+# What is built here and what is handed out.
+hardening() {
+    local unpacked=build/unpacked archive files
+    cmake --preset release -DBUILD_TESTING=ON >/dev/null
+    build build KestrivaneUI standin
+    rm -rf "$unpacked" build/*.tar.gz
+    (cd build && cpack >cpack.log) || { tail -n 20 build/cpack.log >&2 && return 1; }
+    for archive in build/*.tar.gz; do
+        mkdir -p "$unpacked/$(basename "$archive")"
+        tar -xzf "$archive" -C "$unpacked/$(basename "$archive")"
+    done
+    tests/hardening.sh --program build/KestrivaneUI "$unpacked"/*/KestrivaneUI
+    mapfile -t files < <(find "$unpacked" -name '*.so*' -type f)
+    tests/hardening.sh build/standin/Kestrivane.exe "${files[@]}"
+    rm -rf "$unpacked"
+}
+
+checks=("$@")
+((${#checks[@]} > 0)) || checks=(format each_file hardening unsigned_char tidy)
+for check in "${checks[@]}"; do
+    echo "== Check: ${check//_/ }"
+    "$check"
+done
