@@ -143,6 +143,7 @@ TEST_F(ConfigFile, IsCopiedWhereASaveWouldLoseIt) {
       {"with zeros behind it", ours + zeros, [] { return false; }},
       {"cut short", cut, [] { return true; }},
       {"cut short, with zeros", cut + zeros, [] { return true; }},
+      {"ours with the end of another", ours + ours.substr(cut.size() - 5), [] { return true; }},
       {"a line too much for the reader", ours + ";InputMethod=x\r\n", [] { return true; }},
       {"of another program", foreign, [] { return false; }},
       {"and touched", foreign,

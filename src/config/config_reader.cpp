@@ -128,7 +128,7 @@ ParseResult ParseConfigText(std::string_view text, Configuration& configuration)
     for (const auto line : lines) {
       TakeLine(line, {configuration, result});
       if (line.starts_with(';') && base::ContainsIgnoringCase(line, kLastHeading))
-        result.lastHeadingSeen = true;
+        ++result.lastHeadings;
     }
   });
   return result;
@@ -147,7 +147,8 @@ Configuration LoadConfigFile(const std::string& appFolder) {
   // A power cut leaves zeros for what did not come to the disk.
   const auto text = std::string_view(bytes).substr(0, bytes.find_last_not_of('\0') + 1);
   const auto parse = ParseConfigText(platform::DecodeLines(text), configuration);
-  bool isKept = parse.complete && (parse.lastHeadingSeen || !parse.markSeen);
+  // Of a save that was cut short a file of ours lacks its end, or has that of the old text too.
+  bool isKept = parse.complete && (parse.lastHeadings == 1 || !parse.markSeen);
   if (parse.complete && !parse.markSeen)
     isKept = base::RunGuarded([&] { platform::CopyFileBytes(file, file + ".bak"); });
   if (isKept) configuration.KnownConfigFile = std::move(bytes);

@@ -15,9 +15,9 @@ namespace config {
 Configuration LoadConfigFile(const std::string& appFolder);
 
 struct ParseResult {
-  bool complete = false;         // no failure ended the parse
-  bool markSeen = false;         // of a file of ours
-  bool lastHeadingSeen = false;  // with which a file of ours is whole
+  bool complete = false;  // no failure ended the parse
+  bool markSeen = false;  // of a file of ours
+  int lastHeadings = 0;   // a file of ours has one
 };
 
 // Takes the whole file, each line followed by CR LF. A failure ends the parse at its line without a
