@@ -17,17 +17,16 @@ namespace {
 
 using config::Configuration;
 using fuzz::Require;
-using namespace Module1;
 
 // All but the first inputs are without a binding at first, to keep what is written short.
 constexpr core::Slot kBoundByDefault = core::kFirstInputSlot + 4;
 
 Configuration Start() {
   startup::FillSharedState();
-  auto start = config::Defaults(AppFolder);
+  auto start = config::Defaults(Module1::AppFolder);
   for (auto slot = kBoundByDefault; slot < core::kSlotCount; ++slot)
     start.Profiles[0].Slots[slot].Value = core::kNoBinding;
-  Profiles = start.Profiles;
+  Module1::Profiles = start.Profiles;
   return start;
 }
 
@@ -54,13 +53,13 @@ Configuration& Read(std::string_view bytes) {
 }
 
 void Exchange(Configuration& read) {
-  std::swap(RomPaths, read.RomPaths);
-  std::swap(SnapPaths, read.SnapPaths);
-  std::swap(IconPaths, read.IconPaths);
-  std::swap(PlayLog, read.PlayLog);
-  std::swap(Profiles, read.Profiles);
-  GameListPref = read.GameListPref;
-  CurrentLanguage = read.CurrentLanguage;
+  std::swap(Module1::RomPaths, read.RomPaths);
+  std::swap(Module1::SnapPaths, read.SnapPaths);
+  std::swap(Module1::IconPaths, read.IconPaths);
+  std::swap(Module1::PlayLog, read.PlayLog);
+  std::swap(Module1::Profiles, read.Profiles);
+  Module1::GameListPref = read.GameListPref;
+  Module1::CurrentLanguage = read.CurrentLanguage;
 }
 
 std::string Written() { return platform::EncodeCodePage(config::ConfigText()); }
@@ -69,12 +68,12 @@ std::string Written() { return platform::EncodeCodePage(config::ConfigText()); }
 // hands.
 void Play(std::string_view name) {
   platform::TheClock().now = [] { return platform::Moment(std::chrono::hours(1000)); };
-  LaunchRequest.RomName = name;
-  const auto before = PlayLog;
+  Module1::LaunchRequest.RomName = name;
+  const auto before = Module1::PlayLog;
   launch::UpdatePlayLog(platform::TheClock().now() - std::chrono::seconds(30));
   for (std::size_t row = 0; row < before.size(); ++row)
-    Require(PlayLog[row].GameId == before[row].GameId ||
-                (PlayLog[row].GameId == name && before[row].GameId.empty()),
+    Require(Module1::PlayLog[row].GameId == before[row].GameId ||
+                (Module1::PlayLog[row].GameId == name && before[row].GameId.empty()),
             "each row keeps its game");
 }
 
@@ -108,29 +107,30 @@ std::string Held(const std::array<const core::FolderList*, 3>& paths,
 
 void fuzz::Examine(std::string_view bytes) {
   Exchange(Read(bytes));
-  if (Profiles.size() > core::kMaxProfiles)
+  if (Module1::Profiles.size() > core::kMaxProfiles)
     return Require(!base::RunGuarded([] { config::ConfigText(); }),
                    "too many rows are not written");
   const auto text = platform::DecodeLines(bytes);
   Play(std::string_view(text).substr(0, text.find(base::kLineEnd)));
   // A hand-made header can name a row so that the header written for it reads as another one.
-  for (auto row = Profiles.begin() + 2; row != Profiles.end(); ++row)
+  for (auto row = Module1::Profiles.begin() + 2; row != Module1::Profiles.end(); ++row)
     if (row->Name == "Global" || row->Name.starts_with("]") ||
         row->Name.find(" ]") != row->Name.npos)
       row->Name = "odd";
   const auto written = Written();
   auto& again = Read(written);
-  Require(Held({&RomPaths, &SnapPaths, &IconPaths}, Profiles, PlayLog) ==
-              Held({&again.RomPaths, &again.SnapPaths, &again.IconPaths}, again.Profiles,
-                   again.PlayLog),
+  Require(Held({&Module1::RomPaths, &Module1::SnapPaths, &Module1::IconPaths}, Module1::Profiles,
+               Module1::PlayLog) == Held({&again.RomPaths, &again.SnapPaths, &again.IconPaths},
+                                         again.Profiles, again.PlayLog),
           "what the format can hold comes back");
-  Require(again.GameListPref == GameListPref && again.CurrentLanguage == CurrentLanguage &&
-              again.Profiles[1].InputMethod == Profiles[1].InputMethod,
+  Require(again.GameListPref == Module1::GameListPref &&
+              again.CurrentLanguage == Module1::CurrentLanguage &&
+              again.Profiles[1].InputMethod == Module1::Profiles[1].InputMethod,
           "the preferences come back");
   bool cleared = false;
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
-    cleared |= Profiles[1].Slots[slot].Value == core::kNoBinding &&
-               Profiles[0].Slots[slot].Value != core::kNoBinding;
+    cleared |= Module1::Profiles[1].Slots[slot].Value == core::kNoBinding &&
+               Module1::Profiles[0].Slots[slot].Value != core::kNoBinding;
   Exchange(again);
   const auto rewritten = Written();
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");

@@ -12,8 +12,6 @@
 namespace config {
 namespace {
 
-using namespace Module1;
-
 constexpr const char* kName = "Config/Kestrivane.ini";
 
 // The file of a user who has been everywhere, with "|" for each line's end.
@@ -41,22 +39,23 @@ class ConfigFile : public support::TempApp {
   ConfigFile() { std::filesystem::create_directory(path("Config")); }
 
   static std::string& value(std::size_t row, const char* name) {
-    return Profiles[row].Slots[core::OptionIndex(name)].Value;
+    return Module1::Profiles[row].Slots[core::OptionIndex(name)].Value;
   }
   static void load(const std::string& bytes) {
     startup::FillSharedState();
     write(kName, bytes);
-    Adopt(LoadConfigFile(AppFolder));
+    Adopt(LoadConfigFile(Module1::AppFolder));
   }
   // The state that the file stands for, with much beside it that the file does not hold.
   void fillState() {
-    auto configuration = Defaults(AppFolder);
+    auto configuration = Defaults(Module1::AppFolder);
     ParseConfigText(base::ReplaceIgnoringCase(kFile, "|", "\r\n"), configuration);
     Adopt(std::move(configuration));
     value(1, "Throttle") = "1";
-    for (std::size_t slot = 31; slot < 126; ++slot) Profiles[1].Slots[slot].Value = "\"NONE\"";
+    for (std::size_t slot = 31; slot < 126; ++slot)
+      Module1::Profiles[1].Slots[slot].Value = "\"NONE\"";
     for (const auto* global : {"Crosshairs", "Vsync", "InputStart1"}) value(2, global) = "9";
-    RomPaths[4] = IconPaths[3] = PlayLog[3].GameId = "behind the end";
+    Module1::RomPaths[4] = Module1::IconPaths[3] = Module1::PlayLog[3].GameId = "behind the end";
   }
 };
 
@@ -65,7 +64,7 @@ TEST_F(ConfigFile, WritesTheFormatByteForByteAndReadsItBack) {
   WriteConfigFile();
   EXPECT_EQ(base::ReplaceIgnoringCase(read("Config/Kestrivane.ini"), "\r\n", "|"), kWritten);
   startup::FillSharedState();
-  Adopt(LoadConfigFile(AppFolder));
+  Adopt(LoadConfigFile(Module1::AppFolder));
   EXPECT_EQ(support::StateText(),
             "1:Global 1.XResolution=800 1.FullScreen=1 1.FragmentShader=C:\\é\\f.glsl "
             "1.InputStart1=\"key_1,JOY1_BUTTON9\" 1.InputAutoTrigger=1 1.InputAutoTrigger2=0 "
@@ -76,7 +75,7 @@ TEST_F(ConfigFile, WritesTheFormatByteForByteAndReadsItBack) {
 TEST_F(ConfigFile, AFailureLeavesTheOldFile) {
   write("Config/Kestrivane.ini", "old");
   for (const std::size_t rows : {256U, 255U}) {
-    Profiles.resize(rows);
+    Module1::Profiles.resize(rows);
     WriteConfigFile();
     EXPECT_EQ(read("Config/Kestrivane.ini") == "old", rows > core::kMaxProfiles);
   }
@@ -101,7 +100,7 @@ TEST_F(ConfigFile, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
     allow(0);
     {
       const support::Unprivileged user(path(locked.empty() ? file : locked));
-      Adopt(LoadConfigFile(AppFolder));
+      Adopt(LoadConfigFile(Module1::AppFolder));
       WriteConfigFile();
     }
     allow(0777);
@@ -123,7 +122,7 @@ TEST_F(ConfigFile, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
   EXPECT_NE(read(file), sections) << "the state holds as many rows as the file";
   sections += "[ one too many ]\r\n";
   load(sections);
-  Profiles.pop_back();
+  Module1::Profiles.pop_back();
   WriteConfigFile();
   EXPECT_EQ(read(file), sections) << "the state never held the whole file";
 }
@@ -194,7 +193,7 @@ TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
   const auto file = path("Config/Kestrivane.ini");
   const auto expectDefaults = [](const char* what) {
     startup::FillSharedState();
-    Adopt(LoadConfigFile(AppFolder));
+    Adopt(LoadConfigFile(Module1::AppFolder));
     EXPECT_EQ(value(1, "InputStart1"), "\"KEY_1,JOY1_BUTTON9\"") << what;
     EXPECT_EQ(value(1, "InputAutoTrigger2") + value(1, "Vsync"), "0") << what;
     EXPECT_FALSE(exists("Config/Kestrivane.ini.bak")) << what;
@@ -218,11 +217,11 @@ TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
 
 TEST_F(ConfigFile, SettingsStoreTakesAllItsKeysAndForgetsNone) {
   fillState();
-  PlayLog[1].GameId = "x/y";
+  Module1::PlayLog[1].GameId = "x/y";
   SaveUserSettings();
-  CurrentLanguage = 0;
-  RomPaths[3].clear();
-  PlayLog = {};
+  Module1::CurrentLanguage = 0;
+  Module1::RomPaths[3].clear();
+  Module1::PlayLog = {};
   SaveUserSettings();
   const auto text = settings();
   for (const auto* line : {"game_a=\"3,1250\"", "y=\"1,64\"", "GameListPref=1", "Language=0",

@@ -232,7 +232,10 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
             EXPECT_TRUE(now == saved || isKept(lost) ||
                         (fault.kind == Kind::Kills && now == WithoutEmptyLines(old)))
                 << again << now;
-          if (!again && fault.kind != Kind::Kills) config::WriteConfigFile();
+          if (again || fault.kind == Kind::Kills) break;
+          config::WriteConfigFile();
+          EXPECT_EQ(stored(), WithoutEmptyLines(EncodeCodePage(config::ConfigText())));
+          EXPECT_FALSE(now == WithoutEmptyLines(lost) && exists("Config/Kestrivane.ini.unread2"));
         }
       }
   }

@@ -115,6 +115,8 @@ TEST_F(Windows, FoldersHoldPathsInAnySpelling) {
     EXPECT_TRUE(IsWithin("C:\\Games\\é\\x", folder)) << folder;
   for (const auto* folder : {"D:\\", "C:\\Game", "C:\\Games\\é\\x\\y"})
     EXPECT_FALSE(IsWithin("C:\\Games\\é\\x", folder)) << folder;
+  EXPECT_TRUE(IsWithin("\\\\machine\\share\\x", "//Machine/Share"));
+  EXPECT_FALSE(IsWithin("\\\\machine\\shared", "\\\\machine\\share"));
 }
 
 TEST_F(Windows, DriveWithNothingInItIsEmptyAndOneThatIsNotThereCantBeRead) {
