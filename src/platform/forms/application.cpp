@@ -17,6 +17,7 @@
 #include "platform/forms/input_guard.h"
 #include "platform/forms/list_accessible.h"
 #include "platform/forms/native.h"
+#include "platform/forms/readable_style.h"
 
 // Pulls the pictures out of the library; has to stand outside any namespace.
 static void LoadAssets() { Q_INIT_RESOURCE(assets); }
@@ -74,6 +75,7 @@ Application::Application() {
   native_ = std::make_unique<Native>();
   GuardInput(native_->application);
   native_->application.installEventFilter(&native_->toolTips);
+  QApplication::setStyle(NewReadableStyle());
   QApplication::setPalette(WithReadableSelection(QApplication::palette()));
   MakeButtonsAccessible();
   MakeControlsAccessible();

@@ -37,7 +37,7 @@ QTreeWidgetItem* NewItem(const std::string& path, const std::string& name) {
   return item;
 }
 
-class NativeTree : public RingedView<QTreeWidget> {
+class NativeTree : public RingedView<QTreeWidget, 0> {
  public:
   explicit NativeTree(QWidget* parent) : RingedView(parent) {
     setHeaderHidden(true);

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kTextMargin = 6;
 
-class NativeList : public RingedView<QListWidget> {
+class NativeList : public RingedView<QListWidget, 2> {
  public:
   NativeList(QWidget* parent, const ListBox& list) : RingedView(parent), list_(list) {
     setUniformItemSizes(true);

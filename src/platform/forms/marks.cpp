@@ -26,10 +26,9 @@ double Contrast(const QColor& one, const QColor& other) {
   return (light + 0.05) / (dark + 0.05);
 }
 
-QColor MarkColour(const QWidget& on) {
+QColor MarkColour(const QWidget& on, QPalette::ColorRole background) {
   const auto& palette = on.palette();
-  return WithContrast(palette.color(QPalette::Highlight), palette.color(on.backgroundRole()),
-                      kMarkContrast);
+  return WithContrast(palette.color(QPalette::Highlight), palette.color(background), kMarkContrast);
 }
 
 }  // namespace
@@ -56,30 +55,47 @@ QPalette WithReadableSelection(QPalette palette) {
   return palette;
 }
 
-void PaintFocusRing(QWidget& on, int pixels) {
-  QPainter painter(&on);
-  painter.setPen(QPen(MarkColour(on), pixels));
-  const int inside = pixels / 2;
-  painter.drawRect(on.rect().adjusted(inside, inside, -1, -1));
+void PaintLineInside(QPainter& painter, const QRect& box, const QColor& colour, int pixels) {
+  const auto toScreen = painter.deviceTransform();
+  const auto exact = toScreen.mapRect(QRectF(box));
+  const double left = std::round(exact.left()), right = std::round(exact.right());
+  const double top = std::round(exact.top()), bottom = std::round(exact.bottom());
+  const double width = std::max(1.0, std::floor(pixels * toScreen.m11()));
+  const QRectF sides[] = {{left, top, right - left, width},
+                          {left, bottom - width, right - left, width},
+                          {left, top, width, bottom - top},
+                          {right - width, top, width, bottom - top}};
+  for (const auto& side : sides) painter.fillRect(toScreen.inverted().mapRect(side), colour);
 }
 
-void PaintFrame(QWidget& on) {
+void PaintFocusRing(QWidget& on, int pixels) {
+  QPainter painter(&on);
+  PaintLineInside(painter, on.rect(), MarkColour(on, on.backgroundRole()), pixels);
+}
+
+void PaintFocusRing(QWidget& on, const QRect& contents) {
+  QPainter painter(&on);
+  PaintLineInside(painter, contents, MarkColour(on, QPalette::Base), 2);
+}
+
+void FillBase(QWidget& on, const QRect& contents) {
+  QPainter(&on).fillRect(contents, on.palette().color(QPalette::Base));
+}
+
+void PaintFrame(QWidget& on, const QRect& contents) {
   constexpr double kFrameContrast = 1.5;
   const auto& palette = on.palette();
-  const auto background = palette.color(QPalette::Base);
   QPainter painter(&on);
-  painter.setPen(WithContrast(palette.color(QPalette::Mid), background, kFrameContrast));
-  // Between whole scales a half of the outermost pixel may lie outside.
-  const auto scale = on.devicePixelRatioF();
-  const int inside = scale == std::floor(scale) ? 0 : 1;
-  painter.drawRect(on.rect().adjusted(inside, inside, -1 - inside, -1 - inside));
+  PaintLineInside(
+      painter, contents,
+      WithContrast(palette.color(QPalette::Mid), palette.color(QPalette::Base), kFrameContrast), 1);
 }
 
 void PaintChosenMark(QWidget& on) {
   constexpr int kPixels = 4;
   auto bar = on.rect().adjusted(3, 0, -3, -3);
   bar.setTop(bar.bottom() - kPixels + 1);
-  QPainter(&on).fillRect(bar, MarkColour(on));
+  QPainter(&on).fillRect(bar, MarkColour(on, on.backgroundRole()));
 }
 
 }  // namespace forms

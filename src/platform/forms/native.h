@@ -10,6 +10,7 @@ class QColor;
 class QFont;
 class QHelpEvent;
 class QPaintEvent;
+class QPainter;
 class QPalette;
 class QRect;
 class QString;
@@ -37,11 +38,19 @@ QColor WithContrast(const QColor& colour, const QColor& background, double contr
 // The palette with selected text that can be read.
 QPalette WithReadableSelection(QPalette palette);
 
-// Marks a widget or a view's contents as having the focus.
+// A line inside the edges of a box. It covers whole pixels of the screen, those that a filled box
+// covers: on a scaled screen an edge may lie within one.
+void PaintLineInside(QPainter& painter, const QRect& box, const QColor& colour, int pixels);
+
+// Marks what has the focus: a widget, or a view's contents.
 void PaintFocusRing(QWidget& on, int pixels = 2);
+void PaintFocusRing(QWidget& on, const QRect& contents);
+
+// The background of a view's contents.
+void FillBase(QWidget& on, const QRect& contents);
 
 // The line round a view's contents.
-void PaintFrame(QWidget& on);
+void PaintFrame(QWidget& on, const QRect& contents);
 
 // Marks one of several buttons as the chosen one, by a bar at its lower edge.
 void PaintChosenMark(QWidget& on);
@@ -59,24 +68,44 @@ class Ringed : public Native {
   }
 };
 
-template <class View>
+// A view with a frame or the focus ring round its contents. Neither touches the first or the last
+// row, from which they keep the given pixels; at the sides they are painted on the contents, which
+// have margins of their own there.
+template <class View, int kMargin>
 class RingedView : public View {
  public:
-  // The frame is a part of the contents: of a frame round them a scaled screen loses sides.
-  explicit RingedView(QWidget* parent) : View(parent) { this->setFrameShape(View::NoFrame); }
+  explicit RingedView(QWidget* parent) : View(parent) {
+    this->setFrameShape(View::NoFrame);
+    if (kMargin > 0) this->setViewportMargins(0, kMargin, 0, kMargin);
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     View::paintEvent(event);
-    if (this->hasFocus())
-      PaintFocusRing(*this->viewport());
-    else
-      PaintFrame(*this->viewport());
+    paintRound(*this->viewport(), this->viewport()->rect());
+  }
+  // The view itself has the margins.
+  bool event(QEvent* event) override {
+    const bool handled = View::event(event);
+    const auto type = event->type();
+    if (kMargin > 0 && type == QEvent::Paint) paintRound(*this, this->viewport()->geometry());
+    if (type == QEvent::FocusIn || type == QEvent::FocusOut) this->update();
+    return handled;
   }
   // The ring does not scroll with the contents.
   void scrollContentsBy(int x, int y) override {
     View::scrollContentsBy(x, y);
     this->viewport()->update();
+  }
+
+ private:
+  void paintRound(QWidget& on, const QRect& contents) {
+    const auto box = contents.adjusted(0, -kMargin, 0, kMargin);
+    if (&on == this) FillBase(on, box);
+    if (this->hasFocus())
+      PaintFocusRing(on, box);
+    else
+      PaintFrame(on, box);
   }
 };
 

@@ -1,0 +1,65 @@
+#include "platform/forms/readable_style.h"
+
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOption>
+
+#include "platform/forms/native.h"
+
+namespace forms {
+namespace {
+
+// 3 is what is asked for; what a style paints is a little off its palette's colours.
+constexpr double kContrast = 4.2;
+
+class ReadableStyle : public QProxyStyle {
+ public:
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (!option->state.testFlag(State_Enabled)) return;
+    if (element == PE_IndicatorCheckBox)
+      PaintLineInside(*painter, option->rect, colourOn(*option), 1);
+    if (element == PE_IndicatorRadioButton) {
+      painter->save();
+      painter->setRenderHint(QPainter::Antialiasing);
+      painter->setPen(QPen(colourOn(*option), 1.2));
+      painter->setBrush(Qt::NoBrush);
+      painter->drawEllipse(QRectF(option->rect).adjusted(1, 1, -1, -1));
+      painter->restore();
+    }
+  }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_ScrollBar || !option->state.testFlag(State_Enabled)) return;
+    constexpr int kGroovePixels = 3;  // that are seen beside the thumb
+    auto thumb = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
+    if (option->state.testFlag(State_Horizontal))
+      thumb.adjust(0, kGroovePixels, 0, -kGroovePixels);
+    else
+      thumb.adjust(kGroovePixels, 0, -kGroovePixels, 0);
+    painter->fillRect(thumb, colourOn(*option));
+  }
+  // A little off the left edge, where the caption of the button before may end. Its own caption
+  // stays in its place.
+  QRect subElementRect(SubElement element, const QStyleOption* option,
+                       const QWidget* widget) const override {
+    constexpr int kMargin = 2;
+    const auto rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_RadioButtonIndicator) return rect.translated(kMargin, 0);
+    return element == SE_RadioButtonContents ? rect.adjusted(-kMargin, 0, 0, 0) : rect;
+  }
+
+ private:
+  static QColor colourOn(const QStyleOption& option) {
+    return WithContrast(option.palette.color(QPalette::Mid), option.palette.color(QPalette::Window),
+                        kContrast);
+  }
+};
+
+}  // namespace
+
+QStyle* NewReadableStyle() { return new ReadableStyle; }
+
+}  // namespace forms
