@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Starts the program on the toolkit's own desktop and on two dark ones, and measures on screenshots
-# that its texts can be read (4.5:1) and that focus and state can be seen (3:1). Takes two minutes.
+# Starts the program on the toolkit's own desktop, on two dark ones and on one of high contrast, and
+# measures on screenshots that its texts can be read (4.5:1) and that edges, thumbs, focus and state
+# can be seen (3:1). Takes three minutes.
 # Usage: contrast.sh FRONT_END STAND_IN [folder for the screenshots]
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -16,16 +17,25 @@ lay_out "$work/app" "$1" "$2"
 write_archive "$work/app" 1 good
 echo shader >"$work/app/some.fs"
 mkdir -p "$shots" "$XDG_CONFIG_HOME/qt6ct"
-cat >"$XDG_CONFIG_HOME/qt6ct/qt6ct.conf" <<'CONF'
-[Appearance]
-color_scheme_path=/usr/share/qt6ct/colors/darker.conf
-custom_palette=true
-style=Fusion
-CONF
 
-for desktop in "light" "qt6ct QT_QPA_PLATFORMTHEME=qt6ct" "gtk QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME=Adwaita:dark"; do
+# White and yellow on black; the toolkit takes no high contrast from other desktops. In the order of
+# its colour roles: text, button, ... window, ... highlight, highlighted text, links, ...
+black='#ff000000' white='#ffffffff' yellow='#ffffff00' cyan='#ff00ffff' grey='#ff808080'
+roles="$white, $black, $white, $grey, $black, $grey, $white, $white, $white, $black, $black, $black, \
+$yellow, $black, $cyan, $cyan, $black, $white, $black, $white, $grey"
+printf '[ColorScheme]\nactive_colors=%s\ninactive_colors=%s\ndisabled_colors=%s\n' \
+    "$roles" "$roles" "${roles//$white/$grey}" >"$work/high.conf"
+
+use_colours() { # file of qt6ct
+    printf '[Appearance]\ncolor_scheme_path=%s\ncustom_palette=true\nstyle=Fusion\n' "$1" \
+        >"$XDG_CONFIG_HOME/qt6ct/qt6ct.conf"
+}
+
+for desktop in "light" "qt6ct QT_QPA_PLATFORMTHEME=qt6ct" "high QT_QPA_PLATFORMTHEME=qt6ct" \
+    "gtk QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME=Adwaita:dark"; do
     read -r theme variables <<<"$desktop"
     [[ -z $variables ]] || export ${variables?}
+    use_colours "$([[ $theme == high ]] && echo "$work/high.conf" || echo /usr/share/qt6ct/colors/darker.conf)"
     start "$work/app" 2>/dev/null
     while IFS=$'\t' read -r kind keys shot title <&3; do
         [[ $kind == keys ]] || continue

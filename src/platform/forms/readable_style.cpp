@@ -19,11 +19,11 @@ class ReadableStyle : public QProxyStyle {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (!option->state.testFlag(State_Enabled)) return;
     if (element == PE_IndicatorCheckBox)
-      PaintLineInside(*painter, option->rect, colourOn(*option), 1);
+      PaintLineInside(*painter, option->rect, edgeColour(*option), 1);
     if (element == PE_IndicatorRadioButton) {
       painter->save();
       painter->setRenderHint(QPainter::Antialiasing);
-      painter->setPen(QPen(colourOn(*option), 1.2));
+      painter->setPen(QPen(edgeColour(*option), 1.2));
       painter->setBrush(Qt::NoBrush);
       painter->drawEllipse(QRectF(option->rect).adjusted(1, 1, -1, -1));
       painter->restore();
@@ -34,12 +34,17 @@ class ReadableStyle : public QProxyStyle {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control != CC_ScrollBar || !option->state.testFlag(State_Enabled)) return;
     constexpr int kGroovePixels = 3;  // that are seen beside the thumb
+    constexpr double kGrooveContrast = 1.5;
+    // A style may shade its groove so that no thumb is seen on all of it.
+    const auto groove = subControlRect(CC_ScrollBar, option, SC_ScrollBarGroove, widget);
+    painter->fillRect(groove, option->palette.color(QPalette::Window));
+    PaintLineInside(*painter, groove, colourOn(*option, kGrooveContrast), 1);
     auto thumb = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
     if (option->state.testFlag(State_Horizontal))
       thumb.adjust(0, kGroovePixels, 0, -kGroovePixels);
     else
       thumb.adjust(kGroovePixels, 0, -kGroovePixels, 0);
-    painter->fillRect(thumb, colourOn(*option));
+    painter->fillRect(thumb, colourOn(*option, kContrast));
   }
   // A little off the left edge, where the caption of the button before may end. Its own caption
   // stays in its place.
@@ -52,8 +57,13 @@ class ReadableStyle : public QProxyStyle {
   }
 
  private:
-  static QColor colourOn(const QStyleOption& option) {
+  static QColor colourOn(const QStyleOption& option, double contrast) {
     return WithContrast(option.palette.color(QPalette::Mid), option.palette.color(QPalette::Window),
+                        contrast);
+  }
+  // The window is round it, the background of texts in it.
+  static QColor edgeColour(const QStyleOption& option) {
+    return WithContrast(colourOn(option, kContrast), option.palette.color(QPalette::Base),
                         kContrast);
   }
 };
