@@ -1,6 +1,7 @@
 #include "platform/app_folder.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -22,9 +23,12 @@ void Check(const std::error_code& error) {
 
 std::filesystem::path ExecutablePath() {
 #ifdef _WIN32
-  std::array<wchar_t, 32768> name{};
-  GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()));
-  return name.data();
+  std::array<wchar_t, 32768> buffer{};
+  GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+  std::wstring name = buffer.data();
+  // Wine gives a program on another machine a name without the two backslashes.
+  if (name.starts_with(L"UNC\\")) name.replace(0, 4, L"\\\\");
+  return name;
 #else
   std::error_code error;
   auto path = std::filesystem::read_symlink("/proc/self/exe", error);
