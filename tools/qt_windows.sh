@@ -9,10 +9,14 @@ toolchain=$(cd "$(dirname "${BASH_SOURCE[0]}")/../cmake" && pwd)/windows.cmake
 mkdir -p "$1"
 cache=$(cd "$1" && pwd)
 version=$(dpkg-query -W -f '${source:Version}' qt6-base-dev)
-[[ -n ${2:-} || $(cat "$cache/version" 2>/dev/null) != "$version" ]] || exit 0
+# The number is raised where what is built changes.
+built="$version, build 2"
+[[ -n ${2:-} || $(cat "$cache/version" 2>/dev/null) != "$built" ]] || exit 0
 
 work=$cache/work
 source=${2:-$work/source}
+# The toolkit's libraries hold the folder that they are told they are for. It is found at any other.
+prefix=/qt
 rm -rf "$work" "$cache/version"
 mkdir -p "$work"
 
@@ -32,15 +36,27 @@ if [[ -z ${2:-} ]]; then
     (cd "$work" && fetch_source) >"$work/log" 2>&1 || { cat "$work/log" && exit 1; }
 fi
 
+# What neither the program nor its tests use. The linker would drop much of it, but not what other
+# parts of the toolkit refer to.
+unused="concurrent dbus glib gif icu network printsupport sql system_zlib vulkan xml
+    commandlineparser concatenatetablesproxymodel hijricalendar jalalicalendar mimetype sharedmemory
+    systemsemaphore timezone transposeproxymodel
+    filesystemmodel imageformat_ppm imageformat_xbm movie pdf picture systemtrayicon
+    textmarkdownreader textmarkdownwriter textodfwriter undocommand
+    calendarwidget colordialog columnview commandlinkbutton datawidgetmapper dial dockwidget
+    errormessage filedialog fontcombobox fontdialog formlayout graphicsview inputdialog
+    keysequenceedit lcdnumber mdiarea progressdialog scroller splashscreen syntaxhighlighter
+    tablewidget toolbox undoview wizard"
+# These need headers that Debian's compiler or source package lacks.
+missing="direct2d1_1 tabletevent"
+# One of its headers is read where nothing of it is used then.
+sed -i '/#include <qinputdialog.h>/d' "$source/src/plugins/styles/windowsvista/qwindowsvistastyle_p_p.h"
 features=()
-# The last two need headers that Debian's compiler or source package lacks.
-for feature in concurrent dbus glib gif icu network printsupport sql system_zlib vulkan xml \
-    direct2d1_1 tabletevent; do
-    features+=("-DFEATURE_$feature=OFF")
-done
+for feature in $unused $missing; do features+=("-DFEATURE_$feature=OFF"); done
 echo "Qt $version for Windows: building, some 30 minutes of processor time"
 cmake -S "$source" -B "$work/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$cache/qt" -DBUILD_SHARED_LIBS=OFF \
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$prefix" -DBUILD_SHARED_LIBS=OFF \
+    -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$source=qt" -DCMAKE_C_FLAGS="-ffile-prefix-map=$source=qt" \
     -DFEATURE_static_runtime=ON -DINPUT_opengl=no "${features[@]}" -DQT_BUILD_EXAMPLES=OFF \
     -DQT_BUILD_TESTS=OFF >>"$work/log" 2>&1 || { tail -n 40 "$work/log" && exit 1; }
 if [[ -t 1 ]]; then
@@ -49,7 +65,8 @@ else
     ninja -C "$work/build" >>"$work/log" 2>&1 || { tail -n 40 "$work/log" && exit 1; }
 fi
 rm -rf "$cache/qt" "$cache/source"
-cmake --install "$work/build" >>"$work/log"
+DESTDIR=$work/installed cmake --install "$work/build" >>"$work/log"
+mv "$work/installed$prefix" "$cache/qt"
 
 # What who hands the program on has to hand on too.
 {
@@ -69,4 +86,4 @@ cmake --install "$work/build" >>"$work/log"
 mkdir "$cache/source"
 [[ -n ${2:-} ]] || mv "$work"/qt6-base_* "$cache/source"
 rm -rf "$work"
-echo "$version" >"$cache/version"
+echo "$built" >"$cache/version"
