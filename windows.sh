@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the front-end for Windows on a Debian machine, runs its tests under wine, and leaves
 # KestrivaneUI-VERSION-windows.zip. The toolkit for it is built once, into a folder outside this one.
+# Each of the tests at the end can be run by itself, as it stands there, once all is built.
 # Usage: windows.sh [FOLDER_FOR_QT]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
@@ -17,6 +18,8 @@ cmake --build $build --parallel "$(nproc)"
 cmake --preset release
 cmake --build --preset release --parallel "$(nproc)" --target KestrivaneUI
 
+echo "The program file"
+tests/windows_file.sh $build
 echo "Tests of the logic, under wine"
 tests/windows_logic.sh $build
 echo "Tests of the windows, under wine"

@@ -1,28 +1,45 @@
 #!/usr/bin/env bash
-# Uses the package for Windows under wine as a person does, on a virtual display, and takes pictures
-# of its windows. Then has the front-end of this system, if it is built, play with the emulator for
-# Windows.
-# Usage: windows.sh PACKAGE STAND_IN BUILD_FOLDER [FRONT_END]
+# Uses the package for Windows under wine as a person does, on a virtual display.
+# Usage: windows.sh PACKAGE STAND_IN BUILD_FOLDER FRONT_END [PART...]
+# The front-end is that of this system. The parts, all of which run where none is named:
+#   play      starts, lists, plays, counts, saves, and restores the options
+#   share     does the same from a folder of another machine
+#   wrappers  starts beside libraries that have the names of the system's
+#   pictures  takes pictures of the windows at four scales and in three languages
+#   foreign   has the front-end of this system play with the emulator for Windows
 set -euo pipefail
 package=$(realpath "$1")
-tools=$(dirname "${BASH_SOURCE[0]}")/../../tools
-. "$tools/front_end.sh"
-. "$tools/wine.sh"
+stand_in=$(realpath "$2")
+build=$(realpath "$3")
+other_front_end=$(realpath "$4")
+shift 4
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+. "$here/../../tools/front_end.sh"
+. "$here/../../tools/wine.sh"
 
 app="$work/Jögos/日本 & mais"
-build=$(realpath "$3")
 pictures=$build/pictures
-mkdir -p "$pictures" "$app/ROMs"
+mkdir -p "$pictures"
 trap '(($? == 0)) || picture failed || true; stop_wine; clean_up' EXIT
 
 picture() { screenshot "$pictures/$1.png"; } # name
 is_titled() { [[ $(xdotool getwindowfocus getwindowname) == "$1"* ]]; }
+expect_titled() { wait_until "${2:-30}" is_titled "$1" || fail "no window \"$1\""; } # start, [seconds]
 # The window manager may leave wine's windows without the focus.
 is_main_window() { xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
 back_in_main_window() { wait_until 30 is_main_window || fail "not back in the main window"; }
-start_package() {
-    wine "$app/KestrivaneUI.exe" &
+lay_out_package() { # folder
+    rm -rf "$1"
+    mkdir -p "$1/ROMs" "$1/Config"
+    (cd "$1" && cmake -E tar xf "$package")
+    cp "$stand_in" "$1/Kestrivane.exe"
+    wine reg delete 'HKCU\Software\Kestrivane UI' /f >/dev/null 2>&1 || true
+}
+start_package() { # program
+    wine "$1" &
     front_end=$!
+    expect_main_window 60
+    sleep 1
 }
 escape_ends() {
     press Escape
@@ -34,6 +51,13 @@ expect_end_by_escape() {
     wait_until 20 escape_ends || true
     expect_end 0
 }
+expect_counted_in_registry() { # pattern
+    wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " $1" || fail "not counted"
+}
+open_options() {
+    press alt+t o
+    expect_titled "   "
+}
 # Takes what wine runs down and up again.
 scale_desktop() { # dots per inch
     dpi=$1
@@ -42,64 +66,155 @@ scale_desktop() { # dots per inch
     start_wine "$build"
 }
 
+play() {
+    echo "It starts, lists, plays and counts"
+    lay_out_package "$app"
+    write_archive "$app" 21 good
+    start_package "$app/KestrivaneUI.exe"
+    picture main
+    press Return
+    sleep 3
+    picture playing
+    expect_main_window 60
+    expect_counted_in_registry "1,2[1-9]"
+
+    open_options
+    press Return # saves, so that there are bindings to be seen
+    back_in_main_window
+    expect_end_by_escape
+}
+
+share() {
+    echo "From a folder of another machine it does all the same"
+    local root="$WINEPREFIX/share" name='\\kestrivane\tests'
+    local config="$root/emulator/Config/Kestrivane.ini"
+    lay_out_package "$root/emulator"
+    mkdir -p "$root/more/ROMs" "$root/emulator/NVRAM"
+    write_archive "$root/more" 21 good
+    convert -size 394x344 xc:lime "$root/more/$game.jpg"
+    touch "$root/emulator/NVRAM/$game.nv"
+    printf '%s\r\n' "; Kestrivane UI®" "; KVL configuration" ";ROMpaths=$name\\more\\roms" \
+        ";SNAPpaths=$name\\more" >"$config"
+
+    start_package "$name\\emulator\\KestrivaneUI.exe"
+    picture share
+    [[ $(convert "$pictures/share.png" -crop 20x20+530+270 -format '%[fx:mean.g>0.9&&mean.r<0.1]' info:) == 1 ]] ||
+        fail "the picture is not shown"
+    press alt+t c
+    wait_until 10 test ! -e "$root/emulator/NVRAM/$game.nv" || fail "the machine's memory was not cleared"
+    press Return
+    sleep 3
+    expect_main_window 60
+    expect_counted_in_registry "1,2[1-9]"
+
+    open_options
+    press Right Right Right Right
+    sleep 1
+    picture share-folders
+    press Return
+    back_in_main_window
+    grep -qF ";ROMpaths=$name\\more\\roms" "$config" || fail "the folder was not kept: $(cat "$config")"
+    grep -q ";GameTimeLog=$game,1,2" "$config" || fail "the options were not saved"
+
+    write_archive "$root/more" 1 error
+    press Return
+    expect_titled " Kestrivane has encountered an error:"
+    [[ ! -e $root/emulator/error.log ]] || fail "error.log was left"
+    press Escape
+    back_in_main_window
+    expect_end_by_escape
+}
+
+wrappers() {
+    echo "Libraries beside it that have the names of the system's are not loaded"
+    local names=(authz d3d11 d3d9 dwmapi dwrite dxgi mpr netapi32 userenv uxtheme version winmm wtsapi32)
+    local compiler=(x86_64-w64-mingw32-g++-posix -O1 -static) loaded= name
+    local planted=()
+    lay_out_package "$app"
+    write_archive "$app" 1 good
+    "${compiler[@]}" -shared "$here/planted_library.cpp" -o "$work/planted.dll"
+    "${compiler[@]}" "$here/load_libraries.cpp" -o "$app/load.exe" -lcomdlg32 -lole32
+    for name in "${names[@]}"; do cp "$work/planted.dll" "$app/$name.dll"; done
+    # The order of Windows: those in the program's folder come before the system's. Some of wine's own
+    # libraries import others as programs do, where Windows has all of them on its list of those that
+    # come from its folder. A program that imports no more than every program shows which; for them
+    # the front-end's import table has to speak.
+    local overrides=$WINEDLLOVERRIDES
+    for name in "${names[@]}"; do
+        export WINEDLLOVERRIDES="$overrides;$name=n,b"
+        (cd "$app" && wine load.exe) >/dev/null 2>&1 || true
+        if [[ -e $app/$name.dll.loaded ]]; then
+            loaded+=" $name"
+            continue
+        fi
+        (cd "$app" && wine load.exe "$name.dll") >/dev/null 2>&1
+        [[ -e $app/$name.dll.loaded ]] || fail "$name.dll is not even loaded when it is asked for"
+        planted+=("$name")
+    done
+    ((${#planted[@]} >= 10)) || fail "wine itself loads$loaded"
+    rm "$app"/*.loaded
+    scale_desktop 144 # where the system's finer way to draw texts is used too
+    export WINEDLLOVERRIDES="$overrides;$(IFS=, && echo "${planted[*]}")=n,b"
+    start_package "$app/KestrivaneUI.exe"
+    press Return
+    sleep 2
+    expect_main_window 30
+    open_options
+    for page in video inputs machine folders; do
+        press Right
+        sleep 0.5
+    done
+    press Return
+    back_in_main_window
+    expect_end_by_escape
+    ! ls "$app"/*.loaded 2>/dev/null || fail "planted libraries were loaded"
+    echo "Not loaded: ${planted[*]}; loaded by wine itself:$loaded"
+    export WINEDLLOVERRIDES=$overrides
+    scale_desktop 96
+}
+
+pictures() {
+    echo "Pictures of the windows at four scales and in three languages: $pictures"
+    lay_out_package "$app"
+    write_archive "$app" 1 good
+    for dpi in 96 120 144 192; do
+        scale_desktop $dpi
+        for language in 0 1 2; do
+            printf '%s\r\n' "; Kestrivane UI®" "; KVL configuration" ";KVLLanguage=$language" \
+                >"$app/Config/Kestrivane.ini"
+            start_package "$app/KestrivaneUI.exe"
+            picture "main-$language-$dpi"
+            xdotool mousemove --window "$(xdotool getwindowfocus)" $((57 * dpi / 96)) $((10 * dpi / 96)) click 1
+            press Down Return
+            expect_titled "   "
+            for page in audio video inputs machine folders; do
+                picture "options-$page-$language-$dpi"
+                press Right
+                sleep 1
+            done
+            press Escape
+            back_in_main_window
+            expect_end_by_escape
+        done
+    done
+    scale_desktop 96
+}
+
+foreign() {
+    echo "The front-end of this system plays with the emulator for Windows"
+    local folder=$work/here
+    lay_out "$folder" "$other_front_end" "$stand_in"
+    write_archive "$folder" 21 good
+    QT_QPA_PLATFORM=xcb start_to_main_window "$folder"
+    press Return
+    sleep 3
+    expect_main_window 60
+    expect_counted "1,2[1-9]"
+    expect_end_by_escape
+}
+
 start_display "$work" 1600x1200 || fail "no display"
 unset QT_QPA_PLATFORM
 start_wine "$build"
-wine reg delete 'HKCU\Software\Kestrivane UI' /f >/dev/null 2>&1 || true
-(cd "$app" && cmake -E tar xf "$package")
-cp "$2" "$app/Kestrivane.exe"
-
-echo "It starts, lists, plays and counts"
-write_archive "$app" 21 good
-start_package
-expect_main_window 60
-sleep 1
-picture main
-press Return
-sleep 3
-picture playing
-expect_main_window 60
-wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " 1,2[1-9]" || fail "not counted"
-
-press alt+t o
-expect_window "   Options:   Global"
-press Return # saves, so that there are bindings to be seen
-back_in_main_window
-expect_end_by_escape
-
-echo "Pictures of the windows at three scales and in three languages: $pictures"
-for dpi in 96 144 192; do
-    scale_desktop $dpi
-    for language in 0 1 2; do
-        sed -i '/^;KVLLanguage=/d' "$app/Config/Kestrivane.ini"
-        printf '\r\n;KVLLanguage=%d\r\n' $language >>"$app/Config/Kestrivane.ini"
-        start_package
-        wait_until 60 is_titled "Kestrivane UI" || fail "no window"
-        sleep 1
-        picture "main-$language-$dpi"
-        xdotool mousemove --window "$(xdotool getwindowfocus)" $((57 * dpi / 96)) $((10 * dpi / 96)) click 1
-        press Down Return
-        wait_until 20 is_titled "   " || fail "no options"
-        for page in audio video inputs machine folders; do
-            picture "options-$page-$language-$dpi"
-            press Right
-            sleep 1
-        done
-        press Escape
-        back_in_main_window
-        expect_end_by_escape
-    done
-done
-[[ -n ${4:-} ]] || exit 0
-
-echo "The front-end of this system plays with the emulator for Windows"
-here=$work/here
-lay_out "$here" "$4" "$2"
-write_archive "$here" 21 good
-export QT_QPA_PLATFORM=xcb
-start_to_main_window "$here"
-press Return
-sleep 3
-expect_main_window 60
-expect_counted "1,2[1-9]"
-expect_end_by_escape
+(($# > 0)) || set -- play share wrappers pictures foreign
+for part in "$@"; do "$part"; done
