@@ -36,13 +36,18 @@ unsigned_char() {
     build-unsigned/tests/logic_tests --gtest_brief=1
 }
 
+pack() {
+    cmake --preset release -DBUILD_TESTING=ON >/dev/null
+    build build KestrivaneUI standin
+    rm -f build/*.tar.gz
+    (cd build && cpack >cpack.log) || { tail -n 20 build/cpack.log >&2 && return 1; }
+}
+
 # What is built here and what is handed out.
 hardening() {
     local unpacked=build/unpacked archive files
-    cmake --preset release -DBUILD_TESTING=ON >/dev/null
-    build build KestrivaneUI standin
-    rm -rf "$unpacked" build/*.tar.gz
-    (cd build && cpack >cpack.log) || { tail -n 20 build/cpack.log >&2 && return 1; }
+    pack
+    rm -rf "$unpacked"
     for archive in build/*.tar.gz; do
         mkdir -p "$unpacked/$(basename "$archive")"
         tar -xzf "$archive" -C "$unpacked/$(basename "$archive")"
@@ -53,8 +58,14 @@ hardening() {
     rm -rf "$unpacked"
 }
 
+# Unpacked over each other, and over older ones.
+archives() {
+    pack
+    tests/e2e/archives.sh build
+}
+
 checks=("$@")
-((${#checks[@]} > 0)) || checks=(format each_file hardening unsigned_char tidy)
+((${#checks[@]} > 0)) || checks=(format each_file hardening archives unsigned_char tidy)
 for check in "${checks[@]}"; do
     echo "== Check: ${check//_/ }"
     "$check"
