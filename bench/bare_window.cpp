@@ -1,4 +1,4 @@
-// The floor of start-up time and memory: a window with one list and one button.
+// The baseline of start-up time and memory: a window with one list and one button.
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>

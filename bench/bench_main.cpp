@@ -1,4 +1,4 @@
-// Prints Google Benchmark's rows and then, for each pair "X" and "X/floor", the ratio.
+// Prints Google Benchmark's rows and then, for each pair "X" and "X/baseline", the ratio.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -21,7 +21,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
             run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
   }
   void PrintRatios() const {
-    std::printf("\n%-44s %s\n", "Measured against its floor", "ratio");
+    std::printf("\n%-44s %s\n", "Measured against its baseline", "ratio");
     for (const auto& [name, time] : medians_) {
       const auto slash = name.find('/');
       if (slash == std::string::npos) continue;

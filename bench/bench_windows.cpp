@@ -1,4 +1,4 @@
-// What the windows do while somebody waits.
+// What the windows do while the user waits.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-// Preloaded into a program that is measured: tells the time, in microseconds, at which its first
+// Preloaded into a program to measure it: prints the time, in microseconds, at which its first
 // painted pixels go to the screen.
 #include <dlfcn.h>
 
@@ -14,10 +14,10 @@ void QBackingStore::flush(const QRegion& region, QWindow* window, const QPoint& 
   using Flush = void (*)(QBackingStore*, const QRegion&, QWindow*, const QPoint&);
   static const auto next = reinterpret_cast<Flush>(
       dlsym(RTLD_NEXT, "_ZN13QBackingStore5flushERK7QRegionP7QWindowRK6QPoint"));
-  static bool told = false;
+  static bool printed = false;
   next(this, region, window, offset);
-  if (told) return;
-  told = true;
+  if (printed) return;
+  printed = true;
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   std::fprintf(
       stderr, "painted %lld\n",

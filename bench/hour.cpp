@@ -1,5 +1,5 @@
-// An hour's play at a clock that doesn't wait: what the front-end's memory and processor time come
-// to. Real seconds are measured by using.sh.
+// Measures the front-end's memory and processor time over an hour's play, with a clock that does
+// not wait. using.sh measures real seconds.
 #include <sys/resource.h>
 
 #include <QApplication>

@@ -1,5 +1,5 @@
-// An input's value: filling the table, editing a cell and rebuilding the value agree with each
-// other, and numbering the devices can be repeated and taken back.
+// The value of an input. Filling the table and rebuilding the value agree with each other, and
+// numbering the devices can be repeated and undone.
 #include <algorithm>
 
 #include "core/bindings.h"

@@ -1,5 +1,5 @@
-// The configuration file: what was read from any bytes, written and read again is what the format
-// can hold of it, and the file settles. Games of any name can be played in between.
+// The configuration file. Whatever bytes are read, what is written and read again is the part that
+// the format can hold, and a second write changes nothing. Games of any name are played in between.
 #include <algorithm>
 #include <array>
 
@@ -18,7 +18,7 @@ namespace {
 using config::Configuration;
 using fuzz::Require;
 
-// All but the first inputs are without a binding at first, to keep what is written short.
+// Most inputs start without a binding, which keeps the written text short.
 constexpr core::Slot kBoundByDefault = core::kFirstInputSlot + 4;
 
 Configuration Start() {
@@ -30,8 +30,7 @@ Configuration Start() {
   return start;
 }
 
-// The one that is read into takes turns with the shared state: a fresh one would take most of the
-// time.
+// Reused, since making a new one would take most of the time.
 Configuration& Read(std::string_view bytes) {
   static const auto start = Start();
   static auto read = start;
@@ -64,8 +63,7 @@ void Exchange(Configuration& read) {
 
 std::string Written() { return platform::EncodeCodePage(config::ConfigText()); }
 
-// Plays a game of this name: it becomes a row of its own or is left out, and no other row changes
-// hands.
+// Plays a game of this name. The play gets a row of its own or none, and no other row changes.
 void Play(std::string_view name) {
   platform::TheClock().now = [] { return platform::Moment(std::chrono::hours(1000)); };
   Module1::LaunchRequest.RomName = name;

@@ -1,4 +1,5 @@
-// The emulator's report: all behind the seventh line of any file, unless that tells of a good end.
+// The emulator's report is everything after the seventh line of any file, unless that part says
+// that the run ended well.
 #include <fstream>
 
 #include "core/module1.h"

@@ -1,4 +1,5 @@
-// The emulator's listing: whatever it says, each game line is one row and nothing else is.
+// The emulator's listing. Whatever the text is, each line of a game becomes one row, and no other
+// line does.
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"

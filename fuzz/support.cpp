@@ -11,7 +11,7 @@
 #include "platform/open_address.h"
 #include "platform/settings_store.h"
 
-// A fault must not hide behind an edge.
+// An unexpected error must not be hidden by the error boundary.
 static const bool faultsEndTheRun = [] {
   base::UnexpectedErrorHandler() = [](const std::string& what) {
     fuzz::Require(false, what.c_str());

@@ -10,10 +10,10 @@
 
 namespace fuzz {
 
-// Each fuzzer defines this: it hands the bytes to the program and checks what must hold then.
+// Each fuzzer defines this function, which passes the bytes to the program and checks the result.
 void Examine(std::string_view bytes);
 
-// Something that must hold whatever the input; ends the run as a finding if it does not.
+// Ends the run with a finding if `holds` is false.
 void Require(bool holds, const char* what);
 
 using base::IsUtf8;
