@@ -1,6 +1,5 @@
 #include "platform/forms/accessible_text.h"
 
-#include <QAccessible>
 #include <QRect>
 #include <utility>
 
@@ -35,6 +34,43 @@ class ShownText : public QAccessibleTextInterface {
 };
 
 }  // namespace
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+
+class AccessibleAttributes::Told : public QAccessibleAttributesInterface {
+ public:
+  explicit Told(std::function<AttributeValues()> values) : values_(std::move(values)) {}
+
+  QList<QAccessible::Attribute> attributeKeys() const override {
+    return {QAccessible::Attribute::Custom};
+  }
+  QVariant attributeValue(QAccessible::Attribute key) const override {
+    return key == QAccessible::Attribute::Custom ? QVariant::fromValue(values_()) : QVariant();
+  }
+
+ private:
+  std::function<AttributeValues()> values_;
+};
+
+void* AccessibleAttributes::cast(QAccessible::InterfaceType type) const {
+  return type == QAccessible::AttributesInterface ? told_.get() : nullptr;
+}
+
+#else
+
+class AccessibleAttributes::Told {
+ public:
+  explicit Told(const std::function<AttributeValues()>& /*values*/) {}
+};
+
+void* AccessibleAttributes::cast(QAccessible::InterfaceType /*type*/) const { return nullptr; }
+
+#endif
+
+AccessibleAttributes::AccessibleAttributes(std::function<AttributeValues()> values)
+    : told_(std::make_unique<Told>(std::move(values))) {}
+
+AccessibleAttributes::~AccessibleAttributes() = default;
 
 std::unique_ptr<QAccessibleTextInterface> NewAccessibleText(std::function<QString()> shown) {
   return std::make_unique<ShownText>(std::move(shown));

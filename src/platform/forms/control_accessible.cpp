@@ -77,13 +77,16 @@ class RoleInterface : public QAccessibleWidget {
   }
 };
 
-// A bar whose value is shown in words too. Screen readers speak the text of a spin box, but only
-// the number of a slider.
+// A bar whose value is shown in words too. Screen readers speak the words of a slider only where an
+// attribute tells them, and else its number; of a spin box they speak the text.
 class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit BarInterface(QScrollBar* bar)
-      : QAccessibleWidget(bar, QAccessible::SpinBox),
-        shown_(NewAccessibleText([bar] { return bar->property(kValueProperty).toString(); })) {}
+      : QAccessibleWidget(bar, kHasAttributes ? QAccessible::Slider : QAccessible::SpinBox),
+        shown_(NewAccessibleText([bar] { return bar->property(kValueProperty).toString(); })),
+        attributes_([this]() -> AttributeValues {
+          return {{QStringLiteral("valuetext"), text(QAccessible::Value)}};
+        }) {}
 
   QString text(QAccessible::Text kind) const override {
     return kind == QAccessible::Value ? shown_->text(0, shown_->characterCount())
@@ -91,8 +94,9 @@ class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface 
   }
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
-    return type == QAccessible::TextInterface ? shown_.get()
-                                              : QAccessibleWidget::interface_cast(type);
+    if (type == QAccessible::TextInterface) return shown_.get();
+    auto* attributes = attributes_.cast(type);
+    return attributes ? attributes : QAccessibleWidget::interface_cast(type);
   }
   QVariant currentValue() const override { return bar()->value(); }
   void setCurrentValue(const QVariant& value) override {
@@ -106,6 +110,7 @@ class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface 
   QScrollBar* bar() const { return static_cast<QScrollBar*>(widget()); }
 
   std::unique_ptr<QAccessibleTextInterface> shown_;
+  AccessibleAttributes attributes_;
 };
 
 QAccessibleInterface* NewInterface(const QString& className, QObject* object) {
