@@ -96,6 +96,10 @@ enum class Message : unsigned char {
   RestoreOptions,
   AdvancedOptions,
   Vsync,
+  // What only assistive technology tells.
+  NotAvailable,
+  EmptyCell,
+  ShaderFiles,
   // The buttons of message boxes.
   AnswerOk,
   AnswerYes,

@@ -43,13 +43,13 @@ class RowsInterface : public QAccessibleWidget {
   virtual QRect rectOf(int row) const = 0;
   virtual void press(int row) = 0;
 
-  // An empty row goes by its description.
   QString textOf(int row, QAccessible::Text kind) const {
     const auto index = model_->index(row, 0);
+    if (kind == QAccessible::Description)
+      return index.data(Qt::AccessibleDescriptionRole).toString();
+    if (kind != QAccessible::Name) return {};
     const auto shown = index.data().toString();
-    const auto description = index.data(Qt::AccessibleDescriptionRole).toString();
-    if (kind == QAccessible::Name) return shown.isEmpty() ? description : shown;
-    return kind == QAccessible::Description && !shown.isEmpty() ? description : QString();
+    return shown.isEmpty() ? index.data(Qt::AccessibleTextRole).toString() : shown;
   }
 
  protected:
@@ -97,7 +97,12 @@ class RowsInterface : public QAccessibleWidget {
 
 class RowInterface : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  RowInterface(QWidget* control, int row) : control_(control), row_(row) {}
+  RowInterface(QWidget* control, int row)
+      : control_(control), row_(row), attributes_([this]() -> AttributeValues {
+          if (!isValid()) return {};
+          return {{QStringLiteral("posinset"), QString::number(row_ + 1)},
+                  {QStringLiteral("setsize"), QString::number(rows().childCount())}};
+        }) {}
 
   int row() const { return row_; }
   // Another stands for the row from then on.
@@ -133,7 +138,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   QRect rect() const override { return isValid() && !former_ ? rows().rectOf(row_) : QRect(); }
   void* interface_cast(QAccessible::InterfaceType type) override {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : nullptr;
+                                                : attributes_.cast(type);
   }
 
   QStringList actionNames() const override { return {pressAction()}; }
@@ -153,6 +158,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
 
   QPointer<QWidget> control_;
   int row_;
+  AccessibleAttributes attributes_;
   bool former_ = false;
 };
 
@@ -181,7 +187,16 @@ QAccessibleInterface* RowsInterface::child(int row) const {
 class ListInterface : public RowsInterface {
  public:
   explicit ListInterface(QListWidget* list)
-      : RowsInterface(list, QAccessible::List, list->model()) {}
+      : RowsInterface(list, QAccessible::List, list->model()),
+        attributes_([this]() -> AttributeValues {
+          return {{QStringLiteral("setsize"), QString::number(childCount())}};
+        }) {}
+
+  // Screen readers count the rows in sight where they are not told how many there are.
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    auto* attributes = attributes_.cast(type);
+    return attributes ? attributes : RowsInterface::interface_cast(type);
+  }
 
   QAccessibleInterface* childAt(int x, int y) const override {
     const auto* item = list()->itemAt(list()->viewport()->mapFromGlobal(QPoint(x, y)));
@@ -208,6 +223,8 @@ class ListInterface : public RowsInterface {
 
  private:
   QListWidget* list() const { return static_cast<QListWidget*>(widget()); }
+
+  AccessibleAttributes attributes_;
 };
 
 // The toolkit gives a drop-down its value for a name, and tells of no row that the keys choose
@@ -216,7 +233,10 @@ class ComboInterface : public RowsInterface {
  public:
   explicit ComboInterface(QComboBox* box)
       : RowsInterface(box, QAccessible::ComboBox, box->model()),
-        shown_(NewAccessibleText([box] { return box->currentText(); })) {
+        shown_(NewAccessibleText([box] { return box->currentText(); })),
+        attributes_([box]() -> AttributeValues {
+          return {{QStringLiteral("valuetext"), box->currentText()}};
+        }) {
     const auto tell = [this] {
       if (!this->box()->view()->isVisible()) tellFocus();
     };
@@ -244,8 +264,9 @@ class ComboInterface : public RowsInterface {
     return kind == QAccessible::Value ? box()->currentText() : QAccessibleWidget::text(kind);
   }
   void* interface_cast(QAccessible::InterfaceType type) override {
-    return type == QAccessible::TextInterface ? shown_.get()
-                                              : QAccessibleWidget::interface_cast(type);
+    if (type == QAccessible::TextInterface) return shown_.get();
+    auto* attributes = attributes_.cast(type);
+    return attributes ? attributes : QAccessibleWidget::interface_cast(type);
   }
   QStringList actionNames() const override {
     return QStringList(pressAction()) + QAccessibleWidget::actionNames();
@@ -259,6 +280,7 @@ class ComboInterface : public RowsInterface {
   QComboBox* box() const { return static_cast<QComboBox*>(widget()); }
 
   std::unique_ptr<QAccessibleTextInterface> shown_;
+  AccessibleAttributes attributes_;
 };
 
 }  // namespace

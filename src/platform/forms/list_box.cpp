@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <string>
 
 #include "base/error_boundary.h"
@@ -16,6 +17,42 @@ namespace forms {
 namespace {
 
 constexpr int kTextMargin = 6;
+constexpr int kQuietRole = Qt::UserRole + 1;
+
+class Row : public QListWidgetItem {
+ public:
+  Row(const ListBox& list, const QString& text) : QListWidgetItem(text), list_(list) {}
+
+  QVariant data(int role) const override {
+    if (role == Qt::AccessibleTextRole && text().isEmpty()) return ToQString(list_.emptyRowName);
+    if (role != Qt::AccessibleDescriptionRole || !list_.descriptionOf)
+      return QListWidgetItem::data(role);
+    std::string description;
+    base::RunGuarded([&] { description = list_.descriptionOf(listWidget()->row(this)); });
+    return ToQString(description);
+  }
+
+ private:
+  const ListBox& list_;
+};
+
+class RowPainter : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (!index.data(kQuietRole).toBool()) return;
+    constexpr double kTextContrast = 5;
+    auto& palette = option->palette;
+    for (const auto [text, background] :
+         {std::pair(QPalette::Text, QPalette::Base),
+          std::pair(QPalette::HighlightedText, QPalette::Highlight)})
+      palette.setColor(
+          text, WithContrast(palette.color(background), palette.color(background), kTextContrast));
+  }
+};
 
 class NativeList : public RingedView<QListWidget, 2> {
  public:
@@ -24,6 +61,7 @@ class NativeList : public RingedView<QListWidget, 2> {
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
+    setItemDelegate(new RowPainter(this));
   }
 
   bool takesF2 = false;
@@ -151,7 +189,7 @@ int ListBox::placeOf(const std::string& text) const {
 int ListBox::add(const std::string& text) {
   const int row = placeOf(text);
   const QSignalBlocker quiet(widget());
-  Native(widget())->insertItem(row, ToQString(text));
+  Native(widget())->insertItem(row, new Row(*this, ToQString(text)));
   return row;
 }
 
@@ -168,9 +206,9 @@ void ListBox::setText(int row, const std::string& text) {
   ItemAt(widget(), row).setText(ToQString(text));
 }
 
-void ListBox::describe(int row, const std::string& text) {
+void ListBox::makeQuiet(int row) {
   const QSignalBlocker quiet(widget());
-  ItemAt(widget(), row).setData(Qt::AccessibleDescriptionRole, ToQString(text));
+  ItemAt(widget(), row).setData(kQuietRole, true);
 }
 
 void ListBox::disable(int row) {

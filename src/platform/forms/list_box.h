@@ -17,14 +17,14 @@ class ListBox : public Control {
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
           const FontStyle& font = {});
 
-  // None of these five raises an event, and removing the selected row leaves none selected. A list
+  // None of these four raises an event, and removing the selected row leaves none selected. A list
   // that becomes empty loses its tool tip.
   void clear();
   int add(const std::string& text);  // the row at which it was placed
   void remove(int row);
   void setText(int row, const std::string& text);
-  // What assistive technology tells of a row besides its text.
-  void describe(int row, const std::string& text);
+  // The row is drawn in a quieter colour, and can be chosen like any other.
+  void makeQuiet(int row);
 
   // The row stays, but neither the user nor assistive technology can choose it.
   void disable(int row);
@@ -49,6 +49,10 @@ class ListBox : public Control {
   std::function<void()> onDblClick;  // on a row; also a press by assistive technology
   std::function<void()> onDelete;    // the Delete key
   std::function<void()> onScroll;
+  // What assistive technology tells of a row besides its text. It is asked for as it is needed.
+  std::function<std::string(int row)> descriptionOf;
+  // What assistive technology calls a row without a text.
+  std::string emptyRowName;
   // The tool tip of a row, as plain text. Without it, a text that is cut off has itself as tip.
   std::function<std::string(int row)> toolTipOf;
 

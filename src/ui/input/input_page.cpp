@@ -44,6 +44,7 @@ InputPage::InputPage(forms::Frame& frame, forms::Form& form, const forms::Form& 
   for (auto& player : optPlayer) player.onClick = [this] { FillInputLists(); };
   for (int column = 0; column < kColumns; ++column) {
     auto& list = lstInput[column];
+    if (column > 0) list.descriptionOf = [this](int row) { return lstInput[0].text(row); };
     if (column + 1 < kColumns) list.hideScrollBar();
     list.onClick = [this, column] { lstInput_Click(column); };
     list.onScroll = [this, column] { lstInput_Scroll(column); };
@@ -89,10 +90,8 @@ void InputPage::FillInputLists() {
 void InputPage::AddInputRow(const std::string& name, core::Slot slot,
                             const core::BindingCells& cells) {
   lstInput[0].setItemData(lstInput[0].add(name), slot);
-  for (int column = 1; column < kColumns; ++column) {
-    const int row = lstInput[column].add(cells[static_cast<std::size_t>(column) - 1]);
-    lstInput[column].describe(row, name);
-  }
+  for (int column = 1; column < kColumns; ++column)
+    lstInput[column].add(cells[static_cast<std::size_t>(column) - 1]);
 }
 
 void InputPage::cmbInputType_Click() {
@@ -146,8 +145,10 @@ void InputPage::ApplyLanguage() {
   for (auto& player : optPlayer)
     player.setAccessibleName(Label11.caption() + " " + player.caption());
   cmbInputType.setAccessibleName(Msg(Message::InputPage));
-  for (int column = 0; column < kColumns; ++column)
+  for (int column = 0; column < kColumns; ++column) {
     lstInput[column].setAccessibleName(Label8[column].caption());
+    lstInput[column].emptyRowName = Msg(Message::EmptyCell);
+  }
 }
 
 }  // namespace ui

@@ -37,6 +37,7 @@ Form1::Form1() : Form("Form1", forms::Border::FixedSingle, 10950, 6870) {
   onEscape = [this] { mExit_Click(); };
   lstGames.onClick = [this] { lstGames_Click(); };
   lstGames.toolTipOf = [this](int row) { return ToolTipOf(row); };
+  lstGames.descriptionOf = [this](int row) { return DescriptionOf(row); };
   lstGames.onDblClick = [this] { cmdPlay_Click(); };
   cmdPlay.onClick = [this] { cmdPlay_Click(); };
   cmdConfGame.onClick = [this] { cmdConfGame_Click(); };

@@ -44,6 +44,7 @@ class Form1 : public forms::Form {
   const core::GameEntry& GameOfRow(int row) const;
   const core::GameEntry& SelectedGame() const;
   std::string ToolTipOf(int row) const;
+  std::string DescriptionOf(int row) const;
 
   // Menus and language.
   void ApplyLanguage();

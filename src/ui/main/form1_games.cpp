@@ -36,6 +36,20 @@ std::string PlayTime(const std::string& seconds) {
   return base::HoursMinutesSeconds(std::max(number, 0));
 }
 
+core::PlayRecord PlayStatsOf(const std::string& game) {
+  core::PlayRecord stats{game, "0", "0"};
+  for (const auto& record : Module1::PlayLog) {
+    if (record.GameId.empty()) break;
+    if (record.GameId == game) stats = record;
+  }
+  return stats;
+}
+
+std::string PlayStatsText(const core::PlayRecord& stats, const char* separator) {
+  return Msg(Message::PlayCount) + stats.PlayCount + separator + Msg(Message::PlayTime) +
+         PlayTime(stats.PlaySeconds);
+}
+
 }  // namespace
 
 const core::GameEntry& Form1::GameOfRow(int row) const {
@@ -45,6 +59,15 @@ const core::GameEntry& Form1::GameOfRow(int row) const {
 const core::GameEntry& Form1::SelectedGame() const { return GameOfRow(lstGames.selectedRow()); }
 
 std::string Form1::ToolTipOf(int row) const { return ArchiveTip(GameOfRow(row)); }
+
+// The figures of a game that was never played would only delay a person who hears each row.
+std::string Form1::DescriptionOf(int row) const {
+  const auto& game = GameOfRow(row);
+  std::string text = game.Available ? "" : Msg(Message::NotAvailable);
+  if (const auto stats = PlayStatsOf(game.RomName); stats.PlayCount != "0")
+    text += (text.empty() ? "" : ", ") + PlayStatsText(stats, ", ");
+  return text;
+}
 
 void Form1::SelectGamesFilter() {
   const auto filter = Module1::GameListPref;
@@ -64,7 +87,9 @@ void Form1::RefreshGameList() {
   for (std::size_t row = 0; row + 1 < Module1::GameCatalog.size(); ++row) {
     const auto& game = Module1::GameCatalog[row];
     if (game.Title.empty() || !(game.Available || optGames[0].selected())) continue;
-    lstGames.setItemData(lstGames.add(game.Title), static_cast<int>(row));
+    const int place = lstGames.add(game.Title);
+    lstGames.setItemData(place, static_cast<int>(row));
+    if (!game.Available) lstGames.makeQuiet(place);
     ++count;
   }
   if (count == 0) {
@@ -72,10 +97,12 @@ void Form1::RefreshGameList() {
     cmdPlay.setEnabled(false);
     cmdPlay.setToolTip({});
     cmdConfGame.setEnabled(false);
+    lstGames.setAccessibleName(lblGameTitle.caption());
     return;
   }
   lblInfo.setCaption(" " + std::to_string(count) +
                      Msg(count == 1 ? Message::GameListed : Message::GamesListed));
+  lstGames.setAccessibleName(lblInfo.caption());
   lstGames.select(0);
   cmdConfGame.setEnabled(true);
 }
@@ -110,17 +137,7 @@ void Form1::ShowGameIcon(int row) {
 }
 
 void Form1::ShowPlayStats() {
-  const auto& game = SelectedGame().RomName;
-  std::string count = "0";
-  std::string seconds = "0";
-  for (const auto& record : Module1::PlayLog) {
-    if (record.GameId.empty()) break;
-    if (record.GameId != game) continue;
-    count = record.PlayCount;
-    seconds = record.PlaySeconds;
-  }
-  lblTP.setCaption(Msg(Message::PlayCount) + count + "\r\n" + Msg(Message::PlayTime) +
-                   PlayTime(seconds));
+  lblTP.setCaption(PlayStatsText(PlayStatsOf(SelectedGame().RomName), "\r\n"));
 }
 
 void Form1::optGames_Click(int index) {

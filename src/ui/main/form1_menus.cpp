@@ -58,7 +58,6 @@ void Form1::ApplyLanguage() {
   optGames[0].setCaption(Msg(Message::AllGames));
   optGames[1].setCaption(Msg(Message::OnlyAvailable));
   cmdConfGame.setCaption(Msg(Message::ConfigureTitle));
-  lstGames.setAccessibleName(Msg(Message::GamesListed));
   imgGames.setAccessibleName(Msg(Message::Snapshots));
   imgIcon.setAccessibleName(Msg(Message::Icons));
   RefreshGameList();

@@ -111,7 +111,7 @@ void FoldersPage::AddFolder(int index) {
 
 void FoldersPage::StartFileChoice(int index) {
   File1.setPath(Dir1.path());
-  File1.setAccessibleName(Label1[index].caption());
+  File1.setAccessibleName(Label1[index].caption() + " " + Msg(Message::ShaderFiles));
   if (File1.count() == 0) {
     forms::MsgBox(Msg(Message::FolderIsEmpty), forms::Buttons::Ok, forms::BoxIcon::Exclamation,
                   "Oops!");
@@ -126,6 +126,7 @@ void FoldersPage::StartFileChoice(int index) {
   list.setBackColour(forms::kWhite);  // red is unreadable on the background of a dark desktop
   list.clear();
   list.add(Msg(Message::ShaderHint));
+  list.descriptionOf = [](int) { return Msg(Message::ShaderFiles); };
   // The file list takes the focus before the button is disabled; else the focus would move to
   // lstFolders.
   File1.setVisible(true);
@@ -138,6 +139,7 @@ void FoldersPage::File1_DblClick() {
   if (File1.selectedRow() < 0) return;
   auto& list = lstFolders[ShaderTarget];
   list.clear();
+  list.descriptionOf = {};
   list.add(platform::Joined(File1.path(), File1.text(File1.selectedRow())));
   list.setFont({});
   list.resetColours();
