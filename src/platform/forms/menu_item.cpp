@@ -7,7 +7,9 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QShortcut>
+#include <QTimer>
 
 #include "platform/forms/input_guard.h"
 #include "platform/forms/native.h"
@@ -32,10 +34,32 @@ const QWidget& BarOf(const QAction& action) {
   return *holder;
 }
 
+constexpr const char* kOpensProperty = "opensFromBar";
+
+// Whether the menu is being opened from the bar, which may make its first item the active one.
+bool IsOpening(const QAction& item) { return item.parent()->property(kOpensProperty).toBool(); }
+
+void WatchOpening(QMenu& menu) {
+  if (!qobject_cast<QMenuBar*>(menu.parentWidget())) return;
+  QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu] {
+    menu.setProperty(kOpensProperty, true);
+    const auto end = [&menu] { menu.setProperty(kOpensProperty, false); };
+    QMetaObject::invokeMethod(&menu, end, Qt::QueuedConnection);
+  });
+}
+
+// Screen readers speak the name of a menu that they come into. The toolkit gives it none.
+void NameMenu(const QAction& action) {
+  static const QRegularExpression accessKey(QStringLiteral("&(.)"));
+  if (auto* menu = action.menu()) menu->setAccessibleName(action.text().replace(accessKey, "\\1"));
+}
+
 QMenu& MenuOf(QAction& action) {
   if (!action.menu()) {
     auto* menu = new QMenu(static_cast<QWidget*>(action.parent()));
     action.setMenu(menu);
+    NameMenu(action);
+    WatchOpening(*menu);
     // Assistive technology opens menus without asking.
     const auto closeWhereNoneOpens = [menu, &action] {
       if (!TakesInput(BarOf(action))) menu->close();
@@ -45,16 +69,29 @@ QMenu& MenuOf(QAction& action) {
   return *action.menu();
 }
 
-// A menu that opens has the control with the focus told of once more, behind its own first item.
-void TellAgain(const QAction& action) {
+void TellFocus(const QAction& action) {
   auto* holder = static_cast<QWidget*>(action.parent());
-  const auto* menu = qobject_cast<const QMenu*>(holder);
-  const auto* active =
-      menu ? menu->activeAction() : static_cast<const QMenuBar*>(holder)->activeAction();
-  if (active != &action || QApplication::activePopupWidget() != menu) return;
   QAccessibleEvent focus(holder, QAccessible::Focus);
   focus.setChild(static_cast<int>(holder->actions().indexOf(&action)));
   QAccessible::updateAccessibility(&focus);
+}
+
+void TellIfActive(const QAction& action) {
+  const auto* holder = static_cast<const QWidget*>(action.parent());
+  const auto* menu = qobject_cast<const QMenu*>(holder);
+  const auto* active =
+      menu ? menu->activeAction() : static_cast<const QMenuBar*>(holder)->activeAction();
+  if (active == &action && QApplication::activePopupWidget() == menu) TellFocus(action);
+}
+
+// A menu that opens has the control with the focus told of once more, behind its own first item. So
+// the item is told again. If the menu came from the bar, its name is told before: a screen reader
+// breaks off the name where the item follows at once.
+void TellAgain(QAction& action, bool opensMenu) {
+  if (!opensMenu) return TellIfActive(action);
+  constexpr int kNameMilliseconds = 800;
+  TellFocus(*static_cast<const QMenu*>(action.parent())->menuAction());
+  QTimer::singleShot(kNameMilliseconds, &action, [&action] { TellIfActive(action); });
 }
 
 }  // namespace
@@ -81,11 +118,16 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
     else
       action_->setChecked(action_->isCheckable());  // only a ticked one can be unticked
   });
-  QObject::connect(
-      action_, &QAction::hovered, action_, [this] { TellAgain(*action_); }, Qt::QueuedConnection);
+  QObject::connect(action_, &QAction::hovered, action_, [this] {
+    const auto tell = [this, opens = IsOpening(*action_)] { TellAgain(*action_, opens); };
+    QMetaObject::invokeMethod(action_, tell, Qt::QueuedConnection);
+  });
 }
 
-void MenuItem::setCaption(const std::string& caption) { action_->setText(ToQString(caption)); }
+void MenuItem::setCaption(const std::string& caption) {
+  action_->setText(ToQString(caption));
+  NameMenu(*action_);
+}
 
 void MenuItem::setChecked(bool checked) {
   action_->setCheckable(checked);
