@@ -63,8 +63,8 @@ Control::Control(QWidget* widget, const char* name, const Box& box, const FontSt
   widget_->show();
 }
 
-// A form's controls are members of the class derived from it, so they are destroyed before the window
-// that owns their widgets.
+// A form's controls are members of the class derived from it, so they are destroyed before the
+// window that owns their widgets.
 Control::~Control() { delete widget_; }
 
 void Control::move(const Box& box) {
@@ -109,6 +109,10 @@ void Control::setAccessibleName(const std::string& name) {
   auto text = ToQString(name).trimmed();
   if (text.endsWith(u':')) text.chop(1);
   widget_->setAccessibleName(text);
+}
+
+void Control::setAccessibleDescription(const std::string& text) {
+  widget_->setAccessibleDescription(ToQString(text).simplified());
 }
 
 void Control::announce() const { Announce(*widget_); }

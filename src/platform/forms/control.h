@@ -68,6 +68,8 @@ class Control {
   // What assistive technology calls the control, where its own caption does not tell: a caption or
   // several near by. The colon at its end is dropped.
   void setAccessibleName(const std::string& name);
+  // What assistive technology tells of the control behind its name and value.
+  void setAccessibleDescription(const std::string& text);
   // Has assistive technology speak the control as if the focus had come to it.
   void announce() const;
   // What assistive technology takes the control for, where its kind does not tell.

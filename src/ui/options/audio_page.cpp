@@ -14,6 +14,8 @@ using i18n::Msg;
 AudioPage::AudioPage(forms::Frame& frame) : frame_(frame) {
   forms::Form::setTabOrder(
       {&chkAudio[0], &hslVolume[0], &chkAudio[1], &hslVolume[1], &hslBalance, &chkFlipStereo});
+  // A label in no row with a control would be spoken before the first one of the page.
+  Label10.setRole(forms::Role::Decoration);
   for (int index = 0; index < 2; ++index)
     hslVolume[index].onChange = [this, index] { hslVolume_Change(index); };
   hslBalance.onChange = [this] { hslBalance_Change(); };
@@ -59,6 +61,7 @@ void AudioPage::ApplyLanguage() {
   hslVolume[1].setAccessibleName(chkAudio[1].caption() + " " + Label5.caption());
   for (int index = 0; index < 2; ++index) hslVolume[index].setValueText(lblVolume[index].caption());
   hslBalance.setAccessibleName(Label9.caption());
+  hslBalance.setAccessibleDescription(Label10.caption());
   hslBalance.setValueText(lblBalance.caption());
 }
 
