@@ -4,6 +4,12 @@
 #include "i18n/message_catalogue.h"
 
 namespace ui {
+namespace {
+
+// Whoever wants to hear more reads the text line by line.
+constexpr std::size_t kSpokenBytes = 2000;
+
+}  // namespace
 
 Form4::Form4() : Form("Form4", forms::Border::FixedDialog, 10950, 7290) {
   setColours(forms::kWhite, forms::kBlack);
@@ -17,6 +23,8 @@ void Form4::Form_Load() {
   setTitle(i18n::Msg(i18n::Message::ErrorReportTitle));
   tbxError.setText(Module1::ErrorText);
   tbxError.setAccessibleName(i18n::Msg(i18n::Message::ErrorReportTitle));
+  // Of the text itself a screen reader speaks the first line only.
+  setDescription(Module1::ErrorText.substr(0, kSpokenBytes));
 }
 
 }  // namespace ui
