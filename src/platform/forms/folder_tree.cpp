@@ -47,6 +47,14 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
     SetTakesEnter(*this);
   }
 
+  QTreeWidgetItem* selectedItem() const { return selectedItems().value(0); }
+  // The toolkit tells assistive technology that the current folder has the focus and stands where
+  // it is drawn, even in a tree that is hidden.
+  void leaveCurrent() { setCurrentItem(nullptr, 0, QItemSelectionModel::NoUpdate); }
+  QRect visualRect(const QModelIndex& index) const override {
+    return isVisible() ? QTreeWidget::visualRect(index) : QRect();
+  }
+
   // As wide as the rows: a column of the tree's width has no room for names at deep levels.
   void widenColumn() { setColumnWidth(0, std::max(sizeHintForColumn(0), viewport()->width())); }
   // Brings the name into view sideways too: its end, and before all its beginning.
@@ -99,7 +107,12 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
   void showEvent(QShowEvent* event) override {
     QTreeWidget::showEvent(event);
+    if (selectedItem()) setCurrentItem(selectedItem());
     scrollTo(currentIndex(), EnsureVisible);
+  }
+  void hideEvent(QHideEvent* event) override {
+    QTreeWidget::hideEvent(event);
+    leaveCurrent();
   }
 
  private:
@@ -112,7 +125,7 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
 };
 
-QTreeWidget* Native(QWidget* widget) { return static_cast<QTreeWidget*>(widget); }
+NativeTree* Native(QWidget* widget) { return static_cast<NativeTree*>(widget); }
 
 QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder) {
   for (int row = 0; row < item.childCount(); ++row) {
@@ -150,7 +163,7 @@ void FolderTree::readFolder(QTreeWidgetItem& item) const {
 }
 
 std::string FolderTree::path() const {
-  const auto* item = Native(widget())->currentItem();
+  const auto* item = Native(widget())->selectedItem();
   return item ? PathOf(*item) : std::string();
 }
 
@@ -166,6 +179,7 @@ void FolderTree::setPath(const std::string& root, const std::string& folder) {
   }
   tree->setCurrentItem(item);
   tree->scrollToItem(item, QAbstractItemView::PositionAtTop);
+  if (!tree->isVisible()) tree->leaveCurrent();
 }
 
 }  // namespace forms
