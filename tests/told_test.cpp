@@ -1,0 +1,139 @@
+// What a screen reader is told beside what a window shows.
+#include <QAccessible>
+#include <cmath>
+
+#include "support/fake_clock.h"
+#include "support/ui_test.h"
+
+namespace {
+
+double Luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+class Told : public support::UiTest {
+ protected:
+  void TearDown() override {}  // nothing to compare with notes
+
+  static QAccessibleInterface& in(const QWidget& window, const char* name) {
+    return *QAccessible::queryAccessibleInterface(&get(window, name));
+  }
+  static std::string said(const QAccessibleInterface& control) {
+    const auto description = control.text(QAccessible::Description).remove('\r');
+    return (control.text(QAccessible::Name) + (description.isEmpty() ? "" : ": " + description))
+        .toStdString();
+  }
+  static std::string rows(const QAccessibleInterface& list) {
+    std::string rows;
+    for (int row = 0; row < list.childCount(); ++row) rows += said(*list.child(row)) + "|";
+    return rows;
+  }
+  // How far the text of a row stands out.
+  double contrastOf(int row, QPalette::ColorRole background) const {
+    const auto place = list().visualItemRect(list().item(row)).adjusted(3, 2, -3, -2);
+    const auto image = list().viewport()->grab(place).toImage();
+    const auto behind = Luminance(list().palette().color(background));
+    double most = 1;
+    for (int x = 0; x < image.width(); ++x)
+      for (int y = 0; y < image.height(); ++y) {
+        const auto [dark, light] = std::minmax(Luminance(image.pixelColor(x, y)), behind);
+        most = std::max(most, (light + 0.05) / (dark + 0.05));
+      }
+    return most;
+  }
+};
+
+TEST_F(Told, GamesTellWhetherTheyAreAvailableAndHowOftenTheyWerePlayed) {
+  write("roms/a.zip", "");
+  startWith(";KVLLanguage=1|");
+  Module1::PlayLog[0] = {"b", "2", "65"};
+  const auto& games = in(window(), "lstGames");
+  EXPECT_EQ(said(games), "2 juegos listados");
+  EXPECT_EQ(rows(games), "A|B: no disponible, Partidas jugadas: 2, Tiempo jugado: 0:01:05|");
+  use("mLang(0)");
+  EXPECT_EQ(said(games), "2 games listed");
+  Module1::PlayLog[0] = {"a", "1", "5"};
+  EXPECT_EQ(rows(games), "A: Play Count: 1, Play Time: 0:00:05|B: not available|");
+}
+
+TEST_F(Told, GamesThatAreNotAvailableAreQuieterAndCanBeRead) {
+  write("roms/a.zip", "");
+  start();
+  key(QKeySequence("Tab"));  // away, since the ring of the focus stands out as well
+  for (const auto& desktop : {QPalette(QColor(240, 240, 240)), QPalette(QColor(45, 45, 45))}) {
+    list().setPalette(desktop);
+    list().setCurrentRow(0);
+    EXPECT_GE(contrastOf(1, QPalette::Base), 4.5);
+    list().setCurrentRow(1);
+    EXPECT_GE(contrastOf(1, QPalette::Highlight), 4.5);
+    const auto available = contrastOf(0, QPalette::Base);
+    list().setCurrentRow(0);
+    EXPECT_LT(contrastOf(1, QPalette::Base), available - 3);
+  }
+}
+
+TEST_F(Told, PagesTellWhatBelongsToThem) {
+  start();
+  modify("", [this](QWidget& options) {
+    EXPECT_EQ(in(options, "Label10").role(), QAccessible::Whitespace);
+    const auto& balance = in(options, "hslBalance");
+    EXPECT_EQ(said(balance),
+              "Rear/Front Balance: Rear (available in Kestrivane v0.3a and better) Front");
+    EXPECT_EQ(balance.role() == QAccessible::Slider, QT_VERSION >= QT_VERSION_CHECK(6, 8, 0));
+    EXPECT_EQ(balance.text(QAccessible::Value), "Centered");
+
+    use(options, "optOPT(2) lstInput(1)@0 lstInput(1)=Delete");
+    const auto cells = rows(in(options, "lstInput(1)"));
+    EXPECT_TRUE(cells.starts_with("empty: Start1|KEY_3: Coin1|")) << cells;
+
+    use(options, "optOPT(4) Dir1=Down");
+    auto& tree = in(options, "Dir1");
+    auto* folder = tree.focusChild();
+    ASSERT_TRUE(folder);
+    EXPECT_TRUE(folder->state().focused && !folder->state().invisible);
+    const auto chosen = folder->text(QAccessible::Name);
+    use(options, "optOPT(2)");
+    for (int cell = 0; cell < tree.childCount(); ++cell) {
+      const auto state = tree.child(cell)->state();
+      EXPECT_TRUE(!state.focused && state.invisible) << "it is on a hidden page";
+    }
+    use(options, "optOPT(4) Dir1=F12");
+    EXPECT_EQ(tree.focusChild()->text(QAccessible::Name), chosen);
+  });
+}
+
+TEST_F(Told, ChoiceOfAShaderFileSaysWhatTheKeyboardDoes) {
+  write("a.fs", "");
+  startWith(";KVLLanguage=2|");
+  modify("optOPT(4) cmdAddPath(3)", [](QWidget& options) {
+    EXPECT_EQ(said(in(options, "File1")), "Fragment Shader: Selecione o arquivo Shader com Enter");
+    const auto& target = in(options, "lstFolders(3)");
+    EXPECT_EQ(said(target), "Fragment Shader");
+    EXPECT_EQ(
+        rows(target),
+        "<-- Seleccione o arquivo com um duplo clique: Selecione o arquivo Shader com Enter|");
+  });
+}
+
+TEST_F(Told, ReportIsTheDescriptionOfItsWindow) {
+  support::FakeClock clock;
+  write("roms/a.zip", "seconds=0\nend=error\n");
+  start();
+  clock.onSleep = [&] {
+    if (clock.sleeps.size() == 2) support::WaitForChild();
+  };
+  const auto read = [](QWidget& report) {
+    EXPECT_EQ(report.objectName(), "Form4");
+    const auto text = get(report, "tbxError").property("plainText").toString();
+    EXPECT_TRUE(text.contains('\n'));
+    EXPECT_EQ(said(*QAccessible::queryAccessibleInterface(&report)),
+              " Kestrivane has encountered an error:: " + text.toStdString());
+  };
+  inModal(read, [this] { use("cmdPlay"); });
+}
+
+}  // namespace
