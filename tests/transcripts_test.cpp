@@ -60,7 +60,7 @@ class Language : public support::Transcript,
         R"(Mouse|Joystick|ALT|F\d+|\b[A-Z]\b|\d*x\d*|a\.zip|<app>\S*|Error: there is no archive|)"
         "Resolution of the display in pixels");
     QStringList texts;
-    for (int message = 0; message <= static_cast<int>(i18n::Message::Vsync); ++message) {
+    for (int message = 0; message < static_cast<int>(i18n::kMessageCount); ++message) {
       auto text = bare(QString::fromStdString(i18n::Msg(static_cast<i18n::Message>(message))));
       texts << text << (text.endsWith(':') ? text.chopped(1) : text);
     }

@@ -35,16 +35,16 @@ QString RowText(const QListWidget& list, int row) {
   return text;
 }
 
-// Of a list all rows, of a tree the current one and what is open below it.
+// Of a list all rows, of a tree the selected one and what is open below it.
 QStringList RowsOf(const QWidget& control) {
   QStringList rows;
   if (const auto* list = qobject_cast<const QListWidget*>(&control))
     for (int row = 0; row < list->count(); ++row) rows << RowText(*list, row);
   if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
-    const auto* current = tree->currentItem();
-    rows << current->text(0);
-    for (int row = 0; current->isExpanded() && row < current->childCount(); ++row)
-      rows << current->child(row)->text(0);
+    const auto* selected = tree->selectedItems().first();
+    rows << selected->text(0);
+    for (int row = 0; selected->isExpanded() && row < selected->childCount(); ++row)
+      rows << selected->child(row)->text(0);
   }
   return rows;
 }
