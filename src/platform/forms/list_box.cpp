@@ -46,7 +46,7 @@ class RowPainter : public QStyledItemDelegate {
     if (!index.data(kQuietRole).toBool()) return;
     constexpr double kTextContrast = 5;
     auto& palette = option->palette;
-    for (const auto [text, background] :
+    for (const auto& [text, background] :
          {std::pair(QPalette::Text, QPalette::Base),
           std::pair(QPalette::HighlightedText, QPalette::Highlight)})
       palette.setColor(
