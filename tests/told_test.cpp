@@ -1,5 +1,6 @@
 // What is told or drawn of a control for those who see little or nothing, beside its name and role.
 #include <QAccessible>
+#include <algorithm>
 #include <cmath>
 
 #include "support/fake_clock.h"
@@ -25,6 +26,7 @@ class Told : public support::UiTest {
     return (control.text(QAccessible::Name) + (description.isEmpty() ? "" : ": " + description))
         .toStdString();
   }
+  QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
   // How far the text of a row stands out.
   double contrastOf(int row, QPalette::ColorRole background) const {
     const auto place = list().visualItemRect(list().item(row)).adjusted(3, 2, -3, -2);
