@@ -14,8 +14,9 @@ bool RetryUntil(const std::function<bool()>& attempt) {
   constexpr std::chrono::microseconds kPause(5000);
   using Clock = std::chrono::steady_clock;
   const auto patience = FilePatience().load();
-  for (const auto end = Clock::now() + patience; !attempt();) {
-    if (Clock::now() >= end) return false;
+  const auto end = Clock::now() + patience;
+  for (bool isLast = false; !attempt(); isLast = Clock::now() >= end) {
+    if (isLast) return false;
     std::this_thread::sleep_for(std::min(kPause, patience));
   }
   return true;

@@ -11,7 +11,7 @@ namespace platform {
 // How long a file is waited for: a second. Tests make it shorter.
 std::atomic<std::chrono::microseconds>& FilePatience();
 
-// Repeats `attempt`, once at least, until it succeeds or the patience is used up. Whether it
+// Makes an `attempt` until it succeeds or the patience is used up, but twice at least. Whether it
 // succeeded; what the last attempt left in the system's error variable is still there.
 bool RetryUntil(const std::function<bool()>& attempt);
 
