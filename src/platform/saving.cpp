@@ -18,7 +18,8 @@ constexpr std::size_t kPiece = std::size_t{1} << 20U;
 
 // Empty lines of so many bytes to stand behind a text, whose lines may end as on another system.
 std::string EmptyLines(std::string_view text, long long bytes) {
-  const bool hasCR = text.find('\r') != text.npos || text.find('\n') == text.npos;
+  const bool hasCR =
+      text.find('\r') != std::string_view::npos || text.find('\n') == std::string_view::npos;
   std::string lines(static_cast<std::size_t>(std::max(bytes, 0LL)), '\n');
   for (std::size_t at = text.ends_with('\r') ? 1 : 0; hasCR && at < lines.size(); at += 2)
     lines[at] = '\r';
