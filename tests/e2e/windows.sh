@@ -38,7 +38,7 @@ lay_out_package() { # folder
 start_package() { # program
     wine "$1" &
     front_end=$!
-    expect_main_window 60
+    expect_titled "Kestrivane UI" 60 # the rest of the title depends on the language
     sleep 1
 }
 escape_ends() {
