@@ -1,6 +1,9 @@
 // What is painted: the focus, and texts that are too long for their place.
+#include <QPlainTextEdit>
+
 #include "platform/forms/form.h"
 #include "platform/forms/label.h"
+#include "platform/forms/text_view.h"
 #include "support/ui_test.h"
 
 namespace {
@@ -50,6 +53,15 @@ TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
     EXPECT_GT(same, 0) << "no beginning of the text and an ellipsis";
     EXPECT_EQ(linesOf(drawn("sea cows")), 1);
   }
+}
+
+// The time that the toolkit takes for a line grows with the square of its length.
+TEST_F(Painting, EndlessLinesOfAReportAreShownAsSeveral) {
+  forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
+  forms::TextView view(form, "view", {0, 0, 3000, 900});
+  view.setText(std::string(8001, 'x') + "\n\nend");
+  const auto lines = get<QPlainTextEdit>(*form.clientArea()->window(), "view").toPlainText().split('\n');
+  EXPECT_EQ(lines, QStringList({QString(4000, 'x'), QString(4000, 'x'), "x", "", "end"}));
 }
 
 }  // namespace

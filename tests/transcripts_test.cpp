@@ -40,9 +40,10 @@ TEST_P(Transcript, Holds) {
 }
 
 const auto kNameOf = [](const auto& file) { return PlainName(file.param); };
-INSTANTIATE_TEST_SUITE_P(, Transcript, testing::ValuesIn(support::FilesOf("transcripts")), kNameOf);
 INSTANTIATE_TEST_SUITE_P(Window, Transcript, testing::ValuesIn(support::FilesOf("windows")),
                          kNameOf);
+
+INSTANTIATE_TEST_SUITE_P(, Transcript, testing::ValuesIn(support::FilesOf("transcripts")), kNameOf);
 
 // Each window in the other languages: all that it says is of the catalogue in that language or one
 // of few words, and nothing is cut off or lies on another control.

@@ -1,6 +1,7 @@
 #include "support/snapshot.h"
 
 #include <QAccessible>
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -31,7 +32,13 @@ QString RowText(const QListWidget& list, int row) {
   if (!shown.isEmpty() && shown != name) text += " called " + Quoted(name);
   if (!description.isEmpty()) text += " (" + description + ")";
   if (told.state().disabled && list.isEnabled()) text += " disabled";
-  if (told.state().selected != list.item(row)->isSelected()) text += " SELECTION NOT TOLD";
+  const auto state = told.state();
+  if (state.selected != list.item(row)->isSelected() || !state.selectable) text += " SELECTION NOT TOLD";
+  if (state.focused != (list.hasFocus() && list.currentRow() == row)) text += " FOCUS NOT TOLD";
+  const auto place = told.rect().center();
+  const bool isSeen = list.isVisible() && !state.offscreen;
+  if (Told(list).indexOfChild(&told) != row || (isSeen && Told(list).childAt(place.x(), place.y()) != &told))
+    text += " NOT FOUND";
   return text;
 }
 
@@ -88,7 +95,7 @@ QString StateOf(const QWidget& control) {
 }
 
 QString LooksOf(const QWidget& control) {
-  const auto& told = Told(control);
+  auto& told = Told(control);
   const auto name = told.text(QAccessible::Name), caption = control.property("text").toString();
   const auto box = control.geometry();
   const auto font = control.font();
@@ -109,6 +116,18 @@ QString LooksOf(const QWidget& control) {
   if (const auto* button = qobject_cast<const QPushButton*>(&control);
       button && button->isDefault())
     text += " default";
+  const auto description = told.text(QAccessible::Description);
+  if (!description.isEmpty() && description != control.toolTip()) text += " told " + Quoted(description);
+  const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  if (button && !button->shortcut().isEmpty()) text += " key " + told.text(QAccessible::Accelerator);
+  if (auto* value = told.valueInterface())
+    text += " from " + value->minimumValue().toString() + " to " + value->maximumValue().toString();
+  if (auto* shown = told.textInterface();
+      shown && shown->text(0, shown->characterCount()) != told.text(QAccessible::Value))
+    text += " TEXT NOT TOLD";
+  auto actions = told.actionInterface() ? told.actionInterface()->actionNames() : QStringList();
+  actions.removeAll(QAccessibleActionInterface::setFocusAction());
+  if (!actions.isEmpty() && !button) text += " does " + actions.join(' ');
   if (told.role() == QAccessible::ComboBox && control.objectName() != "Drive1") {
     QStringList rows;
     for (int row = 0; row < told.childCount(); ++row)

@@ -19,18 +19,18 @@ std::vector<QString> LinesOf(const fs::path& file) {
   return lines;
 }
 
-// Of a window that is one of several variants, such as "Form2 of a game".
+// Of a window that is one of several variants, such as "Form2_of_a_game".
 QString KeyOf(const QWidget& window) {
   const auto name = window.objectName();
   const bool isOfGame = name == "Form2" && Module1::OptionScope != core::kGlobalScope;
-  return isOfGame ? name + " of a game" : name;
+  return isOfGame ? name + "_of_a_game" : name;
 }
 
 // What tests/windows tells of a window: the first line of each control, over those of the window
 // that it is a variant of.
 QMap<QString, Snapshot> UsualLook(const QString& key) {
   if (key.isEmpty()) return {};
-  auto usual = UsualLook(key.contains(" of ") ? key.section(" of ", 0, 0) : "");
+  auto usual = UsualLook(key.contains("_of_") ? key.section("_of_", 0, 0) : "");
   static const QRegularExpression form(R"(^  (\S+):(?: (?!\[)(.*?))?(?: \[(.*)\])? --(?: (.*))?$)");
   QStringList known;
   for (const auto& line :
@@ -184,7 +184,7 @@ void Transcript::startLooking(const QString& key) {
   if (key == only_ && last_.contains(key)) return;
   describeWhole_ = key == only_;
   last_[key] =
-      UsualLook(describeWhole_ ? key.section(" of ", 0, key.contains(" of ") ? 0 : -2) : key);
+      UsualLook(describeWhole_ ? key.contains("_of_") ? key.section("_of_", 0, 0) : "" : key);
 }
 
 // The in-game window goes by itself.
