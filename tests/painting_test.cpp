@@ -60,7 +60,8 @@ TEST_F(Painting, EndlessLinesOfAReportAreShownAsSeveral) {
   forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
   forms::TextView view(form, "view", {0, 0, 3000, 900});
   view.setText(std::string(8001, 'x') + "\n\nend");
-  const auto lines = get<QPlainTextEdit>(*form.clientArea()->window(), "view").toPlainText().split('\n');
+  const auto lines =
+      get<QPlainTextEdit>(*form.clientArea()->window(), "view").toPlainText().split('\n');
   EXPECT_EQ(lines, QStringList({QString(4000, 'x'), QString(4000, 'x'), "x", "", "end"}));
 }
 

@@ -1,7 +1,7 @@
 #include "support/snapshot.h"
 
-#include <QAccessible>
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -33,11 +33,13 @@ QString RowText(const QListWidget& list, int row) {
   if (!description.isEmpty()) text += " (" + description + ")";
   if (told.state().disabled && list.isEnabled()) text += " disabled";
   const auto state = told.state();
-  if (state.selected != list.item(row)->isSelected() || !state.selectable) text += " SELECTION NOT TOLD";
+  if (state.selected != list.item(row)->isSelected() || !state.selectable)
+    text += " SELECTION NOT TOLD";
   if (state.focused != (list.hasFocus() && list.currentRow() == row)) text += " FOCUS NOT TOLD";
   const auto place = told.rect().center();
   const bool isSeen = list.isVisible() && !state.offscreen;
-  if (Told(list).indexOfChild(&told) != row || (isSeen && Told(list).childAt(place.x(), place.y()) != &told))
+  if (Told(list).indexOfChild(&told) != row ||
+      (isSeen && Told(list).childAt(place.x(), place.y()) != &told))
     text += " NOT FOUND";
   return text;
 }
@@ -117,9 +119,11 @@ QString LooksOf(const QWidget& control) {
       button && button->isDefault())
     text += " default";
   const auto description = told.text(QAccessible::Description);
-  if (!description.isEmpty() && description != control.toolTip()) text += " told " + Quoted(description);
+  if (!description.isEmpty() && description != control.toolTip())
+    text += " told " + Quoted(description);
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
-  if (button && !button->shortcut().isEmpty()) text += " key " + told.text(QAccessible::Accelerator);
+  if (button && !button->shortcut().isEmpty())
+    text += " key " + told.text(QAccessible::Accelerator);
   if (auto* value = told.valueInterface())
     text += " from " + value->minimumValue().toString() + " to " + value->maximumValue().toString();
   if (auto* shown = told.textInterface();
