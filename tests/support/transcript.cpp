@@ -110,7 +110,10 @@ void Transcript::run(const Line& line, QWidget* opened) {
     for (const auto& below : line.content) text_ += "  " + below + "\n";
     return given(line.text.section(' ', 1, 1), line.text.section(' ', 2), line.content);
   }
-  if (!line.text.startsWith("> ")) return;
+  if (!line.text.startsWith("> ")) {
+    EXPECT_TRUE(line.text.startsWith("# ")) << qPrintable("no line of a transcript: " + line.text);
+    return;
+  }
   clock_.sleeps.clear();
   for (const auto& step : SingleSteps(line.text.mid(2))) {
     const auto target = step.section(' ', -1).section(':', 0, 0);
