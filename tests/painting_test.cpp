@@ -1,4 +1,5 @@
 // What is painted: the focus, and texts that are too long for their place.
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 #include "platform/forms/form.h"
@@ -63,6 +64,35 @@ TEST_F(Painting, EndlessLinesOfAReportAreShownAsSeveral) {
   const auto lines =
       get<QPlainTextEdit>(*form.clientArea()->window(), "view").toPlainText().split('\n');
   EXPECT_EQ(lines, QStringList({QString(4000, 'x'), QString(4000, 'x'), "x", "", "end"}));
+}
+
+// Neither is mixed up with the other, on any scale.
+TEST_F(Painting, AListHasOneLineRoundItThatItsFirstRowKeepsOff) {
+  start();
+  modify("optOPT(2)", [](QWidget& options) {
+    auto& first = get<QListWidget>(options, "lstInput(1)");
+    get<QListWidget>(options, "lstInput(0)").setCurrentRow(0);
+    const auto image = options.grab().toImage();
+    const auto scale = image.devicePixelRatio();
+    const auto at = [&](QPointF place) {
+      const auto onScreen = (first.mapTo(&options, QPoint()) + place) * scale;
+      return image.pixelColor(static_cast<int>(onScreen.x()), static_cast<int>(onScreen.y()));
+    };
+    const auto base = first.palette().color(QPalette::Base);
+    const auto middle = first.width() / 2.0;
+    EXPECT_NE(at({middle, 0.5}), base) << "the frame";
+    EXPECT_EQ(at({middle, 1.6}), base);
+    EXPECT_NE(at({middle, 3.5}), base) << "the selected row";
+    // Between two columns, below the rows' texts.
+    int lines = 0;
+    bool inLine = false;
+    for (double x = -4; x < 4; x += 1 / scale) {
+      const bool line = at({x, first.height() - 4.0}) != base;
+      lines += line && !inLine;
+      inLine = line;
+    }
+    EXPECT_EQ(lines, 1);
+  });
 }
 
 }  // namespace
