@@ -100,4 +100,21 @@ TEST_F(InputGuard, WindowLargerThanTheScreenHasItsCornerOnIt) {
   EXPECT_EQ(larger.clientArea()->window()->pos(), QPoint(0, 0));
 }
 
+// The system takes the key for held down, since no window was active when it was released.
+TEST_F(InputGuard, KeyWhoseReleaseNoWindowSawDoesNotCostTheNextOne) {
+  start();
+  const auto press = [this](bool repeated) {
+    QTest::simulateEvent(window().windowHandle(), true, Qt::Key_Escape, {}, {}, repeated);
+  };
+  press(false);
+  press(true);
+  EXPECT_EQ(ends.size(), 1U) << "held down";
+  QTest::qWait(1300);
+  press(true);
+  EXPECT_EQ(ends.size(), 2U);
+  press(true);
+  EXPECT_EQ(ends.size(), 2U) << "held down";
+  QTest::simulateEvent(window().windowHandle(), false, Qt::Key_Escape, {}, {}, false);
+}
+
 }  // namespace

@@ -1,6 +1,7 @@
 #include "platform/forms/input_guard.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyleHints>
@@ -47,28 +48,41 @@ bool IsPartOf(const QWidget& window, const QWidget& other) {
 // A key that is held down would go on to answer, close and press what comes next.
 class HeldKeys {
  public:
-  // Told of each key event of a window, in their order.
-  bool repeats(const QKeyEvent& event) {
+  // Told of each key event of a window, in their order. Those of its controls are the same once
+  // more.
+  bool repeats(const QKeyEvent& event, bool ofWindow) {
     const bool press = event.type() == QEvent::KeyPress;
-    // The copies that come back from assistive technology have lost their time.
-    if (!event.spontaneous()) return press && event.isAutoRepeat();
-    const bool held = press && (event.isAutoRepeat() || repeatsUntold(event));
-    if (!press) released_ = {event.key(), event.timestamp()};
-    return held;
+    if (ofWindow && event.spontaneous()) judge(event, press);
+    return press && (event.isAutoRepeat() ? !fresh_ : ofWindow && event.spontaneous() && untold_);
   }
 
  private:
-  // The toolkit misses a repetition where the window system's pair of release and press, which has
-  // one time, comes in two pieces.
-  bool repeatsUntold(const QKeyEvent& press) const {
-    return press.nativeScanCode() != 0 && press.key() == released_.key &&
-           press.timestamp() == released_.time;
+  void judge(const QKeyEvent& event, bool press) {
+    const auto key = event.key();
+    const auto time = event.timestamp();
+    // No system waits longer before it repeats a key. One that takes a key for held down all the
+    // same did not see its release, since no window was active then.
+    constexpr quint64 kLongestWait = 1200;  // milliseconds
+    const auto down = down_.find(key);
+    fresh_ = press && down != down_.end() && time - *down > kLongestWait;
+    // The toolkit misses a repetition where the window system's pair of release and press, which
+    // has one time, comes in two pieces. The copies that come back from assistive technology have
+    // lost their time, and are not judged.
+    untold_ =
+        press && event.nativeScanCode() != 0 && key == released_.key && time == released_.time;
+    if (press && (!event.isAutoRepeat() || down != down_.end())) down_.insert(key, time);
+    if (press || event.isAutoRepeat()) return;
+    released_ = {key, time};
+    down_.remove(key);
   }
 
+  QHash<int, quint64> down_;  // keys whose release is to come, with the time of their last press
   struct {
     int key = 0;
     quint64 time = 0;
   } released_;
+  bool fresh_ = false;
+  bool untold_ = false;
 };
 
 // A drop-down list closes at the question whether a key is a shortcut. The key press behind it is
@@ -163,8 +177,7 @@ class Guard : public QObject {
     if (ofWindow && !event.spontaneous())
       QMetaObject::invokeMethod(
           this, [this] { qApp->installEventFilter(this); }, Qt::QueuedConnection);
-    const bool held =
-        ofWindow ? keys_.repeats(event) : event.type() == QEvent::KeyPress && event.isAutoRepeat();
+    const bool held = keys_.repeats(event, ofWindow);
     return held && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return ||
                     event.key() == Qt::Key_Enter);
   }

@@ -64,8 +64,7 @@ Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std:
   box.setDefaultButton(buttons == Buttons::Ok ? QMessageBox::Ok : QMessageBox::Yes);
   if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();
-  // Some window managers leave no window active when the active one goes.
-  if (owner) owner->activateWindow();
+  if (owner) ActivateAgain(*owner);
   switch (answer) {
     case QMessageBox::Yes:
       return Answer::Yes;
