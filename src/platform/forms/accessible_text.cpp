@@ -1,6 +1,9 @@
 #include "platform/forms/accessible_text.h"
 
+#include <QAccessible>
+#include <QHash>
 #include <QRect>
+#include <QString>
 #include <utility>
 
 namespace forms {
@@ -37,9 +40,9 @@ class ShownText : public QAccessibleTextInterface {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
-class AccessibleAttributes::Told : public QAccessibleAttributesInterface {
+class AccessibleAttributes::Interface : public QAccessibleAttributesInterface {
  public:
-  explicit Told(std::function<AttributeValues()> values) : values_(std::move(values)) {}
+  explicit Interface(std::function<AttributeValues()> values) : values_(std::move(values)) {}
 
   QList<QAccessible::Attribute> attributeKeys() const override {
     return {QAccessible::Attribute::Custom};
@@ -52,23 +55,25 @@ class AccessibleAttributes::Told : public QAccessibleAttributesInterface {
   std::function<AttributeValues()> values_;
 };
 
-void* AccessibleAttributes::cast(QAccessible::InterfaceType type) const {
-  return type == QAccessible::AttributesInterface ? told_.get() : nullptr;
+void* AccessibleAttributes::cast(int type) const {
+  return type == QAccessible::AttributesInterface ? interface_.get() : nullptr;
 }
 
 #else
 
-class AccessibleAttributes::Told {
+class AccessibleAttributes::Interface {
  public:
-  explicit Told(const std::function<AttributeValues()>& /*values*/) {}
+  explicit Interface(const std::function<AttributeValues()>& /*values*/) {}
 };
 
-void* AccessibleAttributes::cast(QAccessible::InterfaceType /*type*/) const { return nullptr; }
+void* AccessibleAttributes::cast(int /*type*/) const { return nullptr; }
 
 #endif
 
+bool HasAttributes() { return QT_VERSION >= QT_VERSION_CHECK(6, 8, 0); }
+
 AccessibleAttributes::AccessibleAttributes(std::function<AttributeValues()> values)
-    : told_(std::make_unique<Told>(std::move(values))) {}
+    : interface_(std::make_unique<Interface>(std::move(values))) {}
 
 AccessibleAttributes::~AccessibleAttributes() = default;
 

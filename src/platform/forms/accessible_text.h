@@ -1,11 +1,13 @@
 // Shared by the sources of this folder; no other code includes it.
 #pragma once
 
-#include <QAccessible>
-#include <QHash>
-#include <QString>
 #include <functional>
 #include <memory>
+
+class QAccessibleTextInterface;
+template <class Key, class T>
+class QHash;
+class QString;
 
 namespace forms {
 
@@ -17,19 +19,20 @@ std::unique_ptr<QAccessibleTextInterface> NewAccessibleText(std::function<QStrin
 using AttributeValues = QHash<QString, QString>;
 
 // Whether the toolkit hands attributes on.
-inline constexpr bool kHasAttributes = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
+bool HasAttributes();
 
 class AccessibleAttributes {
  public:
   explicit AccessibleAttributes(std::function<AttributeValues()> values);
   ~AccessibleAttributes();
 
-  // For the control's interface_cast; null for other types, and where attributes are not handed on.
-  void* cast(QAccessible::InterfaceType type) const;
+  // For the control's interface_cast, with its QAccessible::InterfaceType. Null for other types,
+  // and where attributes are not handed on.
+  void* cast(int type) const;
 
  private:
-  class Told;
-  std::unique_ptr<Told> told_;
+  class Interface;
+  std::unique_ptr<Interface> interface_;
 };
 
 }  // namespace forms

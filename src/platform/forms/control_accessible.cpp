@@ -82,7 +82,7 @@ class RoleInterface : public QAccessibleWidget {
 class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit BarInterface(QScrollBar* bar)
-      : QAccessibleWidget(bar, kHasAttributes ? QAccessible::Slider : QAccessible::SpinBox),
+      : QAccessibleWidget(bar, HasAttributes() ? QAccessible::Slider : QAccessible::SpinBox),
         shown_(NewAccessibleText([bar] { return bar->property(kValueProperty).toString(); })),
         attributes_([this]() -> AttributeValues {
           return {{QStringLiteral("valuetext"), text(QAccessible::Value)}};
