@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "support/fake_clock.h"
 #include "support/ui_test.h"
 
 namespace {
@@ -20,11 +19,6 @@ class Told : public support::UiTest {
  protected:
   static QAccessibleInterface& in(const QWidget& window, const char* name) {
     return *QAccessible::queryAccessibleInterface(&get(window, name));
-  }
-  static std::string said(const QAccessibleInterface& control) {
-    const auto description = control.text(QAccessible::Description).remove('\r');
-    return (control.text(QAccessible::Name) + (description.isEmpty() ? "" : ": " + description))
-        .toStdString();
   }
   QListWidget& list() const { return get<QListWidget>(window(), "lstGames"); }
   // How far the text of a row stands out.
@@ -61,12 +55,6 @@ TEST_F(Told, GamesThatAreNotAvailableAreQuieterAndCanBeRead) {
 TEST_F(Told, PagesTellWhatBelongsToThem) {
   start();
   modify("optOPT(0)", [this](QWidget& options) {
-    const auto& balance = in(options, "hslBalance");
-    EXPECT_EQ(said(balance),
-              "Rear/Front Balance: Rear (available in Kestrivane v0.3a and better) Front");
-    EXPECT_EQ(balance.role() == QAccessible::Slider, QT_VERSION >= QT_VERSION_CHECK(6, 8, 0));
-    EXPECT_EQ(balance.text(QAccessible::Value), "Centered");
-
     act(options, "click optOPT(4)");
     act(options, "press Down in Dir1");
     auto& tree = in(options, "Dir1");
@@ -83,23 +71,6 @@ TEST_F(Told, PagesTellWhatBelongsToThem) {
     act(options, "focus Dir1");
     EXPECT_EQ(tree.focusChild()->text(QAccessible::Name), chosen);
   });
-}
-
-TEST_F(Told, ReportIsTheDescriptionOfItsWindow) {
-  support::FakeClock clock;
-  write("roms/a.zip", "seconds=0\nend=error\n");
-  start();
-  clock.onSleep = [&] {
-    if (clock.sleeps.size() == 2) support::WaitForChild();
-  };
-  const auto read = [](QWidget& report) {
-    EXPECT_EQ(report.objectName(), "Form4");
-    const auto text = get(report, "tbxError").property("plainText").toString();
-    EXPECT_TRUE(text.contains('\n'));
-    EXPECT_EQ(said(*QAccessible::queryAccessibleInterface(&report)),
-              " Kestrivane has encountered an error:: " + text.toStdString());
-  };
-  inModal(read, [this] { act("click cmdPlay"); });
 }
 
 }  // namespace

@@ -101,7 +101,9 @@ QString LooksOf(const QWidget& control) {
   const auto name = told.text(QAccessible::Name), caption = control.property("text").toString();
   const auto box = control.geometry();
   const auto font = control.font();
-  QString text = QMetaEnum::fromType<QAccessible::Role>().valueToKey(told.role());
+  // Later toolkits have a bar for what it is.
+  const auto role = told.role() == QAccessible::Slider ? QAccessible::SpinBox : told.role();
+  QString text = QMetaEnum::fromType<QAccessible::Role>().valueToKey(role);
   const bool isLabel = qobject_cast<const QLabel*>(&control);
   if (!isLabel || name != caption) text += " " + Quoted(name);
   if (!isLabel && !caption.isEmpty() && caption != name && told.role() != QAccessible::EditableText)
@@ -173,7 +175,10 @@ QList<Snapshot> SnapshotsOf(const QWidget& window) {
   const auto isOurs = [](const QObject& object) {
     return !object.objectName().isEmpty() && !object.objectName().startsWith("qt_");
   };
-  add("Title", Quoted(window.windowTitle()), {}, window.windowIcon().isNull() ? "NO ICON" : "icon");
+  const auto description = Told(window).text(QAccessible::Description);
+  add("Title",
+      Quoted(window.windowTitle()) + (description.isEmpty() ? "" : " told " + Quoted(description)),
+      {}, window.windowIcon().isNull() ? "NO ICON" : "icon");
   const auto* focus = window.focusWidget();
   add("Focus", focus && isOurs(*focus) ? focus->objectName() : "", {}, "at first");
   const auto* popup = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
