@@ -46,14 +46,19 @@ class ReadableStyle : public QProxyStyle {
       thumb.adjust(kGroovePixels, 0, -kGroovePixels, 0);
     painter->fillRect(thumb, colourOn(*option, kContrast));
   }
-  // A little off the left edge, where the caption of the button before may end. Its own caption
-  // stays in its place.
-  QRect subElementRect(SubElement element, const QStyleOption* option,
-                       const QWidget* widget) const override {
+  // The mark of an option button keeps a little off the left edge, where the caption of the button
+  // before may end. Its own caption stays in its place.
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_RadioButton || !button)
+      return QProxyStyle::drawControl(element, option, painter, widget);
     constexpr int kMargin = 2;
-    const auto rect = QProxyStyle::subElementRect(element, option, widget);
-    if (element == SE_RadioButtonIndicator) return rect.translated(kMargin, 0);
-    return element == SE_RadioButtonContents ? rect.adjusted(-kMargin, 0, 0, 0) : rect;
+    QStyleOptionButton part(*button);
+    part.rect = subElementRect(SE_RadioButtonIndicator, option, widget).translated(kMargin, 0);
+    drawPrimitive(PE_IndicatorRadioButton, &part, painter, widget);
+    part.rect = subElementRect(SE_RadioButtonContents, option, widget);
+    QProxyStyle::drawControl(CE_RadioButtonLabel, &part, painter, widget);
   }
 
  private:
