@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QThread>
-#include <QTimer>
 #include <QWindow>
 #include <chrono>
 #include <optional>
@@ -150,16 +149,6 @@ QPoint Centre(const QRect& outer) {
 
 }  // namespace
 
-void ActivateAgain(QWidget& window) {
-  window.activateWindow();
-  // Where two windows close at once, the system may still be busy with the first, and then takes
-  // back what it gave to the second.
-  constexpr std::chrono::milliseconds kBusy(200);
-  QTimer::singleShot(kBusy, &window, [&window] {
-    if (!QApplication::activeWindow() && TakesInput(window)) window.activateWindow();
-  });
-}
-
 struct Form::Native {
   Native(Form& form, Border border) : window(form, border) {}
 
@@ -255,7 +244,8 @@ void Form::showModal(Form& owner) {
   }
   window.waitUntilClosed();
   window.setParent(nullptr, window.windowFlags());
-  ActivateAgain(owner.native_->window);
+  // Some window managers leave no window active when the active one goes.
+  owner.native_->window.activateWindow();
 }
 
 void Form::close() { native_->window.close(); }

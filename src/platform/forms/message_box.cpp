@@ -64,7 +64,8 @@ Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std:
   box.setDefaultButton(buttons == Buttons::Ok ? QMessageBox::Ok : QMessageBox::Yes);
   if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();
-  if (owner) ActivateAgain(*owner);
+  // Some window managers leave no window active when the active one goes.
+  if (owner) owner->activateWindow();
   switch (answer) {
     case QMessageBox::Yes:
       return Answer::Yes;

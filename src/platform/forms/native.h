@@ -27,10 +27,6 @@ void Raise(const Handler& handler, Arguments&&... arguments) {
   if (handler) base::RunGuarded([&] { handler(std::forward<Arguments>(arguments)...); });
 }
 
-// Makes the window active again that another one had been opened from. Some window managers leave
-// none active when the active one goes.
-void ActivateAgain(QWidget& window);
-
 int ToPixels(int twips);
 QRect ToPixels(const Box& box);
 QFont ToFont(const FontStyle& style);
