@@ -145,11 +145,11 @@ QString LooksOf(const QWidget& control) {
 
 }  // namespace
 
-QString Whole(const Snapshot& it) {
-  auto text = it.name + ":";
-  if (!it.state.isEmpty()) text += " " + it.state;
-  if (!it.rows.isEmpty()) text += " [" + it.rows.join(" | ") + "]";
-  return text + " --" + (it.looks.isEmpty() ? "" : " " + it.looks);
+QString Whole(const Snapshot& control) {
+  auto text = control.name + ":";
+  if (!control.state.isEmpty()) text += " " + control.state;
+  if (!control.rows.isEmpty()) text += " [" + control.rows.join(" | ") + "]";
+  return text + " --" + (control.looks.isEmpty() ? "" : " " + control.looks);
 }
 
 // Where folders are spelled by the system or by the program, one spelling is taken.

@@ -29,7 +29,7 @@ class Transcript : public UiTest {
     QStringList content;  // what stands indented below
   };
 
-  void runUntilClosed(QWidget* window);
+  void runUntilClosed(QWidget* opened);
   void run(const Line& line, QWidget* opened);
   void useOpened(QWidget& opened);
   void given(const QString& what, const QString& value, const QStringList& content);

@@ -96,7 +96,8 @@ QString UiTest::act(QWidget& window, const QString& step) {
       << qPrintable(step);
   const auto verb = step.section(' ', 0, 0), rest = step.section(' ', 1);
   const auto words = rest.split(" in ");
-  const auto what = words[0], name = words.last().section(':', 0, 0);
+  const auto& what = words[0];
+  const auto name = words.last().section(':', 0, 0);
   if (verb == "answer") {
     for (auto* button : window.findChildren<QPushButton*>())
       if (button->text().remove('&') == what) return button->click(), QString();
@@ -122,7 +123,7 @@ QString UiTest::act(QWidget& window, const QString& step) {
 }
 
 QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& words) {
-  const auto what = words[0];
+  const auto& what = words[0];
   auto* list = qobject_cast<QListWidget*>(&control);
   const int row = words.last().section(':', 1).toInt();
   const bool isRow = words.last().contains(':');
