@@ -12,7 +12,11 @@
 namespace config {
 namespace {
 
-constexpr const char* kName = "Config/Kestrivane.ini";
+namespace fs = std::filesystem;
+using Module1::AppFolder;
+
+const std::string kName = "Config/Kestrivane.ini", kUnread = kName + ".unread",
+                  kBak = kName + ".bak";
 
 // The file of a user who has been everywhere, with "|" for each line's end.
 constexpr const char* kFile =
@@ -36,19 +40,23 @@ constexpr const char* kWritten =
 
 class ConfigFile : public support::TempApp {
  protected:
-  ConfigFile() { std::filesystem::create_directory(path("Config")); }
+  ConfigFile() { fs::create_directory(path("Config")); }
 
   static std::string& value(std::size_t row, const char* name) {
     return Module1::Profiles[row].Slots[core::OptionIndex(name)].Value;
   }
-  static void load(const std::string& bytes) {
+  static void load() {
     startup::FillSharedState();
-    write(kName, bytes);
-    Adopt(LoadConfigFile(Module1::AppFolder));
+    Adopt(LoadConfigFile(AppFolder));
   }
+  static void load(const std::string& bytes) {
+    write(kName, bytes);
+    load();
+  }
+  static std::string text() { return platform::EncodeCodePage(ConfigText()); }
   // The state that the file stands for, with much beside it that the file does not hold.
   void fillState() {
-    auto configuration = Defaults(Module1::AppFolder);
+    auto configuration = Defaults(AppFolder);
     ParseConfigText(base::ReplaceIgnoringCase(kFile, "|", "\r\n"), configuration);
     Adopt(std::move(configuration));
     value(1, "Throttle") = "1";
@@ -62,9 +70,8 @@ class ConfigFile : public support::TempApp {
 TEST_F(ConfigFile, WritesTheFormatByteForByteAndReadsItBack) {
   fillState();
   WriteConfigFile();
-  EXPECT_EQ(base::ReplaceIgnoringCase(read("Config/Kestrivane.ini"), "\r\n", "|"), kWritten);
-  startup::FillSharedState();
-  Adopt(LoadConfigFile(Module1::AppFolder));
+  EXPECT_EQ(base::ReplaceIgnoringCase(read(kName), "\r\n", "|"), kWritten);
+  load();
   EXPECT_EQ(support::StateText(),
             "1:Global 1.XResolution=800 1.FullScreen=1 1.FragmentShader=C:\\é\\f.glsl "
             "1.InputStart1=\"key_1,JOY1_BUTTON9\" 1.InputAutoTrigger=1 1.InputAutoTrigger2=0 "
@@ -73,105 +80,92 @@ TEST_F(ConfigFile, WritesTheFormatByteForByteAndReadsItBack) {
 }
 
 TEST_F(ConfigFile, AFailureLeavesTheOldFile) {
-  write("Config/Kestrivane.ini", "old");
+  write(kName, "old");
   for (const std::size_t rows : {256U, 255U}) {
     Module1::Profiles.resize(rows);
     WriteConfigFile();
-    EXPECT_EQ(read("Config/Kestrivane.ini") == "old", rows > core::kMaxProfiles);
+    EXPECT_EQ(read(kName) == "old", rows > core::kMaxProfiles);
   }
-  std::filesystem::remove_all(path("Config"));
+  fs::remove_all(path("Config"));
   WriteConfigFile();
   EXPECT_FALSE(exists("Config"));
 }
 
 TEST_F(ConfigFile, WhatWasNotReadIsRescuedBeforeTheFirstWrite) {
-  const std::string file = kName, unread = file + ".unread";
   const support::ShortPatience patience;
   // A bad line alone, and what nobody could read or even look for.
-  for (const auto& locked : {std::string(), file, std::string("Config")}) {
+  for (const auto& locked : {std::string(), kName, std::string("Config")}) {
     if (!locked.empty() && !support::kPosix) continue;
-    const auto allow = [&](unsigned rights) {
-      if (!locked.empty())
-        std::filesystem::permissions(path(locked), std::filesystem::perms(rights));
-    };
+    const auto file = path(locked.empty() ? kName : locked);
     const std::string bytes = "Vsync = 0\r\n;InputMethod=x\r\n[ a ]\r\n";
-    const auto copy = unread + (locked.empty() ? "" : "2");
+    const auto copy = kUnread + (locked.empty() ? "" : "2");
     load(bytes);
-    allow(0);
+    if (!locked.empty()) fs::permissions(file, fs::perms(0));
     {
-      const support::Unprivileged user(path(locked.empty() ? file : locked));
-      Adopt(LoadConfigFile(Module1::AppFolder));
+      const support::Unprivileged user(file);
+      Adopt(LoadConfigFile(AppFolder));
       WriteConfigFile();
     }
-    allow(0777);
-    EXPECT_EQ(read(file), bytes) << "no right to write, or none to read what would be lost";
+    fs::permissions(file, fs::perms(0777));
+    EXPECT_EQ(read(kName), bytes) << "no right to write, or none to read what would be lost";
     WriteConfigFile();
     EXPECT_EQ(read(copy), bytes);
-    EXPECT_EQ(read(file), platform::EncodeCodePage(ConfigText()));
-    std::filesystem::remove(path(copy));
+    EXPECT_EQ(read(kName), text());
+    fs::remove(path(copy));
     WriteConfigFile();
     EXPECT_FALSE(exists(copy)) << "once";
-    write(unread, "an earlier copy stays");
+    write(kUnread, "an earlier copy stays");
   }
-  EXPECT_EQ(read(unread), "an earlier copy stays");
+  EXPECT_EQ(read(kUnread), "an earlier copy stays");
 
   std::string sections;
   for (int game = 0; game < 253; ++game) sections += "[ g" + std::to_string(game) + " ]\r\n";
   load(sections);
   WriteConfigFile();
-  EXPECT_NE(read(file), sections) << "the state holds as many rows as the file";
+  EXPECT_NE(read(kName), sections) << "the state holds as many rows as the file";
   sections += "[ one too many ]\r\n";
   load(sections);
   Module1::Profiles.pop_back();
   WriteConfigFile();
-  EXPECT_EQ(read(file), sections) << "the state never held the whole file";
+  EXPECT_EQ(read(kName), sections) << "the state never held the whole file";
 }
 
 TEST_F(ConfigFile, IsCopiedWhereASaveWouldLoseIt) {
-  const std::string unread = kName + std::string(".unread"), bak = kName + std::string(".bak");
   fillState();
-  const auto ours = platform::EncodeCodePage(ConfigText());
+  const auto ours = text();
   const auto cut = ours.substr(0, ours.find("KVL configuration"));
   const std::string zeros(5000, '\0'), foreign = "Vsync = 0\r\n";
   const struct {
     const char* what;
     std::string bytes;
-    bool (*happens)();  // after the start; whether there is something to lose
+    bool isLost;
+    std::string changed;  // what another program writes after the start
   } rows[] = {
-      {"ours", ours, [] { return false; }},
-      {"with zeros behind it", ours + zeros, [] { return false; }},
-      {"cut short", cut, [] { return true; }},
-      {"cut short, with zeros", cut + zeros, [] { return true; }},
-      {"ours with the end of another", ours + ours.substr(cut.size() - 5), [] { return true; }},
-      {"a line too much for the reader", ours + ";InputMethod=x\r\n", [] { return true; }},
-      {"of another program", foreign, [] { return false; }},
-      {"and touched", foreign,
-       [] {
-         std::filesystem::last_write_time(path(kName),
-                                          std::filesystem::file_time_type::clock::now());
-         return false;
-       }},
-      {"and then changed", foreign,
-       [] {
-         write(kName, "Vsync = 1\r\n");
-         return true;
-       }},
+      {"ours", ours, false, ""},
+      {"with zeros behind it", ours + zeros, false, ""},
+      {"cut short", cut, true, ""},
+      {"cut short, with zeros", cut + zeros, true, ""},
+      {"ours with the end of another", ours + ours.substr(cut.size() - 5), true, ""},
+      {"a line too much for the reader", ours + ";InputMethod=x\r\n", true, ""},
+      {"of another program", foreign, false, ""},
+      {"and touched", foreign, false, foreign},
+      {"and then changed", foreign, true, "Vsync = 1\r\n"},
   };
-  for (const auto& [what, bytes, happens] : rows)
+  for (const auto& [what, bytes, isLost, changed] : rows)
     for (const bool noBak : {false, true}) {
-      std::filesystem::remove_all(path("Config"));
-      if (noBak) std::filesystem::create_directories(path(bak));
+      const bool isCopied = isLost || (noBak && bytes == foreign);
+      fs::remove_all(path("Config"));
+      if (noBak) fs::create_directories(path(kBak));
       load(bytes);
-      const bool isLost = happens() || (noBak && bytes == foreign);
+      if (!changed.empty()) write(kName, changed);
       const auto old = read(kName);
-      const auto copied = noBak ? "" : read(bak);
-      EXPECT_EQ(copied, bytes == foreign && !noBak ? foreign : "") << what;
+      EXPECT_EQ(noBak ? "" : read(kBak), bytes == foreign && !noBak ? foreign : "") << what;
       WriteConfigFile();
-      EXPECT_EQ(exists(unread), isLost) << what << noBak;
-      EXPECT_EQ(read(unread), isLost ? old : "") << what;
-      EXPECT_EQ(read(kName), platform::EncodeCodePage(ConfigText())) << what;
+      EXPECT_EQ(exists(kUnread), isCopied) << what << noBak;
+      EXPECT_EQ(read(kUnread), isCopied ? old : "") << what;
+      EXPECT_EQ(read(kName), text()) << what;
       WriteConfigFile();
-      EXPECT_FALSE(exists(unread + "2")) << what << ": once";
+      EXPECT_FALSE(exists(kUnread + "2")) << what << ": once";
     }
 }
 
@@ -180,39 +174,38 @@ TEST_F(ConfigFile, HasItsCopiesForTheSameReaders) {
   for (const unsigned rights : {0600U, 0664U})
     for (const std::string bytes : {"Vsync = 0\r\n", ";InputMethod=x\r\n"}) {
       write(kName, bytes);
-      std::filesystem::permissions(path(kName), std::filesystem::perms(rights));
+      fs::permissions(path(kName), fs::perms(rights));
       load(bytes);
       WriteConfigFile();
-      for (const auto& file : std::filesystem::directory_iterator(path("Config")))
+      for (const auto& file : fs::directory_iterator(path("Config")))
         EXPECT_EQ(static_cast<unsigned>(file.status().permissions()), rights) << file.path();
-      std::filesystem::remove(path(kName + std::string(".unread")));
+      fs::remove(path(kUnread));
     }
 }
 
 TEST_F(ConfigFile, WithoutOneThatCanBeReadTheDefaultBindingsHold) {
-  const auto file = path("Config/Kestrivane.ini");
+  const auto file = path(kName);
   const auto expectDefaults = [](const char* what) {
-    startup::FillSharedState();
-    Adopt(LoadConfigFile(Module1::AppFolder));
+    load();
     EXPECT_EQ(value(1, "InputStart1"), "\"KEY_1,JOY1_BUTTON9\"") << what;
     EXPECT_EQ(value(1, "InputAutoTrigger2") + value(1, "Vsync"), "0") << what;
-    EXPECT_FALSE(exists("Config/Kestrivane.ini.bak")) << what;
+    EXPECT_FALSE(exists(kBak)) << what;
   };
   expectDefaults("there is none");
   if (support::MakePipe(file)) expectDefaults("a pipe");
-  std::filesystem::remove(file);
-  write("Config/Kestrivane.ini", "Vsync = 0\r\n");
+  fs::remove(file);
+  write(kName, "Vsync = 0\r\n");
   if (support::kPosix) {
-    std::filesystem::permissions(file, std::filesystem::perms(0));
+    fs::permissions(file, fs::perms(0));
     const support::Unprivileged user;
     expectDefaults("one that nobody may read");
   }
-  std::filesystem::permissions(file, std::filesystem::perms(0666));
-  std::filesystem::resize_file(file, 17 << 20);
+  fs::permissions(file, fs::perms(0666));
+  fs::resize_file(file, 17 << 20);
   expectDefaults("one of 17 MB");
   WriteConfigFile();
-  EXPECT_EQ(read(kName), platform::EncodeCodePage(ConfigText()));
-  EXPECT_EQ(std::filesystem::file_size(path(kName + std::string(".unread"))), 17U << 20U);
+  EXPECT_EQ(read(kName), text());
+  EXPECT_EQ(fs::file_size(path(kUnread)), 17U << 20U);
 }
 
 TEST_F(ConfigFile, SettingsStoreTakesAllItsKeysAndForgetsNone) {

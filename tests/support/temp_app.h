@@ -61,7 +61,6 @@ inline constexpr bool kPosix = false;
 #else
 inline constexpr bool kPosix = true;
 #endif
-inline constexpr const char* kSeparator = kPosix ? "/" : "\\";
 // False where the system has no such files.
 bool MakePipe(const std::filesystem::path& path);
 
