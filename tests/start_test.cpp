@@ -1,8 +1,6 @@
 // What a start finds: folders, the emulator's listing, the archives.
 #include "core/game_catalogue.h"
-#include "core/version.h"
 #include "platform/files.h"
-#include "startup/arguments.h"
 #include "support/temp_app.h"
 
 namespace core {
@@ -32,29 +30,6 @@ TEST_F(Start, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
   write("error.log", "");
   const support::Unprivileged user(path(""));
   EXPECT_TRUE(!load() && GameCatalog[0].Available);
-}
-
-TEST(Arguments, AreAnsweredOrTheUnknownOnesNamed) {
-  const auto nothing = startup::AnswerTo({});
-  EXPECT_EQ(nothing.output + nothing.complaint, "");
-
-  const auto unknown = startup::AnswerTo({"-help", "", "--Version"});
-  EXPECT_EQ(unknown.output, "");
-  EXPECT_EQ(unknown.complaint,
-            "KestrivaneUI: unknown argument ignored: -help\n"
-            "KestrivaneUI: unknown argument ignored: \n"
-            "KestrivaneUI: unknown argument ignored: --Version\n");
-
-  const auto version = startup::AnswerTo({"x", "--version", "--help"});
-  EXPECT_EQ(version.output, "Kestrivane UI " + std::to_string(core::kMajor) + "." +
-                                std::to_string(core::kMinor) + "." +
-                                std::to_string(core::kRevision) + "\n");
-  EXPECT_EQ(version.complaint, "KestrivaneUI: unknown argument ignored: x\n");
-
-  const auto help = startup::AnswerTo({"--help", "--version"});
-  EXPECT_EQ(help.output.substr(0, 19), "Usage: KestrivaneUI");
-  for (const auto* word : {"  --version  ", "  --help  "})
-    EXPECT_NE(help.output.find(word), std::string::npos) << word;
 }
 
 TEST_F(Start, ArchivesAreTakenFromTheFirstFolderThatHasThem) {

@@ -11,6 +11,7 @@
 #include "core/game_catalogue.h"
 #include "platform/code_page.h"
 #include "platform/process.h"
+#include "startup/arguments.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"
 
@@ -73,6 +74,12 @@ class Texts : public support::TempApp {
     result = base::FoldCase(base::ReplaceIgnoringCase(result, AppFolder, "app"));
     return base::ReplaceIgnoringCase(result, "\\", "/");
   }
+  // What is answered to the words, and what is said of those that are unknown.
+  static std::string arguments(const std::string& text) {
+    const auto words = base::Split(text, "|");
+    const auto [output, complaint] = startup::AnswerTo({words.begin(), words.end()});
+    return "out " + output + "err " + complaint;
+  }
 };
 
 TEST_F(Texts, BecomeWhatTheTableSays) {
@@ -89,7 +96,8 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
       {"writable", [](auto& name) { return config::IsWritableGame(name) ? "yes" : "no"; }},
       {"config", config},
       {"games", games},
-      {"command", command}};
+      {"command", command},
+      {"arguments", arguments}};
   for (const auto* file :
        {"Kestrivane.exe", "two words/Tool.exe", "two.exe", "x/Kestrivane.exe", "ROMs/My Game.zip"})
     write(file, "");

@@ -33,17 +33,13 @@ class Windows : public support::ProcessApp {
 constexpr auto* kCompatibility = L"__COMPAT_LAYER";
 decltype(&CreateProcessW) create = nullptr;
 
-// As for a program whose file asks for an administrator's rights, to one who has none.
-BOOL WINAPI CreateProcessThatNeedsRights(LPCWSTR file, LPWSTR line, LPSECURITY_ATTRIBUTES process,
-                                         LPSECURITY_ATTRIBUTES thread, BOOL inherits, DWORD flags,
-                                         LPVOID environment, LPCWSTR folder, LPSTARTUPINFOW start,
-                                         LPPROCESS_INFORMATION created) {
-  std::wstring layer(GetEnvironmentVariableW(kCompatibility, nullptr, 0), L'\0');
-  layer.resize(
-      GetEnvironmentVariableW(kCompatibility, layer.data(), static_cast<DWORD>(layer.size())));
-  if (layer == L"RunAsInvoker")
-    return create(file, line, process, thread, inherits, flags, environment, folder, start,
-                  created);
+// As for a program whose file asks for an administrator's rights, to one who has none. The types
+// are those of the system's function.
+template <class... Types>
+BOOL WINAPI CreateProcessThatNeedsRights(Types... values) {
+  wchar_t layer[32] = L"";
+  GetEnvironmentVariableW(kCompatibility, layer, 32);
+  if (std::wstring_view(layer) == L"RunAsInvoker") return create(values...);
   SetLastError(kElevationRequired);
   return FALSE;
 }
@@ -147,17 +143,24 @@ TEST_F(Windows, FoldersOfOtherMachinesAreLikeOurOwn) {
   DeleteFile(share + "\\a.zip");
 }
 
-TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAsTheyAre) {
+TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAlsoIfItNeedsRightsAndIsListedWithoutThem) {
   addEmulator();
   write("日本 é/game.zip", "seconds=0");
+  const auto game = "\"" + AppFolder + "\\日本 é\\game.zip\" ";
   // The system itself would run this one.
   fs::copy_file(path("Kestrivane.exe"), path("").parent_path().parent_path() / "Mis.exe");
-  EXPECT_EQ(run(AppFolder + "\\kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" \"-x y\\\""), 1);
-  EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
-      << read("error.log");
-  EXPECT_EQ(run("Kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" -input-system=xinput"), 0)
-      << read("error.log");
-  EXPECT_NE(read("error.log").find("Input system: xinput"), std::string::npos);
+  create = __imp_CreateProcessW;
+  for (const bool needsRights : {false, true}) {
+    if (needsRights) __imp_CreateProcessW = CreateProcessThatNeedsRights;
+    EXPECT_TRUE(capture("Kestrivane.exe -print-games").ends_with("Nimblewick's Parade\r\n"));
+    EXPECT_EQ(run(AppFolder + "\\kestrivane " + game + "\"-x y\\\""), 1);
+    EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
+        << needsRights << read("error.log");
+    EXPECT_EQ(run("Kestrivane " + game + "-input-system=xinput"), 0) << read("error.log");
+    EXPECT_NE(read("error.log").find("Input system: xinput"), std::string::npos) << needsRights;
+  }
+  __imp_CreateProcessW = create;
+  EXPECT_EQ(GetEnvironmentVariableW(kCompatibility, nullptr, 0), 0U);
 }
 
 TEST_F(Windows, ProgramsInheritNoHandleButTheListingItsPipe) {
@@ -178,18 +181,6 @@ TEST_F(Windows, ProgramsInheritNoHandleButTheListingItsPipe) {
     EXPECT_EQ(running.wait_for(std::chrono::seconds(0)), std::future_status::timeout) << listing;
     CloseHandle(readEnd);
   }
-}
-
-TEST_F(Windows, ProgramThatNeedsRightsIsListedWithoutThemAndPlayedWithThem) {
-  addEmulator();
-  write("日本 é/game.zip", "seconds=0");
-  create = std::exchange(__imp_CreateProcessW, CreateProcessThatNeedsRights);
-  EXPECT_TRUE(capture("Kestrivane.exe -print-games").ends_with("Nimblewick's Parade\r\n"));
-  EXPECT_EQ(run("Kestrivane \"" + AppFolder + "\\日本 é\\game.zip\" \"-x y\\\""), 1);
-  __imp_CreateProcessW = create;
-  EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
-      << read("error.log");
-  EXPECT_EQ(GetEnvironmentVariableW(kCompatibility, nullptr, 0), 0U);
 }
 
 TEST_F(Windows, CodePageIsTheSystems) {

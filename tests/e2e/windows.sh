@@ -2,10 +2,8 @@
 # Uses the package for Windows under wine as a person does, on a virtual display.
 # Usage: windows.sh PACKAGE STAND_IN BUILD_FOLDER FRONT_END [PART...]
 # The front-end is that of this system. The parts, all of which run where none is named:
-#   play      starts, lists, plays, counts, saves, and restores the options
-#   share     does the same from a folder of another machine
-#   wrappers  starts beside libraries that have the names of the system's
-#   pictures  takes pictures of the windows at four scales and in three languages
+#   share     starts, shows a picture, plays, counts, clears and saves, from a folder of another machine
+#   wrappers  plays, counts and saves beside libraries that have the names of the system's
 #   foreign   has the front-end of this system play with the emulator for Windows
 set -euo pipefail
 package=$(realpath "$1")
@@ -54,38 +52,33 @@ expect_end_by_escape() {
 expect_counted_in_registry() { # pattern
     wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " $1" || fail "not counted"
 }
-open_options() {
+play_counted() {
+    press Return
+    sleep 3
+    picture playing
+    expect_main_window 60
+}
+# Passes the options' pages, so that all of them are shown, and saves.
+save_options() {
     press alt+t o
     expect_titled "   "
+    for page in video inputs machine folders; do
+        press Right
+        sleep 0.5
+    done
+    picture folders
+    press Return
+    back_in_main_window
 }
 # Takes what wine runs down and up again.
 scale_desktop() { # dots per inch
-    dpi=$1
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
     stop_wine
     start_wine "$build"
 }
 
-play() {
-    echo "It starts, lists, plays and counts"
-    lay_out_package "$app"
-    write_archive "$app" 21 good
-    start_package "$app/KestrivaneUI.exe"
-    picture main
-    press Return
-    sleep 3
-    picture playing
-    expect_main_window 60
-    expect_counted_in_registry "1,2[1-9]"
-
-    open_options
-    press Return # saves, so that there are bindings to be seen
-    back_in_main_window
-    expect_end_by_escape
-}
-
 share() {
-    echo "From a folder of another machine it does all the same"
+    echo "From a folder of another machine it does all that it does"
     local root="$WINEPREFIX/share" name='\\kestrivane\tests'
     local config="$root/emulator/Config/Kestrivane.ini"
     lay_out_package "$root/emulator"
@@ -102,17 +95,10 @@ share() {
         fail "the picture is not shown"
     press alt+t c
     wait_until 10 test ! -e "$root/emulator/NVRAM/$game.nv" || fail "the machine's memory was not cleared"
-    press Return
-    sleep 3
-    expect_main_window 60
+    play_counted
     expect_counted_in_registry "1,2[1-9]"
 
-    open_options
-    press Right Right Right Right
-    sleep 1
-    picture share-folders
-    press Return
-    back_in_main_window
+    save_options
     grep -qF ";ROMpaths=$name\\more\\roms" "$config" || fail "the folder was not kept: $(cat "$config")"
     grep -q ";GameTimeLog=$game,1,2" "$config" || fail "the options were not saved"
 
@@ -131,7 +117,7 @@ wrappers() {
     local compiler=(x86_64-w64-mingw32-g++-posix -O1 -static) loaded= name
     local planted=()
     lay_out_package "$app"
-    write_archive "$app" 1 good
+    write_archive "$app" 21 good
     "${compiler[@]}" -shared "$here/planted_library.cpp" -o "$work/planted.dll"
     "${compiler[@]}" "$here/load_libraries.cpp" -o "$app/load.exe" -lcomdlg32 -lole32
     for name in "${names[@]}"; do cp "$work/planted.dll" "$app/$name.dll"; done
@@ -156,47 +142,13 @@ wrappers() {
     scale_desktop 144 # where the system's finer way to draw texts is used too
     export WINEDLLOVERRIDES="$overrides;$(IFS=, && echo "${planted[*]}")=n,b"
     start_package "$app/KestrivaneUI.exe"
-    press Return
-    sleep 2
-    expect_main_window 30
-    open_options
-    for page in video inputs machine folders; do
-        press Right
-        sleep 0.5
-    done
-    press Return
-    back_in_main_window
+    play_counted
+    expect_counted_in_registry "1,2[1-9]"
+    save_options
     expect_end_by_escape
     ! ls "$app"/*.loaded 2>/dev/null || fail "planted libraries were loaded"
     echo "Not loaded: ${planted[*]}; loaded by wine itself:$loaded"
     export WINEDLLOVERRIDES=$overrides
-    scale_desktop 96
-}
-
-pictures() {
-    echo "Pictures of the windows at four scales and in three languages: $pictures"
-    lay_out_package "$app"
-    write_archive "$app" 1 good
-    for dpi in 96 120 144 192; do
-        scale_desktop $dpi
-        for language in 0 1 2; do
-            printf '%s\r\n' "; Kestrivane UI®" "; KVL configuration" ";KVLLanguage=$language" \
-                >"$app/Config/Kestrivane.ini"
-            start_package "$app/KestrivaneUI.exe"
-            picture "main-$language-$dpi"
-            xdotool mousemove --window "$(xdotool getwindowfocus)" $((57 * dpi / 96)) $((10 * dpi / 96)) click 1
-            press Down Return
-            expect_titled "   "
-            for page in audio video inputs machine folders; do
-                picture "options-$page-$language-$dpi"
-                press Right
-                sleep 1
-            done
-            press Escape
-            back_in_main_window
-            expect_end_by_escape
-        done
-    done
     scale_desktop 96
 }
 
@@ -206,9 +158,7 @@ foreign() {
     lay_out "$folder" "$other_front_end" "$stand_in"
     write_archive "$folder" 21 good
     QT_QPA_PLATFORM=xcb start_to_main_window "$folder"
-    press Return
-    sleep 3
-    expect_main_window 60
+    play_counted
     expect_counted "1,2[1-9]"
     expect_end_by_escape
 }
@@ -216,5 +166,5 @@ foreign() {
 start_display "$work" 1600x1200 || fail "no display"
 unset QT_QPA_PLATFORM
 start_wine "$build"
-(($# > 0)) || set -- play share wrappers pictures foreign
+(($# > 0)) || set -- share wrappers foreign
 for part in "$@"; do "$part"; done
