@@ -1,7 +1,6 @@
 // The configuration file. Whatever bytes are read, what is written and read again is the part that
 // the format can hold, and a second write changes nothing. Games of any name are played in between.
 #include <algorithm>
-#include <array>
 
 #include "base/error_boundary.h"
 #include "config/config_reader.h"
@@ -75,26 +74,27 @@ void Play(std::string_view name) {
             "each row keeps its game");
 }
 
-// What the format can hold of folders, rows and plays; of what all games have in common what holds.
-std::string Held(const std::array<const core::FolderList*, 3>& paths,
-                 const std::vector<core::Profile>& rows, const core::PlayRecords& plays) {
-  std::string held;
-  for (const auto* list : paths) {
+// What the format can hold of the state; of what all games have in common what holds.
+std::string Held() {
+  using namespace Module1;
+  auto held = std::to_string(GameListPref) + ' ' + std::to_string(CurrentLanguage) + ' ' +
+              std::to_string(Profiles[1].InputMethod) + '\n';
+  for (const auto* list : {&RomPaths, &SnapPaths, &IconPaths}) {
     for (std::size_t entry = 1; entry < 4 && !(*list)[entry].empty(); ++entry)
       held += (*list)[entry] + '*';
     held += '\n';
   }
   for (core::Slot slot = 0; slot < core::kSlotCount; ++slot) {
-    const auto& value = rows[1].Slots[slot].Value;
+    const auto& value = Profiles[1].Slots[slot].Value;
     const bool isNone = slot >= core::kFirstInputSlot && value == core::kNoBinding;
-    held += (value.empty() || isNone ? rows[0].Slots[slot].Value : value) + '\n';
+    held += (value.empty() || isNone ? Profiles[0].Slots[slot].Value : value) + '\n';
   }
-  for (auto row = rows.begin() + 2; row != rows.end(); ++row) {
+  for (auto row = Profiles.begin() + 2; row != Profiles.end(); ++row) {
     held += row->Name;
     for (core::Slot slot = 0; slot < core::kPerGameSlots; ++slot)
       held += '=' + row->Slots[slot].Value;
   }
-  for (const auto& play : plays) {
+  for (const auto& play : PlayLog) {
     if (play.GameId.empty()) break;
     held += '*' + play.GameId + ',' + play.PlayCount + ',' + play.PlaySeconds;
   }
@@ -116,20 +116,13 @@ void fuzz::Examine(std::string_view bytes) {
         row->Name.find(" ]") != row->Name.npos)
       row->Name = "odd";
   const auto written = Written();
-  auto& again = Read(written);
-  Require(Held({&Module1::RomPaths, &Module1::SnapPaths, &Module1::IconPaths}, Module1::Profiles,
-               Module1::PlayLog) == Held({&again.RomPaths, &again.SnapPaths, &again.IconPaths},
-                                         again.Profiles, again.PlayLog),
-          "what the format can hold comes back");
-  Require(again.GameListPref == Module1::GameListPref &&
-              again.CurrentLanguage == Module1::CurrentLanguage &&
-              again.Profiles[1].InputMethod == Module1::Profiles[1].InputMethod,
-          "the preferences come back");
+  const auto held = Held();
   bool cleared = false;
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     cleared |= Module1::Profiles[1].Slots[slot].Value == core::kNoBinding &&
                Module1::Profiles[0].Slots[slot].Value != core::kNoBinding;
-  Exchange(again);
+  Exchange(Read(written));
+  Require(Held() == held, "what the format can hold comes back");
   const auto rewritten = Written();
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");
   if (!cleared) return;

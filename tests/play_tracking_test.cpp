@@ -34,29 +34,21 @@ TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
   }
 }
 
-TEST_F(PlayTracking, PlayCountsFromTheTwentyFirstSecond) {
-  countPlay("a", 20);
-  countPlay("a;b", 30);
-  EXPECT_EQ(row(0) + settings(), ",,");
-  countPlay("a", 21);
-  countPlay("a", 79);
-  EXPECT_EQ(row(0), "a,2,100");
-  EXPECT_NE(settings().find("a=\"2,100\""), std::string::npos);
-  countPlay("A", 30);
-  EXPECT_EQ(row(1), "A,1,30") << "names mind case";
-}
-
-TEST_F(PlayTracking, OddAndEqualRowsSurviveAndAFullTableTakesNoMore) {
-  const std::tuple<const char*, const char*, const char*> rows[] = {
-      {"1", "", "g,1,"}, {" 1 ", "5", "g,2,35"}, {"2147483647", "5", "g,2147483647,5"}};
-  for (const auto& [plays, seconds, after] : rows) {
+TEST_F(PlayTracking, PlaysAddUpInARowOfTheGameUnlessItsFiguresAreOdd) {
+  const struct {
+    const char *game, *plays, *seconds, *after;
+  } rows[] = {{"g", "1", "70", "g,2,100,,"},    {"g", "1", "", "g,1,,,"},
+              {"g", " 1 ", "5", "g,2,35,,"},    {"g", "2147483647", "5", "g,2147483647,5,,"},
+              {"G", "1", "30", "g,1,30G,1,30"}, {"a;b", "1", "30", "g,1,30,,"}};
+  for (const auto& [game, plays, seconds, after] : rows) {
+    PlayLog.fill({});
     PlayLog[0] = {"g", plays, seconds};
-    countPlay("g", 30);
-    EXPECT_EQ(row(0) + row(1), after + std::string(",,"));
+    countPlay(game, 30);
+    EXPECT_EQ(row(0) + row(1), after) << game;
   }
   PlayLog.fill({"other", "1", "30"});
   countPlay("new", 30);
-  EXPECT_EQ(row(0) + row(40), "other,1,30other,1,30");
+  EXPECT_EQ(row(0) + row(40), "other,1,30other,1,30") << "a full table takes no more";
   PlayLog[0] = PlayLog[40] = {"g", "1", "30"};
   countPlay("g", 30);
   EXPECT_EQ(row(0) + row(39) + row(40), "g,2,60other,1,30g,2,60");

@@ -56,8 +56,8 @@ std::optional<i18n::Message> TempApp::load() {
 
 fs::path TempApp::path(std::string_view name) { return ToPath(Module1::AppFolder) / ToPath(name); }
 
-std::string TempApp::read(std::string_view name) {
-  std::ifstream in(path(name), std::ios::binary);
+std::string ReadFile(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
@@ -71,7 +71,5 @@ void TempApp::addEmulator(std::string_view fault) {
   fs::copy_file(STANDIN, path("Kestrivane.exe"));
   write("standin.mode", fault);
 }
-
-void TempApp::addGames(std::string_view names) { addEmulator("games=" + std::string(names)); }
 
 }  // namespace support

@@ -16,6 +16,9 @@ namespace support {
 std::filesystem::path ToPath(std::string_view text);
 std::string ToText(const std::filesystem::path& path);
 
+// The bytes of a file; none where there is no such file.
+std::string ReadFile(const std::filesystem::path& path);
+
 // A new folder of a name that no other has.
 std::filesystem::path NewFolder();
 
@@ -33,7 +36,7 @@ class TempApp : public testing::Test {
   // Files by their names in AppFolder. Writing makes missing folders.
   static std::filesystem::path path(std::string_view name);
   static bool exists(std::string_view name) { return std::filesystem::exists(path(name)); }
-  static std::string read(std::string_view name);
+  static std::string read(std::string_view name) { return ReadFile(path(name)); }
   static void write(std::string_view name, std::string_view bytes);
   // On POSIX systems only.
   static void writeProgram(std::string_view name, std::string_view script);
@@ -41,13 +44,14 @@ class TempApp : public testing::Test {
   // The stand-in emulator, and how it is to misbehave.
   static void addEmulator(std::string_view fault = {});
   // An emulator that lists games of these names; the titles are the names in capitals.
-  static void addGames(std::string_view names);
+  static void addGames(const std::string& names) { addEmulator("games=" + names); }
 
-  static void clearSettings();
   // Lines such as "name=value"; a value with a comma stands in quotes.
   static std::string settings();
 
  private:
+  static void clearSettings();
+
   std::filesystem::path root_, oldWorkingFolder_;
   std::string oldProgramFolder_;
 };
@@ -61,8 +65,6 @@ inline constexpr bool kPosix = false;
 #else
 inline constexpr bool kPosix = true;
 #endif
-// False where the system has no such files.
-bool MakePipe(const std::filesystem::path& path);
 
 // Waits until a program that this one started has ended.
 void WaitForChild();

@@ -1,9 +1,7 @@
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <stdexcept>
 
 #include "support/temp_app.h"
@@ -31,14 +29,9 @@ void TempApp::writeProgram(std::string_view name, std::string_view script) {
 
 void TempApp::clearSettings() { fs::remove_all(SettingsFolder::file); }
 
-std::string TempApp::settings() {
-  std::ifstream in(SettingsFolder::file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
+std::string TempApp::settings() { return ReadFile(SettingsFolder::file); }
 
 void RemoveAll(const fs::path& folder) { fs::remove_all(folder); }
-
-bool MakePipe(const fs::path& path) { return mkfifo(path.c_str(), 0666) == 0; }
 
 void WaitForChild() {
   siginfo_t ended;

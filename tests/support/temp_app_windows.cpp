@@ -62,8 +62,6 @@ void RemoveAll(const fs::path& folder) {
   RemoveDirectoryW(platform::FullName(name).c_str());
 }
 
-bool MakePipe(const fs::path&) { return false; }
-
 void WaitForChild() {
   const platform::Handle all(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
   PROCESSENTRY32W process{};
