@@ -121,8 +121,8 @@ inline std::vector<core::Profile> Profiles;  // 0 Default, 1 Global, then one ro
 inline core::LaunchOrder LaunchRequest;
 inline std::string InputChoice;
 inline core::PlayRecords PlayLog;
-// The bytes of the configuration file as this run read all of it or wrote it last. Before a save any
-// other file is copied.
+// The bytes of the configuration file as this run read all of it or wrote it last. Before a save
+// any other file is copied.
 inline std::optional<std::string> KnownConfigFile;
 inline bool ConfigFileHasMoreRows = false;  // than Profiles can hold; then nothing is saved
 inline std::string ErrorText;

@@ -14,8 +14,8 @@ namespace {
 
 // The kernel's own trees, which hold no files of a user.
 bool IsOfTheSystem(std::string_view folder) {
-  constexpr std::string_view kTrees[] = {"/dev", "/proc", "/sys", "/run/lock", "/var/run",
-                                         "/var/lock"};
+  constexpr std::string_view kTrees[] = {"/dev",      "/proc",    "/sys",
+                                         "/run/lock", "/var/run", "/var/lock"};
   return std::any_of(std::begin(kTrees), std::end(kTrees), [&](auto tree) {
     return folder.starts_with(tree) && (folder.size() == tree.size() || folder[tree.size()] == '/');
   });

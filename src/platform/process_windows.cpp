@@ -62,8 +62,8 @@ class Inheritance {
   std::vector<char> bytes_;
 };
 
-// Creates the command's process, which waits to be resumed, with its standard output at `output`, or
-// nowhere. Returns whether it could; the system's last error says why not.
+// Creates the command's process, which waits to be resumed, with its standard output at `output`,
+// or nowhere. Returns whether it could; the system's last error says why not.
 bool Create(const Command& command, WORD showState, HANDLE output, PROCESS_INFORMATION& process) {
   // The system may write into this text.
   auto line = LineOf(command);

@@ -4,10 +4,10 @@ namespace platform {
 
 // Has to be called first in `main`, before any thread starts.
 //
-// On POSIX systems: opens standard input, output and error if they are closed, because the next file
-// or pipe would take their place. Makes writing to a pipe without a reader or beyond a size limit
-// fail instead of ending the program. Copies the environment, which the toolkit may change while
-// another thread starts a program.
+// On POSIX systems: opens standard input, output and error if they are closed, because the next
+// file or pipe would take their place. Makes writing to a pipe without a reader or beyond a size
+// limit fail instead of ending the program. Copies the environment, which the toolkit may change
+// while another thread starts a program.
 //
 // On Windows: makes the system's folder the only one that libraries are loaded from by name, and a
 // drive that isn't ready an error instead of a message box.
