@@ -43,6 +43,11 @@ class Texts : public support::TempApp {
     base::RunGuarded([&] { result = std::to_string(read(text)); });
     return result;
   }
+  static std::string encode(const std::string& text) {
+    auto bytes = platform::EncodeCodePage(text);
+    EXPECT_EQ(platform::DecodeCodePage(bytes), text) << "comes back";
+    return bytes;
+  }
   // The shared state, and "bak" if the file was copied; in files "|" stands for the end of a line.
   static std::string config(const std::string& text) {
     const auto bytes = base::ReplaceIgnoringCase(text, "|", "\r\n");
@@ -90,9 +95,7 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
       {"byte", [](auto& text) { return number(base::ToByte, text); }},
       {"decode", platform::DecodeCodePage},
       {"lines", platform::DecodeLines},
-      {"encode", platform::EncodeCodePage},
-      {"again",
-       [](auto& text) { return platform::DecodeCodePage(platform::EncodeCodePage(text)); }},
+      {"encode", encode},
       {"writable", [](auto& name) { return config::IsWritableGame(name) ? "yes" : "no"; }},
       {"config", config},
       {"games", games},
@@ -110,7 +113,7 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
     const auto& function = functions.at(std::string(cells[0]));
     EXPECT_EQ(function(Unescaped(cells[1])), Unescaped(cells[2])) << line;
   }
-  EXPECT_GT(rows, 100);
+  EXPECT_GT(rows, 90);
 }
 
 TEST_F(Texts, OfTheConfigurationEndAtTheLimitsOfLinesAndPlays) {

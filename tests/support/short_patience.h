@@ -10,8 +10,6 @@ struct ShortPatience {
     platform::FilePatience() = patience;
   }
   ~ShortPatience() { platform::FilePatience() = usual; }
-  ShortPatience(const ShortPatience&) = delete;
-  ShortPatience& operator=(const ShortPatience&) = delete;
 
   const std::chrono::microseconds usual = platform::FilePatience();
 };

@@ -25,10 +25,7 @@ fs::path NewFolder() {
   return folder;
 }
 
-TempApp::TempApp()
-    : root_(NewFolder()),
-      oldWorkingFolder_(fs::current_path()),
-      oldProgramFolder_(platform::ProgramFolder()) {
+TempApp::TempApp() : root_(NewFolder()) {
   Module1::AppFolder = ToText(root_ / ToPath("Mis juegos é"));
   fs::create_directory(ToPath(Module1::AppFolder));
   platform::SetProgramFolder(Module1::AppFolder);
@@ -42,8 +39,7 @@ TempApp::TempApp()
 
 TempApp::~TempApp() {
   base::UnexpectedErrorHandler() = nullptr;
-  platform::SetProgramFolder(oldProgramFolder_);
-  fs::current_path(oldWorkingFolder_);
+  fs::current_path(root_.parent_path());
   RemoveAll(root_);
 }
 

@@ -52,8 +52,7 @@ class TempApp : public testing::Test {
  private:
   static void clearSettings();
 
-  std::filesystem::path root_, oldWorkingFolder_;
-  std::string oldProgramFolder_;
+  std::filesystem::path root_;
 };
 
 // Also what other functions find too long.
