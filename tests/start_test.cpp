@@ -32,27 +32,6 @@ TEST_F(Start, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
   EXPECT_TRUE(!load() && GameCatalog[0].Available);
 }
 
-TEST_F(Start, ArchivesAreTakenFromTheFirstFolderThatHasThem) {
-  for (const auto* archive : {"roms/b", "one/a", "two/a", "three/c", "four/d"})
-    write(std::string(archive) + ".zip", "");
-  GameCatalog.assign(6, {});
-  for (std::size_t row = 0; row < 4; ++row) GameCatalog[row].RomName = "abcd"[row];
-  // Of each game the folder in which it was found last, with a dash ahead if it is gone.
-  const auto foundWith = [](const char* first, const char* second) {
-    RomPaths = {"ROMS", first, second, "three", "four"};
-    for (auto& folder : RomPaths)
-      if (!folder.empty()) folder.insert(0, AppFolder + "\\");
-    FindGameArchives(GameCatalog, RomPaths);
-    std::string found;
-    for (std::size_t row = 0; row < 4; ++row)
-      found += (GameCatalog[row].Available ? "" : "-") + std::to_string(GameCatalog[row].RomFolder);
-    return found;
-  };
-  EXPECT_EQ(foundWith("One", "two\\"), "103-0") << "the last folder is not searched";
-  EXPECT_EQ(foundWith("", "two\\"), "-10-3-0") << "an empty entry ends the list";
-  EXPECT_EQ(foundWith("two\\", "three"), "102-0");
-}
-
 TEST_F(Start, WorkingFoldersAreMadeUpToTheFirstFailure) {
   write("Snaps", "a file in the way");
   std::filesystem::create_directory(path("ROMS"));

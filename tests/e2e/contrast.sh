@@ -26,16 +26,13 @@ $yellow, $black, $cyan, $cyan, $black, $white, $black, $white, $grey"
 printf '[ColorScheme]\nactive_colors=%s\ninactive_colors=%s\ndisabled_colors=%s\n' \
     "$roles" "$roles" "${roles//$white/$grey}" >"$work/high.conf"
 
-use_colours() { # file of qt6ct
-    printf '[Appearance]\ncolor_scheme_path=%s\ncustom_palette=true\nstyle=Fusion\n' "$1" \
-        >"$XDG_CONFIG_HOME/qt6ct/qt6ct.conf"
-}
-
 for desktop in "light" "qt6ct QT_QPA_PLATFORMTHEME=qt6ct" "high QT_QPA_PLATFORMTHEME=qt6ct" \
     "gtk QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME=Adwaita:dark"; do
     read -r theme variables <<<"$desktop"
     [[ -z $variables ]] || export ${variables?}
-    use_colours "$([[ $theme == high ]] && echo "$work/high.conf" || echo /usr/share/qt6ct/colors/darker.conf)"
+    [[ $theme == high ]] && colours=$work/high.conf || colours=/usr/share/qt6ct/colors/darker.conf
+    printf '[Appearance]\ncolor_scheme_path=%s\ncustom_palette=true\nstyle=Fusion\n' "$colours" \
+        >"$XDG_CONFIG_HOME/qt6ct/qt6ct.conf"
     start "$work/app" 2>/dev/null
     while IFS=$'\t' read -r kind keys shot title <&3; do
         [[ $kind == keys ]] || continue

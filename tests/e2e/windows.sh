@@ -49,17 +49,16 @@ expect_end_by_escape() {
     wait_until 20 escape_ends || true
     expect_end 0
 }
-expect_counted_in_registry() { # pattern
-    wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " $1" || fail "not counted"
-}
-play_counted() {
+play_game() {
     press Return
     sleep 3
     picture playing
     expect_main_window 60
 }
-# Passes the options' pages, so that all of them are shown, and saves.
-save_options() {
+# Plays, is counted, passes the options' pages, so that all of them are shown, and saves.
+play_and_save() {
+    play_game
+    wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " 1,2[1-9]" || fail "not counted"
     press alt+t o
     expect_titled "   "
     for page in video inputs machine folders; do
@@ -95,10 +94,7 @@ share() {
         fail "the picture is not shown"
     press alt+t c
     wait_until 10 test ! -e "$root/emulator/NVRAM/$game.nv" || fail "the machine's memory was not cleared"
-    play_counted
-    expect_counted_in_registry "1,2[1-9]"
-
-    save_options
+    play_and_save
     grep -qF ";ROMpaths=$name\\more\\roms" "$config" || fail "the folder was not kept: $(cat "$config")"
     grep -q ";GameTimeLog=$game,1,2" "$config" || fail "the options were not saved"
 
@@ -142,9 +138,7 @@ wrappers() {
     scale_desktop 144 # where the system's finer way to draw texts is used too
     export WINEDLLOVERRIDES="$overrides;$(IFS=, && echo "${planted[*]}")=n,b"
     start_package "$app/KestrivaneUI.exe"
-    play_counted
-    expect_counted_in_registry "1,2[1-9]"
-    save_options
+    play_and_save
     expect_end_by_escape
     ! ls "$app"/*.loaded 2>/dev/null || fail "planted libraries were loaded"
     echo "Not loaded: ${planted[*]}; loaded by wine itself:$loaded"
@@ -158,7 +152,7 @@ foreign() {
     lay_out "$folder" "$other_front_end" "$stand_in"
     write_archive "$folder" 21 good
     QT_QPA_PLATFORM=xcb start_to_main_window "$folder"
-    play_counted
+    play_game
     expect_counted "1,2[1-9]"
     expect_end_by_escape
 }
