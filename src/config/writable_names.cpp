@@ -9,7 +9,7 @@
 namespace config {
 namespace {
 
-bool IsControl(char c) { return c >= 0 && c < 0x20; }
+bool IsControl(char c) { return static_cast<unsigned char>(c) < 0x20; }
 
 }  // namespace
 
