@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "support/fake_clock.h"
 #include "support/ui_test.h"
 
 namespace {
@@ -50,6 +51,19 @@ TEST_F(Told, GamesThatAreNotAvailableAreQuieterAndCanBeRead) {
     list().setCurrentRow(0);
     EXPECT_LT(contrastOf(1, QPalette::Base), available - 3);
   }
+}
+
+TEST_F(Told, RowsAreSelectedByTheOneActionAndPlayedByTheOther) {
+  support::FakeClock clock;
+  write("roms/b.zip", "seconds=0\n");
+  start();
+  auto& row = *in(window(), "lstGames").child(1)->actionInterface();
+  row.doAction(QAccessibleActionInterface::toggleAction());
+  QTest::qWait(0);
+  EXPECT_EQ(list().currentRow(), 1);
+  EXPECT_EQ(Module1::LaunchRequest.RomName, "");
+  row.doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(QTest::qWaitFor([] { return Module1::LaunchRequest.RomName == "b"; }));
 }
 
 TEST_F(Told, PagesTellWhatBelongsToThem) {

@@ -42,6 +42,8 @@ class RowsInterface : public QAccessibleWidget {
   virtual QAccessible::State stateOf(int row) const = 0;
   virtual QRect rectOf(int row) const = 0;
   virtual void press(int row) = 0;
+  // Chooses the row without doing what a press of it does.
+  virtual void choose(int row) = 0;
 
   QString textOf(int row, QAccessible::Text kind) const {
     const auto index = model_->index(row, 0);
@@ -141,13 +143,18 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
                                                 : attributes_.cast(type);
   }
 
-  QStringList actionNames() const override { return {pressAction()}; }
+  // Windows toggles a row that it is asked to select.
+  QStringList actionNames() const override { return {pressAction(), toggleAction()}; }
   void doAction(const QString& name) override {
-    if (name != pressAction() || !isValid() || state().disabled) return;
-    const auto press = [this] {
-      if (isValid()) rows().press(row_);
-    };
-    PressLater(*control_, press);
+    if (!actionNames().contains(name) || !isValid() || state().disabled) return;
+    const bool presses = name == pressAction();
+    PressLater(*control_, [this, presses] {
+      if (!isValid()) return;
+      if (presses)
+        rows().press(row_);
+      else
+        rows().choose(row_);
+    });
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override {
     return rows().role() == QAccessible::List ? QStringList(QStringLiteral("F2")) : QStringList();
@@ -217,9 +224,10 @@ class ListInterface : public RowsInterface {
   }
   // What a double click does.
   void press(int row) override {
-    list()->setCurrentRow(row);
+    choose(row);
     Q_EMIT list()->itemDoubleClicked(list()->item(row));
   }
+  void choose(int row) override { list()->setCurrentRow(row); }
 
  private:
   QListWidget* list() const { return static_cast<QListWidget*>(widget()); }
@@ -252,7 +260,8 @@ class ComboInterface : public RowsInterface {
     return state;
   }
   QRect rectOf(int /*row*/) const override { return rect(); }
-  void press(int row) override { box()->setCurrentIndex(row); }
+  void press(int row) override { choose(row); }
+  void choose(int row) override { box()->setCurrentIndex(row); }
 
   QAccessible::State state() const override {
     auto state = QAccessibleWidget::state();
