@@ -1,14 +1,13 @@
 // What a start finds: folders, the emulator's listing, the archives.
-#include "core/game_catalogue.h"
 #include "platform/files.h"
-#include "support/temp_app.h"
+#include "support/process_app.h"
 
 namespace core {
 namespace {
 
 using namespace Module1;
 
-class Start : public support::TempApp {};
+class Start : public support::ProcessApp {};
 
 TEST_F(Start, TakesTheEmulatorAsItIs) {
   const std::tuple<const char*, const char*, std::size_t> rows[] = {
@@ -22,6 +21,20 @@ TEST_F(Start, TakesTheEmulatorAsItIs) {
     EXPECT_EQ(GameCatalog.size(), games + 2) << fault;
     EXPECT_FALSE(exists("error.log"));
   }
+}
+
+TEST_F(Start, ListingTakesMuchOutputAndDoesNotWaitForAGrandchild) {
+  const auto start = std::chrono::steady_clock::now();
+  for (const std::string fault : {"flood", "killed", "grandchild"}) {
+    addEmulator(fault);
+    const auto output = capture("kestrivane.exe -print-games");
+    EXPECT_EQ(output.size() > 4194304, fault == "flood") << fault;
+    EXPECT_TRUE(output.ends_with("Nimblewick's Parade\r\n")) << fault;
+    EXPECT_TRUE(fault != "flood" || run("Kestrivane -print-games") == 0) << "held up by output";
+  }
+  addEmulator("deluge");
+  EXPECT_EQ(capture("kestrivane.exe -print-games").size(), 16U << 20U);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
 }
 
 TEST_F(Start, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
