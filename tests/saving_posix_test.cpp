@@ -184,7 +184,7 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
   int faults = 0;
   for (const auto& [what, old, change, plays] : roads) {
     const bool isLink = old.starts_with('>');
-    const auto prepare = [&] {
+    const auto prepare = [&, &old = old] {
       fs::remove_all(path("Config"));
       fs::create_directory(path("Config"));
       if (isLink)

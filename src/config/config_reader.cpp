@@ -103,7 +103,8 @@ void TakeOption(std::string_view body, core::Profile& profile) {
 
 void TakeLine(std::string_view line, const Parse& to) {
   // Every comment key holds ";", and the mark of our files a letter beyond ASCII.
-  const bool mayHoldKey = line.find(';') != line.npos || line.find('\xC2') != line.npos;
+  constexpr auto kNone = std::string_view::npos;
+  const bool mayHoldKey = line.find(';') != kNone || line.find('\xC2') != kNone;
   for (const auto& [key, take] : kCommentKeys)
     if (mayHoldKey && base::ContainsIgnoringCase(line, key))
       return take(line.substr(base::OffsetOfChar(line, key.size())), to);

@@ -63,7 +63,7 @@ void* AccessibleAttributes::cast(int type) const {
 
 class AccessibleAttributes::Interface {
  public:
-  explicit Interface(const std::function<AttributeValues()>& /*values*/) {}
+  explicit Interface(std::function<AttributeValues()>&& /*values*/) {}
 };
 
 void* AccessibleAttributes::cast(int /*type*/) const { return nullptr; }

@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QPalette>
 #include <QTimer>
+#include <QWidget>
 #include <chrono>
 #include <cstdlib>
 

@@ -1,4 +1,5 @@
 // What marks the control in focus and the chosen one, told from its surroundings on any desktop.
+#include <QEvent>
 #include <QPainter>
 #include <QWidget>
 #include <algorithm>
@@ -73,22 +74,24 @@ void PaintFocusRing(QWidget& on, int pixels) {
   PaintLineInside(painter, on.rect(), MarkColour(on, on.backgroundRole()), pixels);
 }
 
-void PaintFocusRing(QWidget& on, const QRect& contents) {
-  QPainter painter(&on);
-  PaintLineInside(painter, contents, MarkColour(on, QPalette::Base), 2);
-}
-
-void FillBase(QWidget& on, const QRect& contents) {
-  QPainter(&on).fillRect(contents, on.palette().color(QPalette::Base));
-}
-
-void PaintFrame(QWidget& on, const QRect& contents) {
+void PaintViewEdge(const QWidget& view, QWidget& on, const QRect& contents, int margin) {
   constexpr double kFrameContrast = 1.5;
   const auto& palette = on.palette();
+  const auto base = palette.color(QPalette::Base);
+  const auto edge = contents.adjusted(0, -margin, 0, margin);
   QPainter painter(&on);
-  PaintLineInside(
-      painter, contents,
-      WithContrast(palette.color(QPalette::Mid), palette.color(QPalette::Base), kFrameContrast), 1);
+  if (&on == &view) painter.fillRect(edge, base);
+  if (view.hasFocus())
+    PaintLineInside(painter, edge, MarkColour(on, QPalette::Base), 2);
+  else
+    PaintLineInside(painter, edge, WithContrast(palette.color(QPalette::Mid), base, kFrameContrast),
+                    1);
+}
+
+bool IsPaint(const QEvent& event) { return event.type() == QEvent::Paint; }
+
+bool IsFocusChange(const QEvent& event) {
+  return event.type() == QEvent::FocusIn || event.type() == QEvent::FocusOut;
 }
 
 void PaintChosenMark(QWidget& on) {

@@ -7,6 +7,7 @@
 #include "base/error_boundary.h"
 
 class QColor;
+class QEvent;
 class QFont;
 class QHelpEvent;
 class QPaintEvent;
@@ -42,15 +43,8 @@ QPalette WithReadableSelection(QPalette palette);
 // covers: on a scaled screen an edge may lie within one.
 void PaintLineInside(QPainter& painter, const QRect& box, const QColor& colour, int pixels);
 
-// Marks what has the focus: a widget, or a view's contents.
+// Marks a widget that has the focus.
 void PaintFocusRing(QWidget& on, int pixels = 2);
-void PaintFocusRing(QWidget& on, const QRect& contents);
-
-// The background of a view's contents.
-void FillBase(QWidget& on, const QRect& contents);
-
-// The line round a view's contents.
-void PaintFrame(QWidget& on, const QRect& contents);
 
 // Marks one of several buttons as the chosen one, by a bar at its lower edge.
 void PaintChosenMark(QWidget& on);
@@ -68,6 +62,13 @@ class Ringed : public Native {
   }
 };
 
+// Paints the frame of a view, or the focus ring, round its contents and this many pixels above and
+// below them. `on` is the view itself or its viewport.
+void PaintViewEdge(const QWidget& view, QWidget& on, const QRect& contents, int margin);
+
+bool IsPaint(const QEvent& event);
+bool IsFocusChange(const QEvent& event);
+
 // A view with a frame or the focus ring round its contents. Neither touches the first or the last
 // row, from which they keep the given pixels; at the sides they are painted on the contents, which
 // have margins of their own there.
@@ -82,30 +83,20 @@ class RingedView : public View {
  protected:
   void paintEvent(QPaintEvent* event) override {
     View::paintEvent(event);
-    paintRound(*this->viewport(), this->viewport()->rect());
+    PaintViewEdge(*this, *this->viewport(), this->viewport()->rect(), kMargin);
   }
   // The view itself has the margins.
   bool event(QEvent* event) override {
     const bool handled = View::event(event);
-    const auto type = event->type();
-    if (kMargin > 0 && type == QEvent::Paint) paintRound(*this, this->viewport()->geometry());
-    if (type == QEvent::FocusIn || type == QEvent::FocusOut) this->update();
+    if (kMargin > 0 && IsPaint(*event))
+      PaintViewEdge(*this, *this, this->viewport()->geometry(), kMargin);
+    if (IsFocusChange(*event)) this->update();
     return handled;
   }
   // The ring does not scroll with the contents.
   void scrollContentsBy(int x, int y) override {
     View::scrollContentsBy(x, y);
     this->viewport()->update();
-  }
-
- private:
-  void paintRound(QWidget& on, const QRect& contents) {
-    const auto box = contents.adjusted(0, -kMargin, 0, kMargin);
-    if (&on == this) FillBase(on, box);
-    if (this->hasFocus())
-      PaintFocusRing(on, box);
-    else
-      PaintFrame(on, box);
   }
 };
 
