@@ -23,9 +23,14 @@ trap '(($? == 0)) || picture failed || true; stop_wine; clean_up' EXIT
 picture() { screenshot "$pictures/$1.png"; } # name
 is_titled() { [[ $(xdotool getwindowfocus getwindowname) == "$1"* ]]; }
 expect_titled() { wait_until "${2:-30}" is_titled "$1" || fail "no window \"$1\""; } # start, [seconds]
-# The window manager may leave wine's windows without the focus.
-is_main_window() { xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
-back_in_main_window() { wait_until 30 is_main_window || fail "not back in the main window"; }
+# The window manager may leave wine's windows without the focus. The titles of all others but the
+# main window's begin with a blank.
+is_main_window() { ! xdotool search --onlyvisible --name "^ " && xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
+back_in_main_window() {
+    wait_until 30 is_main_window || fail "not back in the main window"
+    # If no window saw a key's release, a press soon after it counts as the key being held down.
+    sleep 1.5
+}
 lay_out_package() { # folder
     rm -rf "$1"
     mkdir -p "$1/ROMs" "$1/Config"
