@@ -7,6 +7,8 @@ start_wine() { # folder for the prefix
     WINEPREFIX=$(cd "$1" && pwd)/wine
     # It would put the programs into the desktop's menu, and ask for what runs other programs.
     export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
+    # Wine 10 crashes where it is set.
+    unset TMPDIR
     # Where the locale is of ASCII alone, it makes no file of another name.
     export LC_ALL=C.UTF-8
     if [[ ! -e $WINEPREFIX/system.reg ]]; then
