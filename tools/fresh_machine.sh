@@ -23,8 +23,10 @@ if [[ -z ${FRESH_MACHINE:-} ]]; then
     tools/install.sh fresh display demo
     work=$(mktemp -d -p /var/tmp fresh.XXXXXX)
     trap 'rm -rf --one-file-system "$work"' EXIT
-    trap 'exit 1' INT TERM
-    FRESH_MACHINE=$work unshare --mount --pid --fork --kill-child --mount-proc "$0" "$@"
+    FRESH_MACHINE=$work unshare --mount --pid --fork --kill-child --mount-proc "$0" "$@" <&0 &
+    machine=$!
+    trap 'kill -KILL "$machine"; exit 1' INT TERM
+    wait "$machine"
     exit
 fi
 systems=$FRESH_MACHINE
