@@ -83,7 +83,14 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
     // It scrolls on where there is nothing to open.
     scrollTo(currentIndex(), EnsureVisible);
   }
-  // Assistive technology is told of the tree first, and then of the folder in it.
+  // Assistive technology is told of the folders of the tree in focus only.
+  void currentChanged(const QModelIndex& now, const QModelIndex& before) override {
+    if (hasFocus())
+      QTreeWidget::currentChanged(now, before);
+    else
+      QAbstractItemView::currentChanged(now, before);  // NOLINT: not what the tree adds to it
+  }
+  // It is told of the tree first, and then of the folder in it.
   void focusInEvent(QFocusEvent* event) override {
     RingedView::focusInEvent(event);
     QMetaObject::invokeMethod(

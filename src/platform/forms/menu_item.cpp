@@ -89,7 +89,7 @@ void TellIfActive(const QAction& action) {
 // breaks off the name where the item follows at once.
 void TellAgain(QAction& action, bool opensMenu) {
   if (!opensMenu) return TellIfActive(action);
-  constexpr int kNameMilliseconds = 800;
+  constexpr int kNameMilliseconds = 1000;
   TellFocus(*static_cast<const QMenu*>(action.parent())->menuAction());
   QTimer::singleShot(kNameMilliseconds, &action, [&action] { TellIfActive(action); });
 }
