@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Uses the program by keys alone, with a screen reader running, prints what that speaks and fails
 # where it leaves out what a person who sees nothing needs: the words of spoken.tsv. Takes some minutes.
-# Usage: spoken.sh FRONT_END STAND_IN
+# Usage: spoken.sh FRONT_END STAND_IN [en|es|pt]
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 if [[ -z ${ON_A_BUS:-} ]]; then
@@ -15,8 +15,11 @@ app=$work/app
 config=$app/Config/Kestrivane.ini
 missing=0
 heard=0 # lines of the speech so far
+# The column of spoken.tsv is the number that the configuration file has for the language.
+case ${3:-en} in en) language=0 ;; es) language=1 ;; pt) language=2 ;; *) exit 2 ;; esac
 
-# The screen reader writes what it would speak into a file, and needs no sound for it.
+# The screen reader writes what it would speak into a file, and needs no sound for it. What starts
+# its speech has another name in each of its versions.
 start_reader() {
     export SPOKEN=$work/spoken HOME=$work/home XDG_DATA_HOME=$work/home/data
     export LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
@@ -29,7 +32,7 @@ def write(text, acss=None, interrupt=True):
     with open(os.environ["SPOKEN"], "a", encoding="utf-8") as spoken:
         spoken.write(" ".join(text.split()) + "\n")
 
-speech._initSpeechServer = lambda *arguments: None
+speech._initSpeechServer = speech._init_speech_server = lambda *arguments: None
 speech._speak = write
 PY
     /usr/libexec/at-spi-bus-launcher --launch-immediately &
@@ -39,25 +42,42 @@ PY
     wait_until 60 grep -q "Screen reader on" "$SPOKEN" || fail "the screen reader did not start"
 }
 
+# A person holds each key for a moment, and may press the same one again.
+hold() { # keys
+    local key
+    for key in $1; do
+        xdotool keydown "$key" sleep 0.08 keyup "$key" 2>/dev/null
+        sleep 0.1
+    done
+}
+
 is_spoken() { tail -n "+$((heard + 1))" "$SPOKEN" | grep -qF -- "$1"; }
 
-# Presses the key, if there is one, and prints what is spoken until the words have come, or says that
-# they have not. The rest of a sentence may take a moment more.
-hear() { # key or -, words
-    local patience=90 said
+# Presses the keys, if there are some, and prints what is spoken until the words have come, or says
+# which have not. The rest of a sentence may take a moment more.
+hear() { # keys or -, words that "|" divides; what stands behind "!" must not be spoken
+    local patience=90 said word words
     if [[ $1 != - ]]; then
-        patience=15
+        patience=25
         heard=$(wc -l <"$SPOKEN")
-        press "$1"
+        hold "$1"
     fi
-    if ! wait_until $patience is_spoken "$2"; then
-        missing=$((missing + 1))
-        echo "MISSING behind $1: $2" >&2
-    fi
+    IFS='|' read -ra words <<<"$2"
+    for word in "${words[@]}"; do
+        [[ $word == !* ]] || wait_until $patience is_spoken "$word" || missed "$1" "$word"
+    done
     sleep 0.7
+    for word in "${words[@]}"; do
+        [[ $word != !* ]] || ! is_spoken "${word#!}" || missed "$1" "$word"
+    done
     said=$(tail -n "+$((heard + 1))" "$SPOKEN")
     heard=$((heard + $(wc -l <<<"$said")))
     printf '  %-12s %s\n' "$1" "${said//$'\n'/|}"
+}
+
+missed() {
+    missing=$((missing + 1))
+    echo "MISSING behind $1: $2" >&2
 }
 
 exec 2>&3
@@ -66,17 +86,23 @@ start_reader 2>/dev/null
 lay_out "$app" "$1" "$2"
 mkdir -p "$app/Config" "$app/My pictures"
 write_archive "$app" 70 error ambrcst
+# Another language than that of the run, which is chosen by keys.
+printf ';*** Kestrivane UI\xae\r\n;KVL configuration\r\n;KVLLanguage=%d\r\n' $(((language + 1) % 3)) >"$config"
 heard=$(wc -l <"$SPOKEN")
 start "$app" 2>/dev/null
-while IFS=$'\t' read -r key words <&4; do
-    if [[ $key == \#* ]]; then
-        echo "${key#\# }"
-    else
-        hear "$key" "$words"
+# One column a language, where it differs from English; the keys of the three may stand in one.
+while IFS= read -r line <&4; do
+    if [[ $line == \#* ]]; then
+        echo "${line#\# }"
+        continue
     fi
+    mapfile -d $'\t' -t cells < <(printf '%s' "$line")
+    IFS=/ read -ra keys <<<"${cells[0]}"
+    hear "${keys[language]:-${keys[0]}}" "${cells[language + 1]:-${cells[1]:-}}"
 done 4<"$here/spoken.tsv"
 
 grep -q '^ *;ROMpaths=.*Icons' "$config" || fail "the folder was not saved"
 grep -q '^XResolution *= *800' "$config" || fail "the resolution was not saved"
+grep -q '^InputGunLeft *= *"KEY_DOWN' "$config" || fail "the binding was not saved"
 ((missing == 0)) || fail "$missing times"
 echo "All was spoken"
