@@ -23,12 +23,16 @@ start_wine() { # folder for the prefix
     wineserver -p || true # one may run already
 }
 
-# Its server leaves a folder behind, named by where the prefix is on the disk.
+# Its server leaves a folder behind, named by where the prefix is on the disk, in a folder of its own or
+# in one of the user's.
 stop_wine() {
     wineserver -k -w 2>/dev/null || true
     [[ -d ${WINEPREFIX:-} ]] || return 0
-    local place
-    place=$(stat -c '%d %i' "$WINEPREFIX")
-    rm -rf "/tmp/.wine-$UID/$(printf 'server-%x-%x' $place)"
-    rmdir "/tmp/.wine-$UID" 2>/dev/null || true
+    local folder server
+    server=$(printf 'server-%x-%x' $(stat -c '%d %i' "$WINEPREFIX"))
+    for folder in "/tmp/.wine-$UID" /tmp/wine-??????; do
+        [[ -O $folder ]] || continue
+        rm -rf "${folder:?}/$server"
+        rmdir "$folder" 2>/dev/null || true
+    done
 }
