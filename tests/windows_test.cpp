@@ -33,6 +33,13 @@ class Windows : public support::ProcessApp {
 constexpr auto* kCompatibility = L"__COMPAT_LAYER";
 decltype(&CreateProcessW) create = nullptr;
 
+// Newer linkers keep the table read-only.
+void importCreateProcess(decltype(&CreateProcessW) function) {
+  DWORD protection = 0;
+  VirtualProtect(&__imp_CreateProcessW, sizeof __imp_CreateProcessW, PAGE_READWRITE, &protection);
+  __imp_CreateProcessW = function;
+}
+
 // As for a program whose file asks for an administrator's rights, to one who has none. The types
 // are those of the system's function.
 template <class... Types>
@@ -151,7 +158,7 @@ TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAlsoIfItNeedsRightsAndIsListe
   fs::copy_file(path("Kestrivane.exe"), path("").parent_path().parent_path() / "Mis.exe");
   create = __imp_CreateProcessW;
   for (const bool needsRights : {false, true}) {
-    if (needsRights) __imp_CreateProcessW = CreateProcessThatNeedsRights;
+    if (needsRights) importCreateProcess(CreateProcessThatNeedsRights);
     EXPECT_TRUE(capture("Kestrivane.exe -print-games").ends_with("Nimblewick's Parade\r\n"));
     EXPECT_EQ(run(AppFolder + "\\kestrivane " + game + "\"-x y\\\""), 1);
     EXPECT_NE(read("error.log").find("unknown argument -x y\\"), std::string::npos)
@@ -159,7 +166,7 @@ TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAlsoIfItNeedsRightsAndIsListe
     EXPECT_EQ(run("Kestrivane " + game + "-input-system=xinput"), 0) << read("error.log");
     EXPECT_NE(read("error.log").find("Input system: xinput"), std::string::npos) << needsRights;
   }
-  __imp_CreateProcessW = create;
+  importCreateProcess(create);
   EXPECT_EQ(GetEnvironmentVariableW(kCompatibility, nullptr, 0), 0U);
 }
 

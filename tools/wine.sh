@@ -23,8 +23,8 @@ start_wine() { # folder for the prefix
     wineserver -p || true # one may run already
 }
 
-# Its server leaves a folder behind, named by where the prefix is on the disk, in a folder of its own or
-# in one of the user's.
+# Its server leaves a folder behind: named by where the prefix is on the disk, in a folder of its own or
+# in one of the user's, or, with Wine 10, named in a file of the prefix.
 stop_wine() {
     wineserver -k -w 2>/dev/null || true
     [[ -d ${WINEPREFIX:-} ]] || return 0
@@ -35,4 +35,6 @@ stop_wine() {
         rm -rf "${folder:?}/$server"
         rmdir "$folder" 2>/dev/null || true
     done
+    [[ -s $WINEPREFIX/wineserver ]] || return 0
+    rm -rf "/tmp/$(basename "$(<"$WINEPREFIX/wineserver")")" "$WINEPREFIX/wineserver"
 }
