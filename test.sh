@@ -7,8 +7,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 # A report of the sanitizers names lines, also where the compiler's own tool for that is missing.
 export ASAN_OPTIONS=allow_addr2line=1
-# Nothing stays in the system's folder for what is temporary.
+# Nothing stays in the system's folder for what is temporary. Tests that root runs act as another user,
+# who must reach it.
 TMPDIR=$(mktemp -d)
+chmod 711 "$TMPDIR"
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 echo "On a bare Debian this fetches about 450 MB of packages and takes 2.3 GB of the disk, demo.sh's included"
