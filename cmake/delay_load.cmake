@@ -1,15 +1,14 @@
 # Windows looks for the libraries that a program imports in the program's own folder first, except
 # for a list of its most common ones (KnownDLLs). Our folder is the emulator's, where libraries of
-# the same names may lie that wrap graphics and sound for the emulator. So what is not on that list
-# is loaded at its first use only, when `main` has told the system to look nowhere but in its own
-# folder.
+# the same names may wrap graphics and sound for the emulator. So libraries that are not on that list
+# are loaded at their first use. By then `main` has restricted the search to the system's folder.
 function(delay_load target)
   set(folder ${CMAKE_BINARY_DIR}/delay_load)
   file(MAKE_DIRECTORY ${folder})
   foreach(name authz d3d11 d3d9 dwmapi dwrite dxgi mpr netapi32 userenv uxtheme version winmm wtsapi32)
     set(library ${folder}/lib${name}.a)
     if(NOT EXISTS ${library})
-      # The compiler's own library for this import knows the functions' names.
+      # The compiler's own import library lists the functions' names.
       find_library(IMPORT_${name} ${name} REQUIRED)
       execute_process(COMMAND ${CMAKE_NM} ${IMPORT_${name}} OUTPUT_VARIABLE symbols ERROR_QUIET
         COMMAND_ERROR_IS_FATAL ANY)
@@ -23,7 +22,7 @@ function(delay_load target)
     endif()
   endforeach()
   target_link_directories(${target} BEFORE PRIVATE ${folder})
-  # The libraries above call the loader that is in this one.
+  # The libraries above call this function of delayimp to load theirs.
   target_link_options(${target} PRIVATE LINKER:--undefined=__delayLoadHelper2)
   target_link_libraries(${target} PRIVATE delayimp)
 endfunction()

@@ -1,10 +1,10 @@
-# What a released program gets against its own faults, since it reads texts and pictures from anywhere:
-# guarded stacks and calls, checked containers, and on ELF systems tables that are read-only once the
-# program has started. tests/hardening.sh reads it back from the files.
+# Hardens released programs against faults of their own, since they read texts and pictures from
+# anywhere: guarded stacks and calls, checked containers, and on ELF systems tables that are read-only
+# once the program has started. tests/hardening.sh checks the built files for it.
 include(CheckCXXCompilerFlag)
 
 set(HARDENING "-fstack-protector-strong -D_GLIBCXX_ASSERTIONS")
-check_cxx_compiler_flag(-fcf-protection HAS_CF_PROTECTION) # not on each processor
+check_cxx_compiler_flag(-fcf-protection HAS_CF_PROTECTION) # on x86 only
 if(HAS_CF_PROTECTION)
   string(APPEND HARDENING " -fcf-protection")
 endif()

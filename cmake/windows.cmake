@@ -1,5 +1,5 @@
-# For building for Windows on Debian: -DCMAKE_TOOLCHAIN_FILE=cmake/windows.cmake. What is built needs
-# no library beside it that Windows lacks.
+# For building for Windows on Debian: -DCMAKE_TOOLCHAIN_FILE=cmake/windows.cmake. Everything is linked
+# into the programs but libraries that each Windows has.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)

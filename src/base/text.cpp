@@ -157,7 +157,7 @@ std::optional<double> ToNumber(std::string_view text) {
   double number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (end != text.data() + text.size() || error == std::errc::invalid_argument) return {};
-  // The number has more digits than a double can hold.
+  // The number is beyond the range of a double.
   if (error != std::errc()) return text.starts_with('-') ? -HUGE_VAL : HUGE_VAL;
   return number;
 }

@@ -1,5 +1,5 @@
-// What begins the front-end's own lines in the configuration file, which are comments to the
-// emulator.
+// The texts that mark the front-end's own lines in the configuration file. The emulator takes
+// these lines for comments.
 #pragma once
 
 #include <array>
@@ -7,10 +7,10 @@
 
 namespace config {
 
-// A file of ours says it in its head, and no other does.
+// Stands in the heading of every file that the front-end wrote, and in no other file.
 inline constexpr std::string_view kFrontEndMark = "Kestrivane UI®";
 
-// The last heading of a file of ours.
+// The last heading of a file that the front-end wrote.
 inline constexpr std::string_view kLastHeading = "KVL configuration";
 
 inline constexpr std::array<std::string_view, 3> kPathKeys = {

@@ -43,19 +43,19 @@ void TakePlayLog(std::string_view value, core::PlayRecords& records) {
   }
 }
 
-struct Parse {
+struct Target {
   Configuration& configuration;
   ParseResult& result;
 };
 
 struct CommentKey {
   std::string_view key;
-  void (*take)(std::string_view value, const Parse& to);
+  void (*take)(std::string_view value, const Target& to);
 };
 
-// The first key of this table that a line contains decides. It may stand anywhere in the line, but
-// the value is always what is left when as many characters as the key has are cut from the front of
-// the line. So the value is what stands behind the key only where the key begins the line.
+// The first key of this table that a line contains decides. The key may stand anywhere in the
+// line, but as many characters as it has are always cut from the front of the line, and the rest
+// is the value. So the value is the text behind the key only if the line begins with the key.
 constexpr std::array<CommentKey, 8> kCommentKeys = {{
     {kPathKeys[0], [](auto value, auto& to) { TakePathList(value, to.configuration.RomPaths); }},
     {kPathKeys[1], [](auto value, auto& to) { TakePathList(value, to.configuration.SnapPaths); }},
@@ -74,7 +74,7 @@ constexpr std::array<CommentKey, 8> kCommentKeys = {{
 void TakeSectionHeader(std::string_view body, std::size_t opening,
                        std::vector<core::Profile>& profiles) {
   if (body != "[ Global ]") {
-    // What is beyond saving shares one row, so that a hostile file can't fill the memory.
+    // All sections beyond the limit share one row, so that a hostile file can't fill the memory.
     if (profiles.size() <= core::kMaxProfiles)
       profiles.emplace_back();
     else
@@ -82,15 +82,15 @@ void TakeSectionHeader(std::string_view body, std::size_t opening,
   }
   const auto closing = body.find(" ]");
   if (closing == std::string_view::npos) throw Failure("no closing bracket");
-  // As many characters as stand before the closing bracket, less the two of an opening one in
-  // column 1, wherever the opening one stands.
+  // The name's length is the number of characters before the closing bracket, less two for an
+  // opening bracket in column 1. It is the same if the opening bracket stands further right.
   const auto charsBefore = base::CharCount(body.substr(0, closing));
   if (charsBefore < 2) throw Failure("brackets in the wrong order");
   const auto name = body.substr(opening + 2);
   profiles.back().Name = base::Trim(name.substr(0, base::OffsetOfChar(name, charsBefore - 2)));
 }
 
-// What stands behind the "=" of an option line; empty unless there is exactly one.
+// The text behind the "=" of an option line; empty unless the line has exactly one "=".
 std::string_view ConfigValueOf(std::string_view body) {
   const auto pieces = base::Split(body, "=");
   return pieces.size() == 2 ? base::Trim(pieces[1]) : std::string_view();
@@ -101,10 +101,10 @@ void TakeOption(std::string_view body, core::Profile& profile) {
   if (slot >= 0) profile.Slots[slot].Value = ConfigValueOf(body);
 }
 
-void TakeLine(std::string_view line, const Parse& to) {
-  // Every comment key holds ";", and the mark of our files a letter beyond ASCII.
-  constexpr auto kNone = std::string_view::npos;
-  const bool mayHoldKey = line.find(';') != kNone || line.find('\xC2') != kNone;
+void TakeLine(std::string_view line, const Target& to) {
+  // Most lines need no search for the keys: each key contains ";", or "®" (C2 AE in UTF-8).
+  constexpr auto kNotFound = std::string_view::npos;
+  const bool mayHoldKey = line.find(';') != kNotFound || line.find('\xC2') != kNotFound;
   for (const auto& [key, take] : kCommentKeys)
     if (mayHoldKey && base::ContainsIgnoringCase(line, key))
       return take(line.substr(base::OffsetOfChar(line, key.size())), to);
@@ -124,7 +124,7 @@ ParseResult ParseConfigText(std::string_view text, Configuration& configuration)
   result.complete = base::RunGuarded([&] {
     auto lines = base::Split(text, base::kLineEnd);
     if (lines.size() < 2) return;
-    lines.pop_back();  // the piece behind the last line end
+    lines.pop_back();  // the empty piece behind the last line end
     if (lines.size() > kMaxLines) throw Failure("too many lines");
     for (const auto line : lines) {
       TakeLine(line, {configuration, result});
@@ -145,14 +145,15 @@ Configuration LoadConfigFile(const std::string& appFolder) {
     core::ResetInputsToDefaults(configuration.Profiles);
     return configuration;
   }
-  // A power cut leaves zeros for what did not come to the disk.
+  // A power cut may leave zeros at the end of the file, where data did not reach the disk.
   const auto text = std::string_view(bytes).substr(0, bytes.find_last_not_of('\0') + 1);
   const auto parse = ParseConfigText(platform::DecodeLines(text), configuration);
-  // Of a save that was cut short a file of ours lacks its end, or has that of the old text too.
-  bool isKept = parse.complete && (parse.lastHeadings == 1 || !parse.markSeen);
+  // A save that was cut short leaves a file of ours without the last heading, or with that of the
+  // old text as well as that of the new one.
+  bool mayBeReplaced = parse.complete && (parse.lastHeadings == 1 || !parse.markSeen);
   if (parse.complete && !parse.markSeen)
-    isKept = base::RunGuarded([&] { platform::CopyFileBytes(file, file + ".bak"); });
-  if (isKept) configuration.KnownConfigFile = std::move(bytes);
+    mayBeReplaced = base::RunGuarded([&] { platform::CopyFileBytes(file, file + ".bak"); });
+  if (mayBeReplaced) configuration.KnownConfigFile = std::move(bytes);
   configuration.ConfigFileHasMoreRows = configuration.Profiles.size() > core::kMaxProfiles;
   return configuration;
 }

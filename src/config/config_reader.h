@@ -8,20 +8,20 @@
 
 namespace config {
 
-// The file's configuration; the default bindings where there is no file or it can't be read, as one
-// of more than 16 MB. Copies a file that another program wrote to Kestrivane.ini.bak. The file
-// counts as known only where nothing of it can be lost by a save: it was read to its end, is not
-// one of ours that was cut short, and was copied if it had to be.
+// Reads the file; without one, or if it can't be read or has more than 16 MB, returns the defaults
+// with the default bindings. Copies a file that another program wrote to Kestrivane.ini.bak. Sets
+// KnownConfigFile only if a save can lose nothing of the file: it was read to its end, is not a
+// file of ours that was cut short, and was copied if another program wrote it.
 Configuration LoadConfigFile(const std::string& appFolder);
 
 struct ParseResult {
   bool complete = false;  // no failure ended the parse
-  bool markSeen = false;  // of a file of ours
-  int lastHeadings = 0;   // a file of ours has one
+  bool markSeen = false;  // kFrontEndMark was found
+  int lastHeadings = 0;   // how many lines contain kLastHeading
 };
 
-// Takes the whole file, each line followed by CR LF. A failure ends the parse at its line without a
-// message; what was stored up to then stays.
+// Parses the text of a whole file, in which CR LF follows each line. A failure ends the parse at
+// its line without a message; what was stored up to then stays.
 ParseResult ParseConfigText(std::string_view text, Configuration& configuration);
 
 }  // namespace config

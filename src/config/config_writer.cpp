@@ -37,7 +37,7 @@ void AddHeading(std::string& text, std::string_view heading) {
   AddLine(text, ";****");
 }
 
-// Only what departs from the defaults.
+// Adds the options whose global value differs from the default.
 void AddGeneralOptions(std::string& text) {
   for (core::Slot slot = 0; slot < core::kGeneralSlotCount; ++slot) {
     const auto& value = Module1::Profiles[1].Slots[slot].Value;
@@ -46,7 +46,7 @@ void AddGeneralOptions(std::string& text) {
   }
 }
 
-// Every input that has a binding, the default ones too.
+// Adds every input that has a binding, even the default one.
 void AddInputs(std::string& text) {
   for (core::Slot slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot) {
     const auto& own = Module1::Profiles[1].Slots[slot].Value;
@@ -84,7 +84,7 @@ void AddPlayLog(std::string& text) {
   AddLine(text);
 }
 
-// The front-end's own preferences and figures.
+// Adds the front-end's own preferences and play figures.
 void AddOwnLines(std::string& text) {
   if (Module1::GameListPref == 1) AddLine(text, std::string(kListFilterKey) + "1");
   if (Module1::CurrentLanguage != 0)

@@ -5,13 +5,13 @@
 
 namespace config {
 
-// The whole file as text. Fails if Profiles has more rows than the format can count, or had to
-// leave some of the file's out.
+// The whole file as text. Throws if Profiles has more rows than the format allows, or if the file
+// that was read had more.
 std::string ConfigText();
 
-// Writes the file. One that is not as this run read or wrote it is copied to Kestrivane.ini.unread
-// first. A failure is reported to nobody and leaves the file on disk as it was, or else its text in
-// that copy.
+// Writes the file. If the file on disk is not the one that this run read or last wrote, it is
+// first copied to Kestrivane.ini.unread. A failure is not reported; the old text is then still in
+// the file or in that copy.
 void WriteConfigFile();
 
 }  // namespace config

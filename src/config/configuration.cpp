@@ -12,7 +12,7 @@ Configuration Defaults(const std::string& appFolder) {
   configuration.RomPaths[0] = platform::Joined(appFolder, "roms");
   configuration.SnapPaths[0] = platform::Joined(appFolder, "snaps");
   configuration.IconPaths[0] = platform::Joined(appFolder, "icons");
-  // Rows are large: room for all of them spares moving them as they come.
+  // Rows are large. Reserving room for all of them avoids moving them when the table grows.
   configuration.Profiles.reserve(core::kMaxProfiles);
   configuration.Profiles[0] = core::DefaultProfile();
   return configuration;

@@ -1,4 +1,5 @@
-// What the configuration file says, as a value with the names of the shared state.
+// The contents of the configuration file. The fields have the names of the shared variables that
+// they go to.
 #pragma once
 
 #include <optional>
@@ -19,7 +20,7 @@ struct Configuration {
   bool ConfigFileHasMoreRows = false;
 };
 
-// What holds without a configuration file, but for the bindings of all games.
+// The configuration without a file. The Global row is empty; it has no default bindings yet.
 Configuration Defaults(const std::string& appFolder);
 
 // Moves all of it into the shared state.

@@ -18,11 +18,11 @@ bool IsWritableName(std::string_view name) {
 }
 
 bool IsWritablePath(std::string_view path) {
-  const auto separates = [](char c) { return IsControl(c) || c == '*' || c == '"'; };
+  const auto isSeparator = [](char c) { return IsControl(c) || c == '*' || c == '"'; };
   const auto isInPath = [&](std::string_view key) { return base::ContainsIgnoringCase(path, key); };
-  // Where paths begin with a slash, a backslash is part of a name, but the file would take it for a
-  // separator.
-  return base::IsUtf8(path) && std::ranges::none_of(path, separates) &&
+  // In a path that begins with a slash, a backslash is part of a name, but it would be read back
+  // as a separator.
+  return base::IsUtf8(path) && std::ranges::none_of(path, isSeparator) &&
          std::ranges::none_of(kPathKeys, isInPath) &&
          !(path.starts_with('/') && path.find('\\') != std::string_view::npos);
 }

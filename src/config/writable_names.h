@@ -14,12 +14,11 @@ bool IsWritableName(std::string_view name);
 // Whether the file can hold every name of a path that begins at a root or drive.
 bool IsWritablePath(std::string_view path);
 
-// Whether such a path can also be the value of an option. It can't if it contains ";", "=" or "[ ",
-// behind which the reader would take the rest for something else, or the banner, for which it would
-// take the whole line.
+// Whether such a path can also be the value of an option. It can't if it contains ";", "=" or
+// "[ ", which the reader would obey, or the mark of the front-end's own files.
 bool IsWritableValue(std::string_view path);
 
-// Whether the file can hold a section and a play record for a game of this short name, so that both
+// Whether a section and a play record for a game with this short name can be written so that both
 // read back as that game's.
 bool IsWritableGame(const std::string& romName);
 

@@ -1,4 +1,4 @@
-// What the front-end relies on of the emulator, which is a separate program in AppFolder.
+// What the front-end knows of the emulator, which is a separate program in AppFolder.
 #pragma once
 
 #include <string_view>

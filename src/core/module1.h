@@ -12,7 +12,7 @@ namespace core {
 using Slot = int;  // the number of an option
 
 inline constexpr Slot kSlotCount = 128;
-// The slots of the general options, by the options' names. The inputs follow.
+// The slots of the general options, named as the options are. The slots of the inputs follow.
 namespace option {
 enum : Slot {
   XResolution,
@@ -50,9 +50,10 @@ enum : Slot {
 
 inline constexpr Slot kGeneralSlotCount = 30;
 inline constexpr Slot kFirstInputSlot = kGeneralSlotCount;
-inline constexpr Slot kPerGameSlots = option::Crosshairs;  // the first ones can differ for a game
-inline constexpr Slot kFirstAdvancedSlot =
-    option::ForceFeedback;  // of those that frmFF edits, up to kPerGameSlots
+// A game can have values of its own for the slots before this one.
+inline constexpr Slot kPerGameSlots = option::Crosshairs;
+// frmFF edits the slots from this one up to kPerGameSlots.
+inline constexpr Slot kFirstAdvancedSlot = option::ForceFeedback;
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr unsigned char kFilterBeingSet = 9;  // a value of GameListPref
 inline constexpr unsigned char kRawInput = 2;        // a value of Profile.InputMethod
@@ -121,10 +122,10 @@ inline std::vector<core::Profile> Profiles;  // 0 Default, 1 Global, then one ro
 inline core::LaunchOrder LaunchRequest;
 inline std::string InputChoice;
 inline core::PlayRecords PlayLog;
-// The bytes of the configuration file as this run read all of it or wrote it last. Before a save
-// any other file is copied.
+// The bytes of the configuration file that this run read in full or wrote last. A save first
+// copies a file with other bytes.
 inline std::optional<std::string> KnownConfigFile;
-inline bool ConfigFileHasMoreRows = false;  // than Profiles can hold; then nothing is saved
+inline bool ConfigFileHasMoreRows = false;  // more than Profiles can hold; then nothing is saved
 inline std::string ErrorText;
 inline unsigned char OptionScope = 0;  // 254 the global options, else a row of GameCatalog
 inline bool OptionsSaved = false;
@@ -132,8 +133,8 @@ inline unsigned char AdvancedInputSystem = 0;
 inline std::array<std::string, core::kSlotCount> EffectiveValues;
 inline std::array<std::string, core::kGeneralSlotCount> StagedOptions;
 
-// Sets every variable but AppFolder to its start value: the growing tables have two empty rows, all
-// else is empty, zero or false.
+// Sets every variable but AppFolder to its start value: GameCatalog and Profiles have two empty
+// rows, all else is empty, zero or false.
 void ResetSharedState();
 
 }  // namespace Module1

@@ -177,12 +177,12 @@ constexpr auto kMessages = std::to_array<Row>({
     {Message::AnswerCancel, {"Cancel", "Cancelar", "Cancelar"}},
 });
 
-constexpr bool RowsStandByNumber() {
+constexpr bool RowsFollowTheEnum() {
   for (std::size_t row = 0; row < kMessages.size(); ++row)
     if (kMessages[row].message != static_cast<Message>(row)) return false;
   return kMessages.size() == kMessageCount;
 }
-static_assert(RowsStandByNumber());
+static_assert(RowsFollowTheEnum());
 
 }  // namespace
 

@@ -96,7 +96,7 @@ enum class Message : unsigned char {
   RestoreOptions,
   AdvancedOptions,
   Vsync,
-  // What only assistive technology tells.
+  // Texts for assistive technology only.
   NotAvailable,
   EmptyCell,
   ShaderFiles,

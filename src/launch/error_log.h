@@ -3,8 +3,8 @@
 
 namespace launch {
 
-// Reads and deletes error.log. True when the run ended badly; ErrorText then holds the report. A
-// log that can't be read counts as a good one; one that can't be deleted within a second stays.
+// Reads and deletes error.log. Returns true, with the report in ErrorText, if the run ended badly.
+// A log that can't be read counts as a good end; one that can't be deleted within a second stays.
 bool ReadErrorLog();
 
 }  // namespace launch

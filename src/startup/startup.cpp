@@ -20,7 +20,7 @@ struct WorkingFolder {
 constexpr WorkingFolder kWorkingFolders[] = {
     {"roms", "ROMs"}, {"snaps", "Snaps"}, {"icons", "Icons"}, {"config", "Config"}};
 
-// A log that can't be deleted stays where it is; the next play then shows its contents as a report.
+// Deletes the report of an earlier run. One that can't be deleted stays.
 void DeleteStrayErrorLog(const std::string& appFolder) {
   base::RunGuarded([&] {
     auto log = platform::Joined(appFolder, core::kErrorLog);
