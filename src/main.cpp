@@ -10,9 +10,9 @@
 #include "startup/startup.h"
 #include "ui/main/form1.h"
 
-int main(int count, char** words) {
+int main(int argc, char** argv) {
   platform::PrepareProgram();
-  const auto answer = startup::AnswerTo(platform::ProgramArguments(count, words));
+  const auto answer = startup::AnswerTo(platform::ProgramArguments(argc, argv));
   if (!answer.complaint.empty()) platform::PrintError(answer.complaint);
   if (!answer.output.empty()) return platform::PrintOutput(answer.output) ? 0 : 1;
   base::RunGuarded([] {

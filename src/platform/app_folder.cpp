@@ -26,7 +26,7 @@ std::filesystem::path ExecutablePath() {
   std::array<wchar_t, 32768> buffer{};
   GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
   std::wstring name = buffer.data();
-  // Wine gives a program on another machine a name without the two backslashes.
+  // For a program on another machine, Wine gives "UNC\server" instead of "\\server".
   if (name.starts_with(L"UNC\\")) name.replace(0, 4, L"\\\\");
   return name;
 #else

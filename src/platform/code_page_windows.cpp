@@ -6,7 +6,7 @@ namespace {
 
 constexpr UINT kWestern = 1252;
 
-// A system that is set to UTF-8 has no page of its own for what is none.
+// If the system's code page is UTF-8, lines that are not UTF-8 are taken for Windows-1252.
 UINT SystemPage() { return GetACP() == CP_UTF8 ? kWestern : GetACP(); }
 
 std::wstring Decoded(UINT page, DWORD flags, std::string_view bytes) {
@@ -30,7 +30,8 @@ std::string Encoded(UINT page, std::wstring_view text) {
 
 std::string FromSystemPage(std::string_view bytes) {
   auto text = Decoded(SystemPage(), MB_ERR_INVALID_CHARS, bytes);
-  // Bytes that mean nothing there come from elsewhere; the western page has a meaning for each.
+  // Bytes that are invalid in the system's page come from another system. Windows-1252 has a
+  // character for each byte.
   if (text.empty()) text = Decoded(kWestern, 0, bytes);
   return FromWide(text);
 }
@@ -38,7 +39,7 @@ std::string FromSystemPage(std::string_view bytes) {
 std::optional<std::string> ToSystemPage(std::string_view text) {
   const auto wide = ToWide(text);
   auto bytes = Encoded(SystemPage(), wide);
-  // Where the page lacks a character the system puts another one.
+  // The system replaces a character that the page lacks by another one.
   if (FromSystemPage(bytes) != text) return {};
   return bytes;
 }

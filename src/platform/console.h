@@ -5,13 +5,13 @@
 
 namespace platform {
 
-// The arguments behind the program's name, in UTF-8 where the system has them as characters.
-// `count` and `words` are those of `main`.
-std::vector<std::string> ProgramArguments(int count, char** words);
+// The arguments after the program's name: on Windows in UTF-8, elsewhere the bytes of `argv`. The
+// parameters are those of `main`.
+std::vector<std::string> ProgramArguments(int argc, char** argv);
 
-// Writes the text, in UTF-8, to standard output. On Windows, where a program with windows has none
-// unless it is redirected, to the console that the program was started from, or else into a message
-// box. Answers whether all of it was written.
+// Writes the text, in UTF-8, to standard output and returns whether all of it was written. On
+// Windows, a program with windows has a standard output only if it is redirected. Without one the
+// text goes to the console that the program was started from, or else into a message box.
 bool PrintOutput(const std::string& text);
 
 // Writes the text to standard error or the console that the program was started from, if there is

@@ -11,10 +11,9 @@ bool Write(std::FILE* file, const std::string& text) {
 
 }  // namespace
 
-std::vector<std::string> ProgramArguments(int count, char** words) {
-  // A caller may leave out even the name.
-  return count > 1 ? std::vector<std::string>(words + 1, words + count)
-                   : std::vector<std::string>();
+std::vector<std::string> ProgramArguments(int argc, char** argv) {
+  // `argv` may lack even the program's name.
+  return argc > 1 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>();
 }
 
 bool PrintOutput(const std::string& text) { return Write(stdout, text); }

@@ -2,7 +2,7 @@
 
 #include "platform/console.h"
 #include "platform/system_windows.h"
-// Declares less without the one above it.
+// Needs windows.h before it.
 #include <shellapi.h>
 
 namespace platform {
@@ -14,7 +14,7 @@ bool WriteAll(HANDLE file, const std::string& text) {
          written == text.size();
 }
 
-// Whether the program has a stream of this kind, and then whether the text was written to it.
+// Writes the text to a stream and sets `success`. Returns false if the program lacks this stream.
 bool WriteToStream(DWORD stream, const std::string& text, bool& success) {
   const auto file = GetStdHandle(stream);
   if (!file || GetFileType(file) == FILE_TYPE_UNKNOWN) return false;
@@ -22,7 +22,7 @@ bool WriteToStream(DWORD stream, const std::string& text, bool& success) {
   return true;
 }
 
-// A program with windows has no console of its own, but may write to the one of its parent.
+// A program with windows has no console of its own, but can write to that of its parent.
 bool WriteToParentConsole(const std::string& text) {
   if (!AttachConsole(ATTACH_PARENT_PROCESS)) return false;
   bool success = false;
@@ -42,7 +42,7 @@ bool WriteToParentConsole(const std::string& text) {
 }  // namespace
 
 std::vector<std::string> ProgramArguments(int, char**) {
-  // Those of `main` are in the system's code page.
+  // The arguments of `main` are in the system's code page, which may lack characters.
   int count = 0;
   const std::unique_ptr<LPWSTR, decltype(&LocalFree)> words(
       CommandLineToArgvW(GetCommandLineW(), &count), LocalFree);

@@ -17,7 +17,7 @@
 namespace platform {
 namespace {
 
-// The names in a folder that lead to what `wanted` accepts.
+// The names of the entries in a folder that `wanted` accepts. Links are followed.
 std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const struct stat&)) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
   Check(stream != nullptr);

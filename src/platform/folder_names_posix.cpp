@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-// The same for all spellings of a name: letters beyond ASCII are left out.
+// The same for all spellings of a name. Letters beyond ASCII are left out.
 std::uint32_t HashOf(std::string_view name) {
   std::uint32_t hash = 2166136261;
   for (const unsigned char c : name)
@@ -29,7 +29,7 @@ FolderNames::FolderNames(const std::string& folder) {
     index_.emplace_back(HashOf(entry->d_name), static_cast<std::uint32_t>(names_.size()));
     names_.append(entry->d_name, std::strlen(entry->d_name) + 1);
   }
-  areAll_ = stream && errno == 0;
+  isComplete_ = stream && errno == 0;
   std::sort(index_.begin(), index_.end());
 }
 

@@ -16,13 +16,13 @@ class FolderNames {
   // The folder's spelling of the name, or null if it has none. An exact match is preferred.
   const char* find(std::string_view name) const;
 
-  // False where the system did not give all names, or none.
-  bool areAll() const { return areAll_; }
+  // False if the system failed to list the whole folder.
+  bool isComplete() const { return isComplete_; }
 
  private:
   std::string names_;                                           // each followed by a zero
   std::vector<std::pair<std::uint32_t, std::uint32_t>> index_;  // hash, offset in names_
-  bool areAll_ = false;
+  bool isComplete_ = false;
 };
 
 }  // namespace platform

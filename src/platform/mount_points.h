@@ -5,9 +5,8 @@
 
 namespace platform {
 
-// The folders at which volumes are mounted, in the order in which they were. Their servers are not
-// asked, so that one that is off holds up nobody who only wants the names. Empty on Windows, where
-// the letters of the drives stand for them.
+// The folders at which volumes are mounted, in the order of mounting. No server is asked, so that
+// one that is off does not block the caller. Empty on Windows, whose volumes have drive letters.
 std::vector<std::string> MountPoints();
 
 }  // namespace platform

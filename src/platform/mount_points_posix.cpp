@@ -21,7 +21,7 @@ bool IsOfTheSystem(std::string_view folder) {
   });
 }
 
-// A single file can be mounted too. What the kernel remembers is enough to tell.
+// Single files can be mounted too. The kernel's cached answer is good enough.
 bool IsFolder(const char* path) {
   struct statx found {};
   return statx(AT_FDCWD, path, AT_STATX_DONT_SYNC | AT_NO_AUTOMOUNT, STATX_TYPE, &found) == 0 &&
@@ -34,7 +34,7 @@ std::vector<std::string> MountPoints() {
   std::vector<std::string> folders;
   const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent("/proc/self/mounts", "r"), endmntent);
   while (const mntent* entry = table ? getmntent(table.get()) : nullptr) {
-    // An automatic mount would be made by a look into it.
+    // Access to an automatic mount point would mount it.
     if (IsOfTheSystem(entry->mnt_dir) || entry->mnt_type == std::string_view("autofs")) continue;
     if (IsFolder(entry->mnt_dir)) folders.emplace_back(entry->mnt_dir);
   }

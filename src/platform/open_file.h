@@ -1,4 +1,4 @@
-// Files as the system opens and makes them, for reading and saving.
+// Opens and creates files for reading and saving.
 #pragma once
 
 #include <functional>
@@ -9,16 +9,16 @@
 
 namespace platform {
 
-// The permission bits of a file; without any it has what is usual for new ones. Windows has none.
+// The permission bits of a file. Without a value, a new file gets the usual ones. Windows has none.
 using Rights = std::optional<unsigned>;
 
-// An open regular file, never a pipe or the like. Readers share it, a writer has it alone: a file
-// that another program keeps locked is read all the same, but not written.
+// An open regular file, never a pipe or a device. Readers share a lock on it, a writer has the lock
+// alone. A file that another program has locked can be read, but not written.
 class OpenFile {
  public:
   enum class Use { Reading, Saving };
 
-  // `path` as the system spells it. Fails if the file can't be had within the patience of files.
+  // `path` is in the system's spelling. Throws if the file can't be opened within FilePatience.
   OpenFile(const std::string& path, Use use);
   ~OpenFile();
   OpenFile(const OpenFile&) = delete;
@@ -26,16 +26,16 @@ class OpenFile {
 
   long long size() const;
   Rights rights() const;
-  // The bytes from this place on, at most so many; fewer only at the end of the file.
+  // At most `most` bytes that start at offset `from`; fewer only at the end of the file.
   std::string read(long long from, std::size_t most) const;
 
-  // Each of these gives its success. What was done before a failure is not undone.
+  // These return whether they succeeded. A failure does not undo what was done before it.
   bool setRights(Rights rights) const;
   bool write(long long at, std::string_view bytes) const;
   bool setSize(long long size) const;
   bool sync() const;
-  // Whether the disk has room for a file of this size in the place of one of the old size, and this
-  // process may write it.
+  // Whether the disk has room to overwrite a file of `oldSize` bytes by one of `size` bytes, and
+  // this process may write a file of that size.
   bool hasRoom(long long oldSize, long long size) const;
 
  private:
@@ -43,25 +43,27 @@ class OpenFile {
   std::unique_ptr<Native> native_;
 };
 
-// A new file, which is deleted again unless it is kept.
+// A new file. The destructor deletes it unless keepAs succeeded.
 class NewFile {
  public:
-  // A file WithoutName is in the folder of the path but has no name there before it is kept. Not
-  // every file system can do that.
+  // A file WithoutName is on the disk of the path's folder but gets a name only when it is kept.
+  // Not every file system supports that.
   enum class Way { WithoutName, UnderItsName };
 
-  // A link that leads to no file stands for that file. Not open if the system refuses.
+  // If `path` is a link to a file that does not exist, that file is created. isOpen returns false
+  // if the system refuses.
   NewFile(const std::string& path, Way way, Rights rights);
   ~NewFile();
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
 
   bool isOpen() const;
-  // Whether it could not be made or kept because something has the name.
+  // Whether the file could not be created or kept because its name is taken.
   bool isNameTaken() const;
   bool add(std::string_view bytes) const;
-  // Gives it its name, or another one in the same folder if it has none yet. Returns when the disk
-  // has the text and, as far as the file system promises it, the name. False if it can't be kept.
+  // Keeps the file. A file without a name gets this path, which may differ from the first one in
+  // the name only. Returns true when the text and, as far as the file system guarantees it, the
+  // name are on the disk; false if the file can't be kept.
   bool keepAs(const std::string& path);
 
  private:
@@ -69,14 +71,13 @@ class NewFile {
   std::unique_ptr<Native> native_;
 };
 
-// Makes a file of what `fill` adds, which gives its success. It has its name only once it is whole,
-// where the file system can do that. False if something has the name; fails, and leaves nothing,
-// where it can't be made.
+// Creates a file. `fill` writes its bytes and returns whether it succeeded. Where the file system
+// supports it, the name appears only when the file is complete. Returns false if the name is taken.
+// Throws, and leaves no file, if the file can't be created.
 bool MakeFile(const std::string& path, Rights rights,
               const std::function<bool(const NewFile& file)>& fill);
 
-// Returns when the disk has the names in the folder of this path, or after the patience of files
-// where it can't be brought to that.
+// Waits until the names in the folder of this path are on the disk, for at most FilePatience.
 void SyncFolderOf(const std::string& path);
 
 }  // namespace platform

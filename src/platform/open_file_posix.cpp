@@ -18,8 +18,8 @@
 namespace platform {
 namespace {
 
-// Repeats a system call that was interrupted or would have to wait for another program, for at most
-// the patience of files. Its last answer.
+// Repeats a system call while it is interrupted or would have to wait for another program, for at
+// most FilePatience. Returns the call's last result.
 template <class Call>
 auto RetryWhileBusy(const Call& call) {
   decltype(call()) answer{};
@@ -36,7 +36,7 @@ struct stat StatusOf(int file) {
   return status;
 }
 
-// Writes all of the bytes by `write`, which may take fewer of them at a time.
+// Writes all bytes by calls of `write`, each of which may write only some of them.
 template <class Write>
 bool WriteAll(std::string_view bytes, const Write& write) {
   while (!bytes.empty()) {
@@ -47,20 +47,20 @@ bool WriteAll(std::string_view bytes, const Write& write) {
   return true;
 }
 
-// Calls fsync or fdatasync. A file system that knows no such thing has done what it can.
+// Calls fsync or fdatasync. That a file system does not support them is no failure.
 bool Sync(int file, int (*sync)(int)) {
   return RetryWhileBusy([&] { return sync(file); }) == 0 || errno == EINVAL || errno == ENOSYS ||
          errno == EOPNOTSUPP;
 }
 
-// Whether this process may write files so large. The system ends one that tries to write more.
+// Whether the system lets this process write files of this size.
 bool IsWithinLimit(long long size) {
   rlimit limit{};
   return getrlimit(RLIMIT_FSIZE, &limit) == 0 && static_cast<rlim_t>(size) <= limit.rlim_cur;
 }
 
-// Reserves room on the disk without a change of the file's length; false if there is none. Where
-// the file system can't reserve, it is asked what is free.
+// Reserves disk space without changing the file's size. Returns false if there is not enough. If
+// the file system can't reserve space, the free space decides.
 bool Reserve(int file, off_t from, off_t length) {
   const auto reserve = [&] { return fallocate(file, FALLOC_FL_KEEP_SIZE, from, length); };
   if (length == 0 || RetryWhileBusy(reserve) == 0) return true;
@@ -75,11 +75,11 @@ std::string FolderOf(const std::string& path) {
   return folder.empty() ? "." : folder;
 }
 
-// Where a chain of links that leads to no file ends.
+// The path at the end of a chain of links. There may be no file of this name.
 std::string EndOfLinks(std::string path) {
-  constexpr int kMostLinks = 40;
+  constexpr int kMaxLinks = 40;
   std::error_code isNoLink;
-  for (int links = 0; links < kMostLinks; ++links) {
+  for (int links = 0; links < kMaxLinks; ++links) {
     const auto next = std::filesystem::read_symlink(path, isNoLink);
     if (isNoLink) return path;
     path = (std::filesystem::path(path).parent_path() / next).string();
@@ -96,16 +96,16 @@ struct OpenFile::Native {
 
 OpenFile::OpenFile(const std::string& path, Use use) {
   const bool saves = use == Use::Saving;
-  const int how = (saves ? O_RDWR : O_RDONLY) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-  const int file = RetryWhileBusy([&] { return open(path.c_str(), how); });
+  const int flags = (saves ? O_RDWR : O_RDONLY) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  const int file = RetryWhileBusy([&] { return open(path.c_str(), flags); });
   Check(file >= 0);
   native_.reset(new Native{file});
   if (!S_ISREG(StatusOf(file).st_mode)) throw base::Failure("not a regular file");
   const int lock = (saves ? LOCK_EX : LOCK_SH) | LOCK_NB;
-  // Some file systems know no locks.
-  const bool isForeign =
+  // Other errors mean that the file system has no locks.
+  const bool isLockedElsewhere =
       RetryWhileBusy([&] { return flock(file, lock); }) != 0 && errno == EWOULDBLOCK;
-  if (isForeign && saves) throw base::Failure("another program keeps the file");
+  if (isLockedElsewhere && saves) throw base::Failure("another program keeps the file");
 }
 
 OpenFile::~OpenFile() = default;
@@ -150,8 +150,8 @@ bool OpenFile::sync() const { return Sync(native_->descriptor, fdatasync); }
 
 bool OpenFile::hasRoom(long long oldSize, long long size) const {
   if (!IsWithinLimit(std::max(oldSize, size))) return false;
-  // Some file systems write a changed block to a new place, so that room inside the file is none.
-  // What can be reserved behind its end, and given back, is there for the whole of both texts.
+  // Some file systems write a changed block to a new place, so that overwriting takes space too. So
+  // space for both texts is reserved behind the end of the file, and given back.
   const bool hasRoom = Reserve(native_->descriptor, oldSize, oldSize + size);
   if (!setSize(oldSize)) return false;
   return hasRoom && Reserve(native_->descriptor, oldSize, std::max(size - oldSize, 0LL));
@@ -174,11 +174,11 @@ struct NewFile::Native {
 NewFile::NewFile(const std::string& path, Way way, Rights rights)
     : native_(new Native{EndOfLinks(path), rights}) {
   const bool isNamed = way == Way::UnderItsName;
-  const int how = (isNamed ? O_CREAT | O_EXCL : O_TMPFILE) | O_WRONLY | O_CLOEXEC;
+  const int flags = (isNamed ? O_CREAT | O_EXCL : O_TMPFILE) | O_WRONLY | O_CLOEXEC;
   const auto where = isNamed ? native_->path : FolderOf(native_->path);
-  // Nobody else may read it before it has the rights that it is to have.
+  // Nobody else may read the file before keepAs gives it its final rights.
   const mode_t mode = rights ? 0600 : 0666;
-  native_->descriptor = RetryWhileBusy([&] { return open(where.c_str(), how, mode); });
+  native_->descriptor = RetryWhileBusy([&] { return open(where.c_str(), flags, mode); });
   native_->isNamed = isNamed && isOpen();
   native_->isNameTaken = isNamed && !isOpen() && errno == EEXIST;
 }
@@ -197,7 +197,7 @@ bool NewFile::add(std::string_view bytes) const {
 }
 
 bool NewFile::keepAs(const std::string& path) {
-  // Some file systems know no rights: there it stays as it is.
+  // Fails on file systems without permission bits, which does not matter.
   if (native_->rights) static_cast<void>(fchmod(native_->descriptor, *native_->rights));
   if (!Sync(native_->descriptor, fsync)) return false;
   if (!native_->isNamed) {

@@ -11,7 +11,8 @@ namespace {
 
 constexpr DWORD kEveryone = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Repeats for the patience of files what another program is in the way of, which `error` tells.
+// Repeats a call while it fails with `error`, the sign that another program is using the file, for
+// at most FilePatience.
 bool RetryWhile(DWORD error, const std::function<bool()>& call) {
   bool succeeded = false;
   RetryUntil([&] {
@@ -21,9 +22,10 @@ bool RetryWhile(DWORD error, const std::function<bool()>& call) {
   return succeeded;
 }
 
-// Two front-ends that save at once must not mix their texts, nor one read what the other has half
-// written. The byte that they lock lies far behind the end of every file: the system keeps everyone
-// from what is locked, and the emulator reads whenever it likes. Some file systems know no locks.
+// Locks the file, so that two front-ends that save at once do not mix their texts and none reads a
+// half-written text. Returns whether another front-end has the lock; a file system without locks
+// has no such thing. The locked byte is far behind the end of every file, because Windows lets
+// nobody else read locked bytes and the emulator may read the file at any time.
 bool IsLockedElsewhere(HANDLE file, bool saves) {
   OVERLAPPED place{};
   place.Offset = 0xFFFFFFFE;
@@ -39,7 +41,7 @@ bool MoveTo(HANDLE file, long long position) {
   return SetFilePointerEx(file, distance, nullptr, FILE_BEGIN);
 }
 
-// How much is read or written at once.
+// The number of bytes to read or write by one call.
 DWORD Part(std::size_t size) { return static_cast<DWORD>(std::min<std::size_t>(size, 1U << 30U)); }
 
 bool Write(HANDLE file, std::string_view bytes) {
@@ -53,7 +55,7 @@ bool Write(HANDLE file, std::string_view bytes) {
 
 }  // namespace
 
-// The system gives the lock back when it closes the file.
+// The system releases the lock when the file is closed.
 struct OpenFile::Native {
   explicit Native(HANDLE opened) : file(opened) {}
 
@@ -66,7 +68,7 @@ OpenFile::OpenFile(const std::string& path, Use use) {
   const DWORD access = saves ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
   const DWORD others = saves ? FILE_SHARE_READ | FILE_SHARE_WRITE : kEveryone;
   HANDLE file = INVALID_HANDLE_VALUE;
-  // A search for viruses or an index may hold the file for a moment.
+  // A virus scanner or an indexer may have the file open for a moment.
   Check(RetryWhile(ERROR_SHARING_VIOLATION, [&] {
     file = CreateFileW(name.c_str(), access, others, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
                        nullptr);
@@ -109,7 +111,7 @@ bool OpenFile::setSize(long long size) const {
 
 bool OpenFile::sync() const { return FlushFileBuffers(native_->file.get()); }
 
-// What a file system can't reserve shows when it is written.
+// If the file system can't reserve space, writing decides whether there is room.
 bool OpenFile::hasRoom(long long oldSize, long long size) const {
   FILE_ALLOCATION_INFO room{};
   room.AllocationSize.QuadPart = std::max(oldSize, size);
@@ -130,7 +132,7 @@ struct NewFile::Native {
   bool isKept = false;
 };
 
-// No file of the system is without a name.
+// On Windows every file has a name.
 NewFile::NewFile(const std::string& path, Way way, Rights /*rights*/)
     : native_(std::make_unique<Native>()) {
   if (way == Way::WithoutName) return;
@@ -155,7 +157,7 @@ bool NewFile::keepAs(const std::string& path) {
   return native_->isKept;
 }
 
-// Some file systems can't do that; the change of names is in their journal then.
+// A failure is ignored: file systems that can't sync a folder keep its changes in a journal.
 void SyncFolderOf(const std::string& path) {
   const auto folder = std::filesystem::path(FullName(path)).parent_path();
   const Handle handle(CreateFileW(folder.c_str(), GENERIC_WRITE, kEveryone, nullptr, OPEN_EXISTING,

@@ -37,28 +37,29 @@ std::int64_t ModifiedAt(const struct stat& status) {
   return status.st_mtim.tv_sec * kSecond + status.st_mtim.tv_nsec;
 }
 
-// The names in a folder, and when it was as it is told here.
+// The names in a folder, and what shows later whether they are still up to date.
 struct Listing {
   Listing(const std::string& folder, const struct stat& status)
       : device(status.st_dev), node(status.st_ino), modified(ModifiedAt(status)) {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
-    // A change within one tick of the file system's clock leaves no trace in the folder's time, so
-    // only a folder that had come to rest before it was read can be trusted later.
+    // A second change within one tick of the file system's clock does not alter the folder's time.
+    // So the names are reused only if the last change was longer ago than a tick when they were
+    // read.
     const std::int64_t tick = modified % kSecond == 0 ? 2 * kSecond : kSecond / 20;
-    atRest = std::chrono::nanoseconds(now).count() - modified > tick;
+    isReusable = std::chrono::nanoseconds(now).count() - modified > tick;
     names.emplace(folder);
   }
 
-  bool provablySame(const struct stat& status) const {
-    return atRest && names->areAll() && device == status.st_dev && node == status.st_ino &&
+  bool isUpToDate(const struct stat& status) const {
+    return isReusable && names->isComplete() && device == status.st_dev && node == status.st_ino &&
            modified == ModifiedAt(status);
   }
 
   dev_t device;
   ino_t node;
   std::int64_t modified;
-  bool atRest = false;
-  std::optional<FolderNames> names;  // read last
+  bool isReusable = false;
+  std::optional<FolderNames> names;  // read after `modified` was
 };
 
 constexpr std::size_t kRememberedFolders = 16;
@@ -69,14 +70,14 @@ const FolderNames& NamesIn(const std::string& folder, const struct stat& status)
   if (at == remembered.end()) {
     if (remembered.size() >= kRememberedFolders) remembered.clear();
     at = remembered.emplace(folder, Listing(folder, status)).first;
-  } else if (!at->second.provablySame(status)) {
+  } else if (!at->second.isUpToDate(status)) {
     at->second = Listing(folder, status);
   }
   return *at->second.names;
 }
 
 FoundPath Find(const std::string& path) {
-  // The system takes neither a path this long nor one with a zero in it, where it would stop.
+  // The system refuses longer paths, and would read a path with a zero byte only up to there.
   if (path.size() >= PATH_MAX || path.find('\0') != std::string::npos) return {path};
   const auto exact = Status(path).kind;
   const auto nameEnd = path.find_last_not_of('/') + 1;
@@ -95,7 +96,7 @@ FoundPath Find(const std::string& path) {
   const auto& names = NamesIn(folder, status);
   if (const char* const spelled = names.find(name))
     return {folder + spelled, Status(folder + spelled).kind};
-  return {given, names.areAll() ? Kind::Nothing : Kind::Unknown};
+  return {given, names.isComplete() ? Kind::Nothing : Kind::Unknown};
 }
 
 }  // namespace

@@ -7,17 +7,17 @@
 namespace platform {
 
 struct FoundPath {
-  // Nothing means that the system says so; it can fail to tell.
+  // Nothing: the system says that there is no such file. Unknown: the system can't tell.
   enum class Kind { Nothing, File, Folder, Other, Unknown };
 
   std::string path;  // in the system's spelling; missing components as given
   Kind kind = Kind::Nothing;
 };
 
-// The exact spelling is tried first.
+// Finds what the path leads to. The exact spelling is tried first.
 FoundPath FindPath(std::string_view path);
 
-// Looks again, for the patience of files, while the kind is unknown, and then fails.
+// Repeats FindPath while the kind is Unknown, for at most FilePatience, and then throws.
 FoundPath FindPathForSure(std::string_view path);
 
 }  // namespace platform

@@ -1,5 +1,5 @@
-// Waiting for a file that another program keeps, or for a disk that is away for a moment. It runs
-// no events and asks no clock that the play loop or a test replaces, so that any thread may wait.
+// Waits for a file that another program has locked, or for a disk that does not answer for a
+// moment. It runs no events and does not use platform/clock, so that any thread may wait.
 #pragma once
 
 #include <atomic>
@@ -8,11 +8,11 @@
 
 namespace platform {
 
-// How long a file is waited for: a second. Tests make it shorter.
+// The longest wait for a file: one second. Tests shorten it.
 std::atomic<std::chrono::microseconds>& FilePatience();
 
-// Makes an `attempt` until it succeeds or the patience is used up, but twice at least. Whether it
-// succeeded; what the last attempt left in the system's error variable is still there.
+// Repeats `attempt` until it returns true or FilePatience has passed, but at least once. Returns
+// whether it succeeded. The system's error code is still that of the last attempt.
 bool RetryUntil(const std::function<bool()>& attempt);
 
 }  // namespace platform

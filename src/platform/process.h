@@ -24,7 +24,7 @@ struct Command {
 std::optional<Command> FindCommand(std::string_view commandLine);
 
 // Runs the command to its end, without a time limit, and returns the first 16 MB of its standard
-// output as text. Standard error is dropped. The command is ended with this program. Throws if it
+// output as text. Standard error is dropped. The command ends when this program ends. Throws if it
 // can't be started.
 std::string CaptureOutput(std::string_view commandLine, bool showWindow);
 
@@ -33,7 +33,7 @@ inline constexpr std::size_t kMostOutput = 16U << 20U;
 
 inline constexpr int kStillActive = 259;
 
-// A program that is started and left to itself: it outlives this object and this program.
+// A started program. It keeps running when this object is destroyed and when this program ends.
 class StartedProcess {
  public:
   // Starts the command and drops its output. Its window opens minimised and without focus if the

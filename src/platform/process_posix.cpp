@@ -21,7 +21,7 @@
 namespace platform {
 namespace {
 
-constexpr const char* kNothing = "/dev/null";
+constexpr const char* kNullDevice = "/dev/null";
 
 bool IsForWindows(const std::string& program) {
   std::array<char, 2> start{};
@@ -55,7 +55,7 @@ class Pipe {
     ends_[1] = -1;
   }
 
-  // Reads once; how many bytes, 0 at the end of the stream.
+  // Reads once. Returns the number of bytes, 0 at the end of the stream.
   std::size_t readInto(char* buffer, std::size_t size) const {
     ssize_t count = 0;
     do {
@@ -78,8 +78,8 @@ void Replace(int descriptor, const char* file) {
 
 enum class Lifetime { EndsWithUs, Independent };
 
-// What the child does before it becomes the program; returns if it can't. Between fork and exec
-// only plain system calls are safe.
+// Turns the child process into the program; returns only on failure. Between fork and exec only
+// plain system calls are safe.
 void BecomeProgram(char* const* words, bool forWindows, int output, Lifetime lifetime,
                    pid_t parent) {
   if (lifetime == Lifetime::EndsWithUs) {
@@ -88,21 +88,21 @@ void BecomeProgram(char* const* words, bool forWindows, int output, Lifetime lif
   } else {
     setsid();
   }
-  Replace(STDIN_FILENO, kNothing);
+  Replace(STDIN_FILENO, kNullDevice);
   if (output >= 0)
     dup2(output, STDOUT_FILENO);
   else
-    Replace(STDOUT_FILENO, kNothing);
-  Replace(STDERR_FILENO, kNothing);
+    Replace(STDOUT_FILENO, kNullDevice);
+  Replace(STDERR_FILENO, kNullDevice);
   std::signal(SIGPIPE, SIG_DFL);
   std::signal(SIGXFSZ, SIG_DFL);
   if (forWindows) execvp(words[0], words);
   execv(words[1], words + 1);
 }
 
-// Starts the program of a command line with nothing at its standard input and error; one for
-// Windows is handed to wine if there is one. `output` is the descriptor for its standard output, or
-// -1 for none.
+// Starts the program of a command line, with the null device as standard input and error. A program
+// for Windows is handed to wine if there is one. `output` is the descriptor for standard output, or
+// -1 for the null device.
 pid_t Start(std::string_view commandLine, int output, Lifetime lifetime, char** environment) {
   const auto command = FindCommand(commandLine);
   if (!command) throw base::Failure("no such program");
@@ -130,17 +130,17 @@ pid_t Start(std::string_view commandLine, int output, Lifetime lifetime, char** 
   throw base::Failure(std::strerror(error));
 }
 
-// What a program writes to the pipe; what is beyond the limit is read and dropped.
+// Collects what a program writes to the pipe. What exceeds kMostOutput is read and dropped.
 class Output {
  public:
-  // Reads once, at most `most` bytes; how many, 0 at the end of the stream.
+  // Reads at most `most` bytes once. Returns their number, 0 at the end of the stream.
   std::size_t take(const Pipe& pipe, std::size_t most) {
     std::array<char, 65536> buffer;  // NOLINT: filled by read
     const auto count = pipe.readInto(buffer.data(), std::min(most, buffer.size()));
     kept_.append(buffer.data(), std::min(count, kMostOutput - kept_.size()));
     return count;
   }
-  // Takes what the pipe holds at this moment; whoever else writes to it is not waited for.
+  // Takes what the pipe holds now. Does not wait for other processes that may still write to it.
   void takeRest(const Pipe& pipe) {
     int size = 0;
     if (ioctl(pipe.readEnd(), FIONREAD, &size) != 0) return;
@@ -159,12 +159,12 @@ std::string CaptureOutput(std::string_view commandLine, bool /*showWindow*/) {
   Pipe pipe;
   const pid_t child = Start(commandLine, pipe.writeEnd(), Lifetime::EndsWithUs, FirstEnvironment());
   pipe.closeWriteEnd();
-  constexpr int kLookAfterMs = 20;
+  constexpr int kPollIntervalMs = 20;
   Output output;
   for (;;) {
     pollfd waiting{pipe.readEnd(), POLLIN, 0};
-    const bool readable = poll(&waiting, 1, kLookAfterMs) > 0;
-    // The pipe may stay open in a process that the child has left behind.
+    const bool readable = poll(&waiting, 1, kPollIntervalMs) > 0;
+    // A process that the child started may keep the pipe open after the child has ended.
     if (HasEnded(child, false)) {
       output.takeRest(pipe);
       break;

@@ -12,14 +12,15 @@
 namespace platform {
 namespace {
 
-std::wstring Quoted(const std::string& word) {
-  if (!word.empty() && word.find_first_of(" \t") == std::string::npos) return ToWide(word);
-  // In front of the closing quote a backslash would make it a part of the word.
-  const auto backslashes = word.size() - (word.find_last_not_of('\\') + 1);
-  return ToWide('"' + word + std::string(backslashes, '\\') + '"');
+std::wstring Quoted(const std::string& argument) {
+  if (!argument.empty() && argument.find_first_of(" \t") == std::string::npos)
+    return ToWide(argument);
+  // Backslashes at the end are doubled, because a single one would escape the closing quote.
+  const auto backslashes = argument.size() - (argument.find_last_not_of('\\') + 1);
+  return ToWide('"' + argument + std::string(backslashes, '\\') + '"');
 }
 
-// The arguments as one text that the program's own library cuts into the same words again.
+// The arguments as one text, which the started program splits into the same arguments.
 std::wstring ArgumentsOf(const Command& command) {
   std::wstring line;
   for (const auto& argument : command.arguments) line += L' ' + Quoted(argument);
@@ -30,15 +31,14 @@ std::wstring LineOf(const Command& command) {
   return Quoted(command.program) + ArgumentsOf(command);
 }
 
-// The program's file as the system takes it. Other programs may not know the mark of a full name,
-// which would be in what they are told of their own place, so that it stands where it must only.
+// The program's path for the system. The prefix of a full name is used for long paths only, because
+// the started program gets it as part of its own path and may not understand it.
 std::wstring FileOf(const Command& command) {
   auto full = FullName(command.program);
   return full.size() < MAX_PATH ? ToWide(command.program) : full;
 }
 
-// The handles that a new process inherits: the one given and no other, whatever else in this
-// program may be inheritable.
+// Makes a new process inherit this handle only, and no other inheritable one of this program.
 class Inheritance {
  public:
   explicit Inheritance(HANDLE handle) : handle_(handle) {
@@ -62,10 +62,10 @@ class Inheritance {
   std::vector<char> bytes_;
 };
 
-// Creates the command's process, which waits to be resumed, with its standard output at `output`,
-// or nowhere. Returns whether it could; the system's last error says why not.
+// Creates the command's process in suspended state. `output` is its standard output, null for none.
+// Returns false on failure, with the reason in GetLastError.
 bool Create(const Command& command, WORD showState, HANDLE output, PROCESS_INFORMATION& process) {
-  // The system may write into this text.
+  // CreateProcessW may write into this text.
   auto line = LineOf(command);
   STARTUPINFOEXW startup{};
   startup.StartupInfo.cb = sizeof startup;
@@ -74,13 +74,13 @@ bool Create(const Command& command, WORD showState, HANDLE output, PROCESS_INFOR
   startup.StartupInfo.hStdOutput = output;
   std::optional<Inheritance> inheritance;
   if (output) startup.lpAttributeList = inheritance.emplace(output).list();
-  // The file is named, so that no other than the one that was found can run.
+  // With the file given, no program can run but the one that was found.
   return CreateProcessW(FileOf(command).c_str(), line.data(), nullptr, nullptr, output != nullptr,
                         NORMAL_PRIORITY_CLASS | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT,
                         nullptr, nullptr, &startup.StartupInfo, &process) != 0;
 }
 
-// As long as it lives, a program whose file asks for an administrator's rights starts without them.
+// While it exists, a program whose file asks for administrator rights is started without them.
 class WithoutElevation {
  public:
   WithoutElevation() { SetEnvironmentVariableW(kName, L"RunAsInvoker"); }
@@ -104,7 +104,7 @@ Command Found(std::string_view commandLine) {
   return *std::move(command);
 }
 
-// Lets the shell start the command, which asks the person for the rights that it needs.
+// Lets the shell start the command. The shell asks the user for the administrator rights.
 HANDLE StartElevated(const Command& command, int showState) {
   const auto file = FileOf(command);
   const auto arguments = ArgumentsOf(command);
@@ -133,13 +133,13 @@ HANDLE StartPlay(std::string_view commandLine) {
   return StartElevated(command, SW_MINIMIZE);
 }
 
-// Starts a command that only prints, and ends it with `job`. The caller closes the result.
+// Starts a command that only prints, and puts it into `job`. The caller closes the result.
 HANDLE StartListing(std::string_view commandLine, WORD showState, HANDLE output, HANDLE job) {
   const auto command = Found(commandLine);
   PROCESS_INFORMATION process{};
   if (!Create(command, showState, output, process)) {
     Check(GetLastError() == kElevationRequired);
-    // A program that runs with more rights can't write to our pipe; printing needs none.
+    // A program with administrator rights can't write to our pipe, and printing does not need them.
     const WithoutElevation layer;
     Check(Create(command, showState, output, process));
   }
@@ -147,7 +147,8 @@ HANDLE StartListing(std::string_view commandLine, WORD showState, HANDLE output,
   return Resumed(process);
 }
 
-// What runs in it, without what that starts, ends when the job's handle is closed: at our end too.
+// A job whose process ends when the job's handle is closed, so also when this program ends.
+// Processes that it starts are not part of the job.
 HANDLE NewJob() {
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
   limits.BasicLimitInformation.LimitFlags =
@@ -157,8 +158,8 @@ HANDLE NewJob() {
   return job;
 }
 
-// Takes what the pipe holds at this moment, if anything, and drops what is beyond the limit;
-// whoever still writes to it is not waited for.
+// Appends what the pipe holds now, without waiting for more, and drops what exceeds kMostOutput.
+// Returns false if the pipe was empty.
 bool DrainInto(std::string& bytes, HANDLE pipe) {
   DWORD left = 0;
   if (!PeekNamedPipe(pipe, nullptr, 0, nullptr, &left, nullptr) || left == 0) return false;
@@ -182,13 +183,13 @@ std::string CaptureOutput(std::string_view commandLine, bool showWindow) {
   const Handle child(
       StartListing(commandLine, showWindow ? SW_SHOWNORMAL : SW_HIDE, writeEnd.get(), job.get()));
   writeEnd.close();
-  constexpr DWORD kLookAfterMs = 20;
+  constexpr DWORD kPollIntervalMs = 20;
   std::string bytes;
-  DWORD patience = 0;
+  DWORD waitMs = 0;
   for (bool running = true; running;) {
-    running = WaitForSingleObject(child.get(), patience) == WAIT_TIMEOUT;
-    // A child that has filled the pipe goes on writing as soon as there is room.
-    patience = DrainInto(bytes, readEnd.get()) ? 0 : kLookAfterMs;
+    running = WaitForSingleObject(child.get(), waitMs) == WAIT_TIMEOUT;
+    // A child that had filled the pipe writes on at once, now that there is room.
+    waitMs = DrainInto(bytes, readEnd.get()) ? 0 : kPollIntervalMs;
   }
   return DecodeCodePage(bytes);
 }
@@ -207,7 +208,7 @@ int StartedProcess::ExitStatus() {
   if (WaitForSingleObject(native_->handle.get(), 0) == WAIT_TIMEOUT) return kStillActive;
   DWORD status = 1;
   GetExitCodeProcess(native_->handle.get(), &status);
-  // A program may end with the very number that means still active.
+  // The program's own exit status may be the number that means "still active".
   status_ = status == STILL_ACTIVE ? 1 : static_cast<int>(status);
   return status_;
 }

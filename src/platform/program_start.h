@@ -9,8 +9,8 @@ namespace platform {
 // limit fail instead of ending the program. Copies the environment, which the toolkit may change
 // while another thread starts a program.
 //
-// On Windows: makes the system's folder the only one that libraries are loaded from by name, and a
-// drive that isn't ready an error instead of a message box.
+// On Windows: lets libraries be loaded by name from the system's folder only, and makes access to a
+// drive that isn't ready fail instead of showing a message box.
 void PrepareProgram();
 
 }  // namespace platform

@@ -4,10 +4,11 @@
 namespace platform {
 
 void PrepareProgram() {
-  // Beside the emulator lie libraries that wrap the system's graphics and sound under the same
-  // names. They are meant for the emulator: what this program loads comes from the system's folder.
+  // Libraries beside the emulator may wrap those of the system for graphics and sound under the
+  // same names. They are meant for the emulator, so this program loads from the system's folder
+  // only.
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-  // A card reader without a card is a drive that can't be read, and no reason for a message box.
+  // Otherwise the system shows a message box when a drive such as an empty card reader is read.
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 }
 

@@ -1,5 +1,5 @@
-// Overwriting a file in place, so that whatever interrupts it leaves the old text or the new one,
-// or the old one in a copy.
+// Overwrites files in place. Whatever interrupts a save, the file has the old text or the new one,
+// or a copy has the old one.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -14,9 +14,9 @@
 namespace platform {
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{1} << 20U;
+constexpr std::size_t kPieceBytes = std::size_t{1} << 20U;
 
-// Empty lines of so many bytes to stand behind a text, whose lines may end as on another system.
+// Empty lines that fill this number of bytes behind a text. They have the text's kind of line end.
 std::string EmptyLines(std::string_view text, long long bytes) {
   const bool hasCR =
       text.find('\r') != std::string_view::npos || text.find('\n') == std::string_view::npos;
@@ -26,21 +26,21 @@ std::string EmptyLines(std::string_view text, long long bytes) {
   return lines;
 }
 
-// Brings these bytes to the disk; tries again for a while where it refuses.
+// Writes the bytes and waits until they are on the disk. Tries again on failure.
 bool Store(const OpenFile& file, long long at, std::string_view bytes) {
   return RetryUntil([&] { return file.write(at, bytes) && file.sync(); });
 }
 
-// The same for the size of the file.
+// Sets the file's size and waits until it is on the disk. Tries again on failure.
 bool Resize(const OpenFile& file, long long size) {
   return RetryUntil([&] { return file.setSize(size) && file.sync(); });
 }
 
-// Calls `make` with this path, and then with numbers behind it, until it makes a file. It makes
-// none where something has the name.
+// Calls `make` with this path, then with numbers appended to it, until it returns true. It returns
+// false if the name is taken. Names of existing files are skipped.
 void UnderUnusedName(const std::string& path, const std::function<bool(const std::string&)>& make) {
-  constexpr int kMostCopies = 1000;
-  for (int number = 1; number <= kMostCopies; ++number) {
+  constexpr int kMaxCopies = 1000;
+  for (int number = 1; number <= kMaxCopies; ++number) {
     const auto name = path + (number == 1 ? "" : std::to_string(number));
     const auto existence = LookForFile(name);
     if (existence == Existence::Unknown) break;
@@ -53,7 +53,7 @@ void Copy(const OpenFile& from, const std::string& path) {
   const auto size = from.size();
   const auto fill = [&](const NewFile& copy) {
     for (long long at = 0; at < size;) {
-      const auto piece = from.read(at, kPiece);
+      const auto piece = from.read(at, kPieceBytes);
       if (piece.empty() || !copy.add(piece)) return false;
       at += static_cast<long long>(piece.size());
     }
@@ -62,8 +62,9 @@ void Copy(const OpenFile& from, const std::string& path) {
   UnderUnusedName(path, [&](const auto& name) { return MakeFile(name, from.rights(), fill); });
 }
 
-// The old text, for which a name is found only if a save fails and it can't be put back. It is
-// written before the save where it needs no name, since afterwards the disk may take nothing more.
+// A copy of the old text, which gets a name only if a save fails and can't put the text back. If
+// the file system supports files without a name, the copy is written before the save, because the
+// disk may refuse any write after it.
 class Spare {
  public:
   Spare(std::string path, std::string_view text, Rights rights)
@@ -88,18 +89,18 @@ class Spare {
   bool isWhole_;
 };
 
-// Puts the new text in the place of the old one, which is held in memory.
+// Overwrites the old text, which the caller keeps in memory, with the new one.
 void Replace(const OpenFile& file, std::string_view old, std::string_view bytes, Spare* spare) {
   const auto oldSize = static_cast<long long>(old.size());
   const auto size = static_cast<long long>(bytes.size());
-  // A longer text first gets its size, on the disk too. Otherwise a power cut could leave the new
-  // text cut at the old size, which may read as if it were whole.
+  // For a longer text, the file first grows on the disk. Otherwise a power cut could leave the new
+  // text cut off at the old size, which may read as if it were complete.
   if (size > oldSize && !Store(file, oldSize, EmptyLines(old, size - oldSize))) {
     Resize(file, oldSize);
     throw base::Failure("the file can't grow");
   }
-  // Until the file is cut, empty lines stand for the end of a longer old text: it can be read at
-  // any time, and comes to the disk before its size does.
+  // After a shorter text, empty lines overwrite the rest of the old one, and the caller cuts the
+  // file. So the file can be read at any time, and the text is on the disk before the size changes.
   if (Store(file, 0, std::string(bytes) + EmptyLines(bytes, oldSize - size))) return;
   Store(file, 0, old);
   Resize(file, oldSize);
@@ -111,16 +112,16 @@ void Overwrite(const std::string& path, std::string_view bytes, Rights rights,
                const Rescue* rescue) {
   const OpenFile file(path, OpenFile::Use::Saving);
   file.setRights(rights);
-  const bool isHeld = file.size() <= kLargestText;
-  const auto old = isHeld ? file.read(0, static_cast<std::size_t>(file.size())) : std::string();
+  const bool fitsMemory = file.size() <= kLargestText;
+  const auto old = fitsMemory ? file.read(0, static_cast<std::size_t>(file.size())) : std::string();
   std::optional<Spare> spare;
-  if (rescue && isHeld && rescue->known == old) {
+  if (rescue && fitsMemory && rescue->known == old) {
     spare.emplace(rescue->copy, old, file.rights());
   } else if (rescue) {
     Copy(file, rescue->copy);
     rescue->known = old;
   }
-  if (!isHeld && !file.setSize(0)) throw base::Failure("the file can't be cut");
+  if (!fitsMemory && !file.setSize(0)) throw base::Failure("the file can't be cut");
   const auto oldSize = static_cast<long long>(old.size());
   const auto size = static_cast<long long>(bytes.size());
   if (!file.hasRoom(oldSize, size)) throw base::Failure("no room on the disk");
@@ -133,7 +134,7 @@ void Save(std::string_view path, std::string_view bytes, Rights rights, const Re
   const auto existence = LookForFile(path);
   const auto name = SystemPath(path);
   const auto fill = [&](const NewFile& file) { return file.add(bytes); };
-  // What can't be seen is no new file. Opening decides, and makes none.
+  // A file is created only where surely none is. Overwrite fails if there is none.
   if (existence == Existence::NotThere && MakeFile(name, rights, fill)) {
     if (rescue) rescue->known = bytes;
   } else {

@@ -9,8 +9,8 @@ namespace platform {
 class SettingsStore {
  public:
   explicit SettingsStore(const std::string& application);
-  // Writes everything that was saved, for at most a second. A store that can't be written is no
-  // error.
+  // Writes everything that was saved, and waits for it at most a second. A store that can't be
+  // written is no error.
   ~SettingsStore();
   SettingsStore(const SettingsStore&) = delete;
   SettingsStore& operator=(const SettingsStore&) = delete;

@@ -30,7 +30,7 @@ std::wstring FullName(std::string_view path) {
       GetFullPathNameW(given.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
   if (full.empty() || full.starts_with(L"\\\\.\\")) return {};
   if (full.starts_with(L"\\\\?\\")) return full;
-  // Behind this mark the system takes a name as it stands, without a limit on its length.
+  // With this prefix the system takes a name literally and does not limit its length.
   return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
 }
 

@@ -1,4 +1,4 @@
-// What the sources for Windows share: the system's texts, names, handles and failures.
+// What the sources for Windows share: the system's texts, paths, handles and failures.
 #pragma once
 
 #include <windows.h>
@@ -6,20 +6,22 @@
 #include <string>
 #include <string_view>
 
-// The system's headers rename this one to suit their character set.
+// windows.h makes this a macro for one of two other names.
 #undef DeleteFile
 
 namespace platform {
 
-// The program asks for an administrator's rights. Some compilers' headers lack the system's name.
+// The error of starting a program that asks for administrator rights. Some compilers' headers lack
+// the system's name for it.
 inline constexpr DWORD kElevationRequired = 740;
 
-// UTF-8 to the system's texts and back. Nothing comes back of a text that is no valid Unicode.
+// Convert between UTF-8 and the system's texts. The result is empty if the text is invalid.
 std::wstring ToWide(std::string_view text);
 std::string FromWide(std::wstring_view text);
 
-// The name by which the system takes a path of any length, relative or not, with either separator.
-// Empty, which names nothing, for a path that holds a zero or leads to a device such as "nul".
+// The absolute path in the form that the system accepts at any length. The given path may be
+// relative and have either separator. Empty, which leads to no file, if the path contains a zero
+// byte or leads to a device such as "nul".
 std::wstring FullName(std::string_view path);
 
 // Throws with the system's last error.
