@@ -11,14 +11,14 @@ class QString;
 
 namespace forms {
 
-// What a control shows, as a text that assistive technology reads but does not change.
+// The text that a control shows, in a form that assistive technology can read but not change.
 std::unique_ptr<QAccessibleTextInterface> NewAccessibleText(std::function<QString()> shown);
 
-// What the toolkit has no call for, by the names that screen readers know: "valuetext" is a value
-// in words, "setsize" and "posinset" count rows.
+// Attributes that the toolkit has no call for, by the names that screen readers know: "valuetext"
+// is a value in words, "setsize" the number of rows, "posinset" the number of a row.
 using AttributeValues = QHash<QString, QString>;
 
-// Whether the toolkit hands attributes on.
+// Whether the toolkit passes attributes to assistive technology.
 bool HasAttributes();
 
 class AccessibleAttributes {
@@ -26,8 +26,8 @@ class AccessibleAttributes {
   explicit AccessibleAttributes(std::function<AttributeValues()> values);
   ~AccessibleAttributes();
 
-  // For the control's interface_cast, with its QAccessible::InterfaceType. Null for other types,
-  // and where attributes are not handed on.
+  // The answer to the control's interface_cast for this QAccessible::InterfaceType: null unless it
+  // asks for attributes and HasAttributes().
   void* cast(int type) const;
 
  private:

@@ -20,22 +20,23 @@
 #include "platform/forms/native.h"
 #include "platform/forms/readable_style.h"
 
-// Pulls the pictures out of the library; has to stand outside any namespace.
+// Registers the pictures that are linked into the program. The macro must be used outside any
+// namespace.
 static void LoadAssets() { Q_INIT_RESOURCE(assets); }
 
 namespace forms {
 
 namespace {
 
-// The loader takes the toolkit from this folder of ours where there is one of the version that the
-// program was built with; its plugins must come from there too, and only from there.
+// If this folder exists, the loader took the toolkit from it. Then the plugins must come from there
+// too, and from nowhere else.
 void UseBundledPlugins() {
   const QDir plugins(QString::fromStdString(platform::ProgramFolder()) +
                      QStringLiteral("/KestrivaneUI-Qt-" QT_VERSION_STR "/plugins"));
   if (plugins.exists()) QCoreApplication::setLibraryPaths({plugins.path()});
 }
 
-// A wait during which assistive technology is answered, but nothing that a person does is obeyed.
+// Waits. Meanwhile questions of assistive technology are answered, but input is dropped.
 void SleepAnswering(std::chrono::milliseconds time) {
   const InputPause pause;
   QEventLoop loop;
@@ -43,7 +44,7 @@ void SleepAnswering(std::chrono::milliseconds time) {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-// Assistive technology gets a tool tip as it is set; only what is drawn could be taken for markup.
+// Shows all tool tips as plain text. The toolkit would take some for markup when it draws them.
 class ToolTips : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -62,11 +63,11 @@ class ToolTips : public QObject {
 }  // namespace
 
 struct Application::Native {
-  // The toolkit wants a command line for as long as it lives; the program has none.
-  int count = 1;
+  // The toolkit needs a command line that lives as long as it does.
+  int argc = 1;
   char name[13] = "KestrivaneUI";
-  char* words[2] = {name, nullptr};
-  QApplication application{count, words};
+  char* argv[2] = {name, nullptr};
+  QApplication application{argc, argv};
   ToolTips toolTips;
 };
 
@@ -97,7 +98,7 @@ void LeaveEventLoop() { QApplication::quit(); }
 
 void DoEvents() {
   const InputPause pause;
-  QGuiApplication::sync();  // the window system may still hold some
+  QGuiApplication::sync();  // fetches events that are still at the window system
   QApplication::processEvents();
 }
 

@@ -23,10 +23,10 @@ class Application {
 
 void LeaveEventLoop();
 
-// Handles the events that are waiting. What the user did is dropped.
+// Handles the events that are waiting. User input among them is dropped.
 void DoEvents();
 
-// Ends the program at once: no unload step, nothing written. A test puts its own in place.
+// Ends the program at once, without an unload step or any write. Tests replace it.
 std::function<void(int status)>& EndProgram();
 
 }  // namespace forms

@@ -18,7 +18,8 @@ QAccessible::Role RoleOf(const QAbstractButton& button) {
   return button.autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
 }
 
-// Tells what the toolkit's own tells. That one would change a check box at once.
+// Reports what the toolkit's own interface reports, which this one replaces because it would toggle
+// a check box at once and in any window.
 class ButtonInterface : public QAccessibleWidget {
  public:
   explicit ButtonInterface(QAbstractButton* button) : QAccessibleWidget(button, RoleOf(*button)) {}
@@ -44,7 +45,8 @@ class ButtonInterface : public QAccessibleWidget {
     state.defaultButton = push && push->isDefault();
     return state;
   }
-  // Where a click acts: of a check box and an option button the box and its caption.
+  // The area where a click acts. For check boxes and option buttons it is the box and the caption,
+  // which is smaller than the widget.
   QRect rect() const override {
     if (!button()->isVisible() || !button()->isCheckable()) return QAccessibleWidget::rect();
     QStyleOptionButton look;

@@ -3,8 +3,9 @@
 
 namespace forms {
 
-// From then on assistive technology presses buttons, check boxes and option buttons as a person
-// does: not in a window that takes no input, and not while the caller waits.
+// Makes a press by assistive technology on a button, check box or option button follow the rules
+// for all input: it has no effect in a window that takes none, and it acts after the caller has got
+// its answer.
 void MakeButtonsAccessible();
 
 }  // namespace forms

@@ -10,7 +10,7 @@
 namespace forms {
 namespace {
 
-// The user only ticks and unticks; the greyed state is the program's alone.
+// The user can only tick and untick; only the program sets the greyed state.
 class NativeCheckBox : public Ringed<QCheckBox> {
  public:
   using Ringed::Ringed;

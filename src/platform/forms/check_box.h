@@ -7,7 +7,8 @@
 
 namespace forms {
 
-// 0 unticked, 1 ticked, 2 greyed. A change of the value raises the click, by whomever.
+// The values are 0 unticked, 1 ticked, 2 greyed. Each change of the value raises the click, whether
+// the user or the program made it.
 class CheckBox : public Control {
  public:
   CheckBox(Container& parent, const char* name, const Box& box, const std::string& caption,
@@ -16,7 +17,7 @@ class CheckBox : public Control {
   std::string caption() const;
   void setCaption(const std::string& caption);
   int value() const;
-  // Fails for anything but 0, 1 and 2.
+  // Throws for any value but 0, 1 and 2.
   void setValue(int value);
 
   std::function<void()> onClick;

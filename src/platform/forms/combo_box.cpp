@@ -11,7 +11,7 @@
 namespace forms {
 namespace {
 
-// The wheel belongs to the page unless the box was chosen.
+// Ignores the wheel unless the box has the focus, so that scrolling past it changes nothing.
 class NativeComboBox : public Ringed<QComboBox> {
  public:
   explicit NativeComboBox(QWidget* parent) : Ringed(parent) { setFocusPolicy(Qt::StrongFocus); }
@@ -31,7 +31,7 @@ QComboBox* Native(QWidget* widget) { return static_cast<QComboBox*>(widget); }
 
 ComboBox::ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font)
     : Control(new NativeComboBox(parent.clientArea()), name, box, font) {
-  // A list with a scroll bar below the box, not a menu as high as the screen.
+  // Shows a list with a scroll bar below the box instead of a menu as high as the screen.
   Native(widget())->setStyleSheet(QStringLiteral("combobox-popup: 0"));
   Native(widget())->setMaxVisibleItems(15);
   QObject::connect(Native(widget()), &QComboBox::currentIndexChanged, widget(), [this](int row) {

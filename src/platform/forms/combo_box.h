@@ -7,18 +7,19 @@
 
 namespace forms {
 
-// A drop-down list without typing. A newly selected row raises the click, by whomever.
+// A drop-down list without typing. Selecting another row raises the click, whether the user or the
+// program does it.
 class ComboBox : public Control {
  public:
   ComboBox(Container& parent, const char* name, const Box& box, const FontStyle& font = {});
 
-  // Raises no event and selects nothing.
+  // Raises no event and does not change the selection.
   void add(const std::string& text);
   int count() const;
   std::string text() const;  // of the selected row; empty for none
 
   int selectedRow() const;  // -1 for none
-  // Fails for a row that is not there.
+  // Throws if there is no such row.
   void select(int row);
   // Selects the row with exactly this text; false if there is none.
   bool selectText(const std::string& text);

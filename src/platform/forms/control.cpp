@@ -24,14 +24,14 @@ int ToPixels(int twips) {
   return static_cast<int>(std::lround(static_cast<double>(twips) / kTwipsPerPixel));
 }
 
-// Edges are rounded, not sizes, so that neighbours keep touching.
+// Rounds the edges instead of the size, so that neighbours still touch.
 QRect ToPixels(const Box& box) {
   return {QPoint(ToPixels(box.left), ToPixels(box.top)),
           QPoint(ToPixels(box.left + box.width) - 1, ToPixels(box.top + box.height) - 1)};
 }
 
 QFont ToFont(const FontStyle& style) {
-  QFont font;  // of the form's family
+  QFont font;  // its family comes from the form
   font.setPixelSize(static_cast<int>(std::lround(style.points * 96 / 72)));
   font.setBold(style.bold);
   font.setItalic(style.italic);

@@ -16,7 +16,7 @@ struct Box {
 struct FontStyle {
   double points = 8.25;
   bool bold = false, italic = false, underline = false;
-  int letterWidth = 100;  // percent of the room that a letter usually takes
+  int letterWidth = 100;  // percent of a letter's usual width
 };
 
 struct Colour {
@@ -26,7 +26,7 @@ inline constexpr Colour kWhite{255, 255, 255};
 inline constexpr Colour kBlack{0, 0, 0};
 inline constexpr Colour kGrey{128, 128, 128};
 
-// Assistive technology passes over a decoration.
+// What a control is for assistive technology, which ignores a decoration.
 enum class Role { Picture, Group, Link, Decoration };
 
 // A form or a frame: what controls are built on.
@@ -48,7 +48,7 @@ class Control {
   Box box() const { return box_; }
   void setLeft(int left);
 
-  // The control's own state, whatever that of the form or frame that holds it.
+  // The control's own state, independent of that of the form or frame that holds it.
   void setVisible(bool visible);
   bool enabled() const;
   void setEnabled(bool enabled);
@@ -65,19 +65,19 @@ class Control {
   // Back to the desktop's own colours.
   void resetColours();
 
-  // What assistive technology calls the control, where its own caption does not tell: a caption or
-  // several near by. The colon at its end is dropped.
+  // The name that assistive technology reports, for a control without a caption that says what it
+  // is. A colon at its end is dropped.
   void setAccessibleName(const std::string& name);
-  // What assistive technology tells of the control behind its name and value.
+  // The description that assistive technology reports after the control's name and value.
   void setAccessibleDescription(const std::string& text);
   // Has assistive technology speak the control as if the focus had come to it.
   void announce() const;
-  // What assistive technology takes the control for, where its kind does not tell.
+  // For a control whose class does not determine its role.
   void setRole(Role role);
 
  protected:
-  // Takes over `widget`, which was built on the container's client area. `name` is what tests and
-  // tools find the control by.
+  // Takes ownership of `widget`, a child of the container's client area. Tests and tools find the
+  // control by `name`.
   Control(QWidget* widget, const char* name, const Box& box, const FontStyle& font);
 
   QWidget* widget() const { return widget_; }

@@ -31,8 +31,8 @@ QAccessible::Role ToAccessibleRole(Role role) {
   return QAccessible::Whitespace;
 }
 
-// A widget in the role that it has when asked: the toolkit makes this as soon as the widget is
-// there, and what assistive technology has seen once must stay.
+// Reports the role that the widget has when it is asked. The toolkit creates this interface before
+// the form has set the role, and can't replace it later.
 class RoleInterface : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -77,8 +77,9 @@ class RoleInterface : public QAccessibleWidget {
   }
 };
 
-// A bar whose value is shown in words too. Screen readers speak the words of a slider only where an
-// attribute tells them, and else its number; of a spin box they speak the text.
+// A bar whose value also has a text. For a slider, screen readers speak the text only if it is an
+// attribute, and else the number; for a spin box they speak the text. So where the toolkit has no
+// attributes, the bar is reported as a spin box.
 class BarInterface : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit BarInterface(QScrollBar* bar)

@@ -1,4 +1,4 @@
-// What assistive technology is told of controls that the toolkit knows as something else.
+// What assistive technology learns of controls that the toolkit would report as something else.
 #pragma once
 
 #include "platform/forms/control.h"
@@ -7,14 +7,15 @@ class QString;
 
 namespace forms {
 
-// Once, when the application starts.
+// Registers the interfaces. To be called once, when the application starts.
 void MakeControlsAccessible();
 
+// Makes a screen reader speak the widget as if it had got the focus.
 void Announce(QWidget& widget);
 
 void SetAccessibleRole(QWidget& widget, Role role);
 
-// What a scroll bar's value is called.
+// Sets the text of a scroll bar's value.
 void SetAccessibleValue(QWidget& bar, const QString& value);
 
 }  // namespace forms

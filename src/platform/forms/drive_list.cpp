@@ -17,7 +17,7 @@ namespace {
 // How long a chosen drive has to answer.
 constexpr std::chrono::seconds kPatience(1);
 
-// Names alone: none of these calls waits for a volume.
+// Collects names only. None of these calls waits for a volume.
 std::vector<std::string> Drives() {
   std::vector<std::string> drives;
   const auto add = [&](std::string path) {
@@ -33,7 +33,7 @@ std::vector<std::string> Drives() {
   return drives;
 }
 
-// The folder "\\machine\share" that a path on another machine is in.
+// The folder "\\machine\share" of a path on another machine.
 std::string ShareOf(const std::string& path) {
   return path.substr(0, path.find('\\', path.find('\\', 2) + 1));
 }
@@ -47,8 +47,8 @@ DriveList::DriveList(Container& parent, const char* name, const Box& box,
   for (const auto& path : paths_) add(path);
   onClick = [this] {
     if (selectedRow() == accepted_) return;
-    const auto looks = [path = drive()] { platform::SubfolderNames(path); };
-    if (!platform::SucceedsWithin(kPatience, looks)) {
+    const auto readDrive = [path = drive()] { platform::SubfolderNames(path); };
+    if (!platform::SucceedsWithin(kPatience, readDrive)) {
       select(accepted_);
       return;
     }

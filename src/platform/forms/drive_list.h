@@ -9,16 +9,16 @@
 
 namespace forms {
 
-// The places at which folder trees begin: drives, or on a system without them the root, the home
-// folder and the mounted volumes. A volume is asked only when it is chosen. One that can't be read
-// within a second is not accepted: the list goes back to the one before.
+// The drives, or on a system without drives the root, the home folder and the mounted volumes. A
+// volume is read only when it is chosen. If it can't be read within a second, the list goes back to
+// the one chosen before.
 class DriveList : public ComboBox {
  public:
-  // Offers only what `accepts` takes.
+  // Offers only paths that `accepts` accepts.
   DriveList(Container& parent, const char* name, const Box& box,
             bool (*accepts)(std::string_view path));
 
-  std::string drive() const;  // the path of the selected one
+  std::string drive() const;  // the path of the selected drive
   // Selects the drive that holds the folder, without an event.
   void selectFor(const std::string& folder);
 

@@ -13,13 +13,13 @@ class FileList : public ListBox {
   FileList(Container& parent, const char* name, const Box& box);
 
   std::string path() const { return folder_; }
-  // A folder that can't be read has no files.
+  // Lists the files of this folder, or none if it can't be read.
   void setPath(const std::string& folder);
 
   // Selects the first file that can be chosen, if there is one.
   void selectFirst();
 
-  // Files that it refuses are listed, but can't be chosen.
+  // Files for which this returns false are listed, but can't be chosen.
   std::function<bool(const std::string& folder, const std::string& name)> canBeChosen;
 
  private:

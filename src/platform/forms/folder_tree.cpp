@@ -48,16 +48,16 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
 
   QTreeWidgetItem* selectedItem() const { return selectedItems().value(0); }
-  // The toolkit tells assistive technology that the current folder has the focus and stands where
-  // it is drawn, even in a tree that is hidden.
+  // Otherwise the toolkit reports that the current folder has the focus, and where it is drawn,
+  // even while the tree is hidden.
   void leaveCurrent() { setCurrentItem(nullptr, 0, QItemSelectionModel::NoUpdate); }
   QRect visualRect(const QModelIndex& index) const override {
     return isVisible() ? QTreeWidget::visualRect(index) : QRect();
   }
 
-  // As wide as the rows: a column of the tree's width has no room for names at deep levels.
+  // Makes the column as wide as its rows. The tree's width has no room for names at deep levels.
   void widenColumn() { setColumnWidth(0, std::max(sizeHintForColumn(0), viewport()->width())); }
-  // Brings the name into view sideways too: its end, and before all its beginning.
+  // Also scrolls sideways to the name. If it does not fit, its beginning is shown.
   void scrollTo(const QModelIndex& index, ScrollHint hint) override {
     widenColumn();
     QTreeWidget::scrollTo(index, hint);
@@ -69,32 +69,32 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
 
  protected:
-  // The toolkit would open all folders below the current one at a star, without end where links
-  // make a circle.
+  // At the asterisk key the toolkit would open all folders below the current one, which does not
+  // end if links form a circle.
   void keyPressEvent(QKeyEvent* event) override {
     const auto key = event->key();
     const auto* item = currentItem();
     if (key == Qt::Key_Asterisk || key == Qt::Key_Return || key == Qt::Key_Enter)
       expand(currentIndex());
     else if (key == Qt::Key_Left && item && item->isExpanded() && item->childCount() > 0)
-      collapse(currentIndex());  // the toolkit does only where there is nothing to scroll
+      collapse(currentIndex());  // the toolkit would scroll instead if it can
     else
       QTreeWidget::keyPressEvent(event);
-    // It scrolls on where there is nothing to open.
+    // With nothing to open, the toolkit has scrolled away from the current folder.
     scrollTo(currentIndex(), EnsureVisible);
   }
-  // Assistive technology is told of the folders of the tree in focus only.
+  // Announces a folder to assistive technology only if the tree has the focus.
   void currentChanged(const QModelIndex& now, const QModelIndex& before) override {
     if (hasFocus())
       QTreeWidget::currentChanged(now, before);
     else
-      QAbstractItemView::currentChanged(now, before);  // NOLINT: not what the tree adds to it
+      QAbstractItemView::currentChanged(now, before);  // NOLINT: skips QTreeWidget's announcement
   }
-  // It is told of the tree first, and then of the folder in it.
+  // Announces first the tree and then its current folder.
   void focusInEvent(QFocusEvent* event) override {
     RingedView::focusInEvent(event);
     QMetaObject::invokeMethod(
-        this, [this] { tellCurrent(); }, Qt::QueuedConnection);
+        this, [this] { announceCurrent(); }, Qt::QueuedConnection);
   }
   bool viewportEvent(QEvent* event) override {
     if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
@@ -123,7 +123,7 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
 
  private:
-  void tellCurrent() {
+  void announceCurrent() {
     auto* tree = QAccessible::isActive() ? QAccessible::queryAccessibleInterface(this) : nullptr;
     auto* folder = tree && hasFocus() ? tree->focusChild() : nullptr;
     if (!folder) return;
@@ -134,7 +134,7 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
 
 NativeTree* Native(QWidget* widget) { return static_cast<NativeTree*>(widget); }
 
-QTreeWidgetItem* ChildOnTheWay(QTreeWidgetItem& item, const std::string& folder) {
+QTreeWidgetItem* ChildContaining(QTreeWidgetItem& item, const std::string& folder) {
   for (int row = 0; row < item.childCount(); ++row) {
     if (platform::IsWithin(folder, PathOf(*item.child(row)))) return item.child(row);
   }
@@ -179,7 +179,7 @@ void FolderTree::setPath(const std::string& root, const std::string& folder) {
   tree->clear();
   auto* item = NewItem(root, root);
   tree->addTopLevelItem(item);
-  for (auto* next = item; next; next = ChildOnTheWay(*item, folder)) {
+  for (auto* next = item; next; next = ChildContaining(*item, folder)) {
     item = next;
     readFolder(*item);
     item->setExpanded(true);

@@ -9,18 +9,18 @@ class QTreeWidgetItem;
 
 namespace forms {
 
-// The folders below one root, hidden ones included. They are read as they are opened; one that
-// can't be read shows as empty.
+// The folders below one root, hidden ones included. A folder is read when it is opened. One that
+// can't be read is shown as empty.
 class FolderTree : public Control {
  public:
   FolderTree(Container& parent, const char* name, const Box& box);
 
   // The selected folder.
   std::string path() const;
-  // Puts another root in place, and selects and shows `folder`, which lies in it.
+  // Sets the root, and selects and shows `folder`, which is inside it.
   void setPath(const std::string& root, const std::string& folder);
 
-  // Shows only folders whose name it accepts; all where none is set.
+  // Only folders for whose name this returns true are shown. If it is not set, all are.
   std::function<bool(const std::string& name)> accepts;
 
  private:

@@ -52,7 +52,8 @@ class FormWindow : public QMainWindow {
     if (isVisible()) loop.exec();
     loop_ = nullptr;
   }
-  // Until the window stands painted on the screen, or for a second where nothing tells.
+  // Waits until the window is painted on the screen, but at most a second, since not every window
+  // system reports it.
   void waitUntilShown() const {
     const QDeadlineTimer patience(std::chrono::seconds(1));
     do {
@@ -63,8 +64,8 @@ class FormWindow : public QMainWindow {
     QApplication::processEvents();
   }
 
-  // Centres the window with its frame. Before it shows, that of `neighbour` stands in: all frames
-  // of a desktop are alike.
+  // Centres the window including its frame. A window that was not shown yet has no frame; then the
+  // frame of `neighbour` is measured instead.
   void centreOn(QPoint centre, const QWidget* neighbour) {
     adjustSize();
     const auto& framed = neighbour ? *neighbour : *this;
@@ -72,7 +73,7 @@ class FormWindow : public QMainWindow {
     const auto outer =
         size() + (hasFrame ? framed.frameGeometry().size() - framed.size() : QSize(0, 0));
     const QPoint corner(centre.x() - outer.width() / 2, centre.y() - outer.height() / 2);
-    // The title and the menus can be reached whatever the size of the screen.
+    // On a screen smaller than the window, the title and the menus stay in reach.
     const auto room = (neighbour ? neighbour : this)->screen()->availableGeometry();
     const QPoint inside(std::max(corner.x(), room.x()), std::max(corner.y(), room.y()));
     move(QGuiApplication::screenAt(corner) ? corner : inside);
@@ -89,10 +90,10 @@ class FormWindow : public QMainWindow {
     if (!watched->isWidgetType()) return false;
     auto* target = static_cast<QWidget*>(watched);
     if (event->type() != QEvent::KeyPress || !TakesInput(*target)) return false;
-    // An event that a control ignores climbs to its parents; the form has seen it by then.
+    // Only the focus widget's own event counts. If it ignores the event, its parents get it too.
     const QWidget* focus = QApplication::focusWidget();
     if (target->window() != this || target != (focus ? focus : this)) return false;
-    // The menu bar under the keyboard keeps its own Escape and Enter.
+    // While the menu bar has the focus, it handles Escape and Enter itself.
     if (qobject_cast<QMenuBar*>(target)) return false;
 
     const auto key = static_cast<QKeyEvent*>(event)->key();
@@ -111,7 +112,8 @@ class FormWindow : public QMainWindow {
   void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { Raise(form_.onDblClick); }
 
  private:
-  // Enter in a control: a push button presses itself, a control of many lines keeps the key.
+  // Handles Enter: a push button in focus is clicked, a control that takes Enter keeps the key, and
+  // else the default button is clicked.
   bool pressButtonFor(QWidget& focus) const {
     if (auto* own = qobject_cast<QPushButton*>(&focus)) {
       own->click();
@@ -126,9 +128,9 @@ class FormWindow : public QMainWindow {
   QEventLoop* loop_ = nullptr;
 };
 
-// The second family is cut to the widths of the first. Naming one that is not there would cost each
-// size and weight a search for one like it. The first question has the system's fonts listed. The
-// size is that of most controls: one of its own would be loaded and never seen.
+// DejaVu Sans has the widths of Verdana. A family that does not exist is not named, because the
+// toolkit would search a substitute for each size and weight. The size is that of most controls, so
+// that no other size is loaded for nothing.
 QFont FormFont() {
   static const auto family = QFontDatabase::hasFamily(QStringLiteral("Verdana"))
                                  ? QStringLiteral("Verdana")
@@ -138,7 +140,8 @@ QFont FormFont() {
   return font;
 }
 
-// The toolkit loads a font when it is first asked for a measure.
+// Loads the control's font before it is painted. The toolkit loads a font when it first measures a
+// text.
 void LoadFontOf(const QWidget& control) {
   static_cast<void>(control.fontMetrics().horizontalAdvance('x'));
 }
@@ -170,7 +173,7 @@ Form::Form(const char* name, Border border, int clientWidth, int clientHeight)
 Form::~Form() = default;
 
 void Form::setTitle(const std::string& title) {
-  // The toolkit takes this mark for one of its own unless it is doubled.
+  // The toolkit replaces "[*]" in a title unless it is doubled.
   native_->window.setWindowTitle(
       ToQString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
@@ -209,7 +212,7 @@ void Form::centreOnScreen() {
   auto& window = native_->window;
   const auto centre = Centre(window.screen()->availableGeometry());
   window.centreOn(centre, nullptr);
-  window.centreOnceShown = centre;  // its frame is known by then
+  window.centreOnceShown = centre;  // when its frame is known
 }
 
 void Form::prepareToShow() {
@@ -218,7 +221,7 @@ void Form::prepareToShow() {
   for (auto* control : native_->window.findChildren<QWidget*>()) {
     control->ensurePolished();
     if (control->testAttribute(Qt::WA_StyleSheet)) {
-      // One with a style of its own takes no family from the form.
+      // A control with a style sheet does not inherit the form's font family.
       auto font = control->font();
       font.setFamily(FormFont().family());
       control->setFont(font);
@@ -244,7 +247,7 @@ void Form::showModal(Form& owner) {
   }
   window.waitUntilClosed();
   window.setParent(nullptr, window.windowFlags());
-  // Some window managers leave no window active when the active one goes.
+  // Some window managers activate no window when the active one closes.
   owner.native_->window.activateWindow();
 }
 

@@ -13,7 +13,7 @@ namespace forms {
 
 enum class Border { FixedSingle, FixedTool, FixedDialog, None };
 
-// A window of fixed size, in twips without its frame. It is created hidden.
+// A window of fixed size. The size is in twips and excludes the frame. It is created hidden.
 class Form : public Container {
  public:
   Form(const char* name, Border border, int clientWidth, int clientHeight);
@@ -22,10 +22,10 @@ class Form : public Container {
   Form& operator=(const Form&) = delete;
 
   void setTitle(const std::string& title);
-  // What assistive technology tells of the window after its title.
+  // The description that assistive technology reports after the window's title.
   void setDescription(const std::string& text);
   void setColours(Colour background, Colour text);
-  // Enter presses it, unless the control in focus takes Enter itself.
+  // The button that Enter presses, unless the control in focus takes Enter itself.
   void setDefaultButton(CommandButton& button);
   // The order in which the Tab key visits these controls.
   static void setTabOrder(const std::vector<const Control*>& controls);
@@ -36,7 +36,7 @@ class Form : public Container {
   void centreOver(const Form& owner);
   void centreOnScreen();
 
-  // Loads fonts, styles and the icon. For a form that is not modal, before it is shown.
+  // Loads fonts, styles and the icon. To be called before `show`; showModal calls it itself.
   void prepareToShow();
   void show();
   // Runs the load step, shows the window over its owner, runs the activation step and returns when

@@ -14,7 +14,7 @@ class Image : public Control {
 
   const Picture& picture() const { return picture_; }
   void setPicture(const Picture& picture);
-  // A flat line round the box, inside it.
+  // A flat line inside the edges of the box.
   void setBorder(bool border);
 
  private:

@@ -13,7 +13,7 @@ namespace {
 
 bool Paused = false;
 
-// What a person does, and what the toolkit makes of it.
+// Whether the event is user input, or made by the toolkit from user input.
 bool IsInput(const QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -40,36 +40,39 @@ bool IsOfMouse(const QEvent& event) {
   return event.type() >= QEvent::MouseButtonPress && event.type() <= QEvent::MouseMove;
 }
 
-// A popup belongs to the window that it was opened from.
+// Whether `other` is the window itself or was opened from it, as popups are.
 bool IsPartOf(const QWidget& window, const QWidget& other) {
   return &window == &other || window.isAncestorOf(&other) ||
          (other.parentWidget() && IsPartOf(window, *other.parentWidget()->window()));
 }
 
-// A key that is held down would go on to answer, close and press what comes next.
+// Recognises repetitions of a key that is held down. They must not press a button or close a window
+// that the first press has brought up.
 class HeldKeys {
  public:
-  // Told of each key event of a window, in their order. Those of its controls are the same once
-  // more.
+  // Must be called for each key event in order. A window gets each event first, its controls get
+  // the same event again.
   bool repeats(const QKeyEvent& event, bool ofWindow) {
     const bool press = event.type() == QEvent::KeyPress;
     if (ofWindow && event.spontaneous()) judge(event, press);
-    return press && (event.isAutoRepeat() ? !fresh_ : ofWindow && event.spontaneous() && untold_);
+    return press &&
+           (event.isAutoRepeat() ? !isNewPress_ : ofWindow && event.spontaneous() && isMissed_);
   }
 
  private:
   void judge(const QKeyEvent& event, bool press) {
     const auto key = event.key();
     const auto time = event.timestamp();
-    // No system waits longer before it repeats a key. One that takes a key for held down all the
-    // same did not see its release, since no window was active then.
+    // No system waits longer before it repeats a key. After a longer time the event is a new press:
+    // the key was released while no window was active, and the system took the press for a
+    // repetition.
     constexpr quint64 kLongestWait = 1200;  // milliseconds
     const auto down = down_.find(key);
-    fresh_ = press && down != down_.end() && time - *down > kLongestWait;
-    // The toolkit misses a repetition where the window system's pair of release and press, which
-    // has one time, comes in two pieces. The copies that come back from assistive technology have
-    // lost their time, and are not judged.
-    untold_ =
+    isNewPress_ = press && down != down_.end() && time - *down > kLongestWait;
+    // The window system reports a repetition as a release and a press with the same time. If the
+    // two arrive separately, the toolkit does not mark the press as a repetition. Copies from
+    // assistive technology have neither scan code nor time and are left out.
+    isMissed_ =
         press && event.nativeScanCode() != 0 && key == released_.key && time == released_.time;
     if (press && (!event.isAutoRepeat() || down != down_.end())) down_.insert(key, time);
     if (press || event.isAutoRepeat()) return;
@@ -77,25 +80,25 @@ class HeldKeys {
     down_.remove(key);
   }
 
-  QHash<int, quint64> down_;  // keys whose release is to come, with the time of their last press
+  QHash<int, quint64> down_;  // keys that are down, with the time of their last press
   struct {
     int key = 0;
     quint64 time = 0;
   } released_;
-  bool fresh_ = false;
-  bool untold_ = false;
+  bool isNewPress_ = false;  // although the event is marked as a repetition
+  bool isMissed_ = false;    // a repetition that is not marked as one
 };
 
-// A drop-down list closes at the question whether a key is a shortcut. The key press behind it is
-// meant for the list too, but where the window system has no grab by popups it comes to the window
-// below.
+// Drops a key press that was meant for a drop-down list. The list closes already at the
+// ShortcutOverride event before the key press. On window systems where popups do not grab the
+// keyboard, the key press then reaches the window below.
 class PopupKeys {
  public:
-  // Told of each question, which climbs from a control to its parents.
-  void asked(const QKeyEvent& question) {
+  // Must be called for each ShortcutOverride event. A control's parents get the same event again.
+  void shortcutOverride(const QKeyEvent& event) {
     if (QApplication::activePopupWidget())
-      taken_ = {question.key(), question.timestamp()};
-    else if (question.timestamp() != taken_.time)
+      taken_ = {event.key(), event.timestamp()};
+    else if (event.timestamp() != taken_.time)
       taken_ = {};
   }
   bool drops(const QKeyEvent& key) {
@@ -110,22 +113,22 @@ class PopupKeys {
   } taken_;
 };
 
-// The second click of a double click is meant for what stood there at the first one, not for what
-// came up since because a window opened or closed.
+// Drops the second click of a double click if a window has opened or closed since the first one.
+// The click is not meant for what is there now.
 class SecondClicks {
  public:
   void windowOpenedOrClosed() { windowsChanged_ = true; }
 
   bool drops(const QMouseEvent& event) {
     if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick)
-      dropping_ = goesThrough(event);
+      dropping_ = hitsOtherWindow(event);
     if (event.type() != QEvent::MouseButtonRelease) return dropping_;
     released_ = true;
     return std::exchange(dropping_, false);
   }
 
  private:
-  bool goesThrough(const QMouseEvent& press) {
+  bool hitsOtherWindow(const QMouseEvent& press) {
     const auto& hints = *QGuiApplication::styleHints();
     const auto place = press.globalPosition().toPoint();
     const bool follows =
@@ -140,9 +143,9 @@ class SecondClicks {
 
   quint64 time_ = 0;  // of the last press, in milliseconds
   QPoint place_;
-  bool windowsChanged_ = false;  // since the last press that no other one led up to
+  bool windowsChanged_ = false;  // since the last press that was no second click
   bool released_ = false;
-  bool dropping_ = false;  // what belongs to a press, up to its release
+  bool dropping_ = false;  // all events of a press up to its release
 };
 
 class Guard : public QObject {
@@ -153,13 +156,14 @@ class Guard : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     const auto type = event->type();
     const bool key = type == QEvent::KeyPress || type == QEvent::KeyRelease;
-    // Told of every key and click, also of those that are dropped for another reason.
+    // The three members below must see every key and click, also those dropped for other reasons.
     if (key) {
       const auto& pressed = *static_cast<QKeyEvent*>(event);
       const bool repeated = repeats(pressed, watched->isWindowType());
       if (popupKeys_.drops(pressed) || repeated) return true;
     }
-    if (type == QEvent::ShortcutOverride) popupKeys_.asked(*static_cast<QKeyEvent*>(event));
+    if (type == QEvent::ShortcutOverride)
+      popupKeys_.shortcutOverride(*static_cast<QKeyEvent*>(event));
     const bool ofWidget = watched->isWidgetType();
     if (IsOfMouse(*event) && (ofWidget || Paused) &&
         clicks_.drops(*static_cast<QMouseEvent*>(event)))
@@ -173,8 +177,9 @@ class Guard : public QObject {
 
  private:
   bool repeats(const QKeyEvent& event, bool ofWindow) {
-    // The bridge to assistive technology takes each key and gives a copy back later. This guard has
-    // to stand before it: a key of a pause must not come back behind it.
+    // The bridge to assistive technology takes each key event and sends a copy later. Installing
+    // this filter again puts it in front of the bridge's filter, so that a key pressed during a
+    // pause is dropped here and does not come back after it.
     if (ofWindow && !event.spontaneous())
       QMetaObject::invokeMethod(
           this, [this] { qApp->installEventFilter(this); }, Qt::QueuedConnection);
@@ -182,7 +187,7 @@ class Guard : public QObject {
     return held && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_Return ||
                     event.key() == Qt::Key_Enter);
   }
-  // Menus and the lists of drop-downs open under a click and close at the next one as they should.
+  // Menus and drop-down lists do not count: they rightly open at one click and close at the next.
   static bool opensAndCloses(const QWidget& widget) {
     const auto type = widget.windowType();
     return widget.isWindow() && type != Qt::Popup && type != Qt::ToolTip;

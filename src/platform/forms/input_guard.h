@@ -1,5 +1,5 @@
-// Decides whether what a person does is obeyed, whether it comes by mouse, by keys or from
-// assistive technology. Shared by the sources of this folder; no other code includes it.
+// Decides whether user input is obeyed, whether it comes by mouse, by keys or from assistive
+// technology. Shared by the sources of this folder; no other code includes it.
 #pragma once
 
 #include <functional>
@@ -9,15 +9,15 @@ class QWidget;
 
 namespace forms {
 
-// Every event of the application passes the guard from then on, and input that must not act is
-// dropped.
+// Installs the guard as a filter of all events of the application. It drops input that must not
+// act.
 void GuardInput(QApplication& application);
 
-// Whether a person may use the widget now: its window is open, no modal window blocks it, and no
-// InputPause lasts.
+// Whether the user may use the widget now: its window is open, no modal window blocks it, and there
+// is no InputPause.
 bool TakesInput(const QWidget& widget);
 
-// What a person does while one lives is dropped.
+// User input is dropped while an object of this class exists.
 class InputPause {
  public:
   InputPause();
@@ -29,8 +29,9 @@ class InputPause {
   bool before_;
 };
 
-// What assistive technology asks of a widget. It is done later, since what it opens may stay for
-// long and the caller waits; and only if the widget takes input both now and then.
+// Carries out what assistive technology asks of a widget, if the widget takes input both now and at
+// that time. It runs later from the event loop, because the caller waits for an answer and the
+// action may open a window that stays for long.
 void PressLater(QWidget& widget, std::function<void()> press);
 
 }  // namespace forms

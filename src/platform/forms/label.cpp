@@ -15,10 +15,11 @@
 namespace forms {
 namespace {
 
-// The text in lines that fit. What is too much ends in an ellipsis on the last line that is whole.
+// Breaks the text into lines that fit. If there is too much, the last whole line ends in an
+// ellipsis.
 QString Wrapped(const QString& text, const QFont& font, const QSize& room) {
   const QFontMetrics metrics(font);
-  const auto mostLines = std::max(room.height() / metrics.lineSpacing(), 1);
+  const auto maxLines = std::max(room.height() / metrics.lineSpacing(), 1);
   QTextOption option;
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QTextLayout layout(text, font);
@@ -27,7 +28,7 @@ QString Wrapped(const QString& text, const QFont& font, const QSize& room) {
   layout.beginLayout();
   for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(room.width());
-    const bool last = lines.size() + 1 == mostLines;
+    const bool last = lines.size() + 1 == maxLines;
     const auto rest = text.mid(line.textStart());
     lines << (last ? metrics.elidedText(rest, Qt::ElideRight, room.width())
                    : rest.left(line.textLength()).trimmed());
@@ -74,7 +75,8 @@ class NativeLabel : public QLabel {
       shown = Wrapped(shown, font(), room.size());
     else if (!shown.contains('\n'))
       shown = fitted(painter, shown, room.width());
-    // The toolkit takes no room for a blank at the end of a line, unless it is one of these.
+    // The toolkit ignores a space at the end of a line when it aligns the text, but not a
+    // non-breaking one.
     static const QRegularExpression lastBlank(QStringLiteral(" (?=\n|$)"));
     shown.replace(lastBlank, QChar(QChar::Nbsp));
     style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(),
@@ -118,7 +120,7 @@ Label::Label(Container& parent, const char* name, const Box& box, const std::str
                           : align == Align::Centre ? Qt::AlignHCenter
                                                    : Qt::AlignRight;
   Native(widget())->setAlignment(horizontal | Qt::AlignTop);
-  // An accent on a capital needs a little more room than the line has, where there is any.
+  // If the box is high enough, leaves a pixel for accents on capitals, which exceed the line.
   if (ToPixels(box.height) * 3 >= widget()->font().pixelSize() * 4)
     widget()->setContentsMargins(0, 1, 0, 0);
   setCaption(caption);

@@ -10,8 +10,8 @@ namespace forms {
 // Spread: the pieces between runs of blanks go to the left end, the middle and the right end.
 enum class Align { Left, Centre, Right, Spread };
 
-// A text that is shown as it stands. A single line too long for its box is set a little smaller,
-// and ends in an ellipsis if that is not enough.
+// Plain text. If a single line is too long for its box, its font becomes a little smaller, and if
+// that is not enough it ends in an ellipsis.
 class Label : public Control {
  public:
   Label(Container& parent, const char* name, const Box& box, const std::string& caption = {},
@@ -20,13 +20,13 @@ class Label : public Control {
   std::string caption() const;
   void setCaption(const std::string& caption);
 
-  // Wrapped text keeps a little off the edges of its box. Too long for it, the text ends in an
-  // ellipsis on the last whole line.
+  // Wrapped text has a small margin. If it is too long for its box, the last whole line ends in an
+  // ellipsis.
   void setWordWrap(bool wrap);
   // A line round the label.
   void setBorder(bool border);
-  // Makes the label a link: link colour, reached and pressed by keys too, as wide as its text
-  // needs.
+  // Makes the label a link: it has the link colour, can be focused and pressed by keys, and is as
+  // wide as its text.
   void makeLink();
 
   std::function<void()> onClick;

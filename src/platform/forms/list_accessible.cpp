@@ -15,12 +15,12 @@
 namespace forms {
 namespace {
 
-// A list or a drop-down, with its rows as children. A new name of a row is told.
+// A list or a drop-down, with its rows as children. Changed names of rows are announced.
 class RowsInterface : public QAccessibleWidget {
  public:
   RowsInterface(QWidget* widget, QAccessible::Role role, QAbstractItemModel* model)
       : QAccessibleWidget(widget, role), model_(model) {
-    const auto changed = [this] { tellNamesLater(); };
+    const auto changed = [this] { announceNamesLater(); };
     QObject::connect(model, &QAbstractItemModel::dataChanged, &connections_, changed);
     QObject::connect(model, &QAbstractItemModel::rowsInserted, &connections_, changed);
     QObject::connect(model, &QAbstractItemModel::rowsRemoved, &connections_, changed);
@@ -55,46 +55,47 @@ class RowsInterface : public QAccessibleWidget {
   }
 
  protected:
-  void tellFocus() const {
+  void announceFocus() const {
     if (auto* row = focusChild()) {
       QAccessibleEvent focus(row, QAccessible::Focus);
       QAccessible::updateAccessibility(&focus);
     }
   }
 
-  QObject connections_;  // end with the interface
+  QObject connections_;  // the connections end with this interface
 
  private:
   struct Row {
     QAccessible::Id id;
-    QString told;
+    QString announced;  // the name that was last announced
   };
 
-  // Once all that changes together has changed.
-  void tellNamesLater() {
-    if (rows_.empty() || std::exchange(telling_, true)) return;
+  // Waits until all changes of the present event are done.
+  void announceNamesLater() {
+    if (rows_.empty() || std::exchange(isScheduled_, true)) return;
     QMetaObject::invokeMethod(
-        &connections_, [this] { tellNames(); }, Qt::QueuedConnection);
+        &connections_, [this] { announceNames(); }, Qt::QueuedConnection);
   }
-  void tellNames() {
-    telling_ = false;
+  void announceNames() {
+    isScheduled_ = false;
     for (auto& row : rows_) {
       auto* interface = QAccessible::accessibleInterface(row.id);
       if (!interface->isValid()) continue;
-      const auto before = std::exchange(row.told, interface->text(QAccessible::Name));
-      if (row.told == before) continue;
+      const auto before = std::exchange(row.announced, interface->text(QAccessible::Name));
+      if (row.announced == before) continue;
       QAccessibleEvent event(interface, QAccessible::NameChanged);
       QAccessible::updateAccessibility(&event);
-      if (interface->state().focused) tellFocusAnew(row);
+      if (interface->state().focused) announceAsNewRow(row);
     }
   }
-  // Screen readers pass over the new name of a row that they know, and speak a row that they don't.
-  void tellFocusAnew(Row& row);
+  // Screen readers ignore a changed name of a row that they know, but speak a new row. So the row
+  // gets a new interface.
+  void announceAsNewRow(Row& row);
 
   QPointer<QAbstractItemModel> model_;
   mutable std::vector<Row> rows_;
-  std::vector<QAccessible::Id> former_;  // answer whoever holds them still
-  bool telling_ = false;
+  std::vector<QAccessible::Id> former_;  // replaced interfaces, which clients may still use
+  bool isScheduled_ = false;
 };
 
 class RowInterface : public QAccessibleInterface, public QAccessibleActionInterface {
@@ -107,8 +108,8 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
         }) {}
 
   int row() const { return row_; }
-  // Another stands for the row from then on.
-  void markRemoved() { former_ = true; }
+  // To be called when another interface has replaced this one.
+  void markReplaced() { isReplaced_ = true; }
 
   bool isValid() const override { return control_ && row_ < rows().childCount(); }
   QObject* object() const override { return nullptr; }
@@ -137,13 +138,13 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
     return isValid() ? rows().textOf(row_, kind) : QString();
   }
   void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
-  QRect rect() const override { return isValid() && !former_ ? rows().rectOf(row_) : QRect(); }
+  QRect rect() const override { return isValid() && !isReplaced_ ? rows().rectOf(row_) : QRect(); }
   void* interface_cast(QAccessible::InterfaceType type) override {
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
                                                 : attributes_.cast(type);
   }
 
-  // Windows toggles a row that it is asked to select.
+  // On Windows, a request to select a row arrives as the toggle action.
   QStringList actionNames() const override { return {pressAction(), toggleAction()}; }
   void doAction(const QString& name) override {
     if (!actionNames().contains(name) || !isValid() || state().disabled) return;
@@ -166,7 +167,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   QPointer<QWidget> control_;
   int row_;
   AccessibleAttributes attributes_;
-  bool former_ = false;
+  bool isReplaced_ = false;
 };
 
 int RowsInterface::indexOfChild(const QAccessibleInterface* child) const {
@@ -174,11 +175,11 @@ int RowsInterface::indexOfChild(const QAccessibleInterface* child) const {
   return own ? static_cast<const RowInterface*>(child)->row() : -1;
 }
 
-void RowsInterface::tellFocusAnew(Row& row) {
+void RowsInterface::announceAsNewRow(Row& row) {
   former_.push_back(row.id);
-  static_cast<RowInterface*>(QAccessible::accessibleInterface(row.id))->markRemoved();
+  static_cast<RowInterface*>(QAccessible::accessibleInterface(row.id))->markReplaced();
   row.id = QAccessible::registerAccessibleInterface(new RowInterface(widget(), currentRow()));
-  tellFocus();
+  announceFocus();
 }
 
 QAccessibleInterface* RowsInterface::child(int row) const {
@@ -199,7 +200,7 @@ class ListInterface : public RowsInterface {
           return {{QStringLiteral("setsize"), QString::number(childCount())}};
         }) {}
 
-  // Screen readers count the rows in sight where they are not told how many there are.
+  // Without the attribute for the number of rows, screen readers count the visible ones.
   void* interface_cast(QAccessible::InterfaceType type) override {
     auto* attributes = attributes_.cast(type);
     return attributes ? attributes : RowsInterface::interface_cast(type);
@@ -222,7 +223,7 @@ class ListInterface : public RowsInterface {
     const auto inside = list()->visualItemRect(list()->item(row));
     return {list()->viewport()->mapToGlobal(inside.topLeft()), inside.size()};
   }
-  // What a double click does.
+  // Does what a double click does.
   void press(int row) override {
     choose(row);
     Q_EMIT list()->itemDoubleClicked(list()->item(row));
@@ -235,8 +236,8 @@ class ListInterface : public RowsInterface {
   AccessibleAttributes attributes_;
 };
 
-// The toolkit gives a drop-down its value for a name, and tells of no row that the keys choose
-// while the list is closed.
+// Replaces the toolkit's interface, which reports a drop-down's value as its name, and does not
+// announce a row that is chosen by keys while the list is closed.
 class ComboInterface : public RowsInterface {
  public:
   explicit ComboInterface(QComboBox* box)
@@ -245,10 +246,10 @@ class ComboInterface : public RowsInterface {
         attributes_([box]() -> AttributeValues {
           return {{QStringLiteral("valuetext"), box->currentText()}};
         }) {
-    const auto tell = [this] {
-      if (!this->box()->view()->isVisible()) tellFocus();
+    const auto announceRow = [this] {
+      if (!this->box()->view()->isVisible()) announceFocus();
     };
-    QObject::connect(box, &QComboBox::currentIndexChanged, &connections_, tell,
+    QObject::connect(box, &QComboBox::currentIndexChanged, &connections_, announceRow,
                      Qt::QueuedConnection);
   }
 

@@ -3,8 +3,9 @@
 
 namespace forms {
 
-// From then on assistive technology sees each list as a list of rows that can be pressed, which
-// does what a double click does, and each drop-down as a control with a name, a value and rows.
+// Registers the interfaces of lists and drop-downs. For assistive technology, a list then has rows
+// that can be pressed, which does what a double click does, and a drop-down has a name, a value and
+// rows.
 void MakeListsAccessible();
 
 }  // namespace forms

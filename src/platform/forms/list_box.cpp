@@ -75,29 +75,29 @@ class NativeList : public RingedView<QListWidget, 2> {
     ShowPlainToolTip(help, item ? toolTipOf(*item) : QString(), *this);
     return true;
   }
-  // One row at a time, and no click or key takes the selection away.
+  // A click or key selects one row and never removes the selection.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* /*event*/) const override {
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
   }
-  // Assistive technology is told of the rows of the list in focus only, and after the list of the
-  // row that it was entered at.
+  // Announces a row to assistive technology only if the list has the focus.
   void currentChanged(const QModelIndex& now, const QModelIndex& before) override {
     if (hasFocus())
       QListWidget::currentChanged(now, before);
     else
-      QAbstractItemView::currentChanged(now, before);  // NOLINT: not what the list adds to it
+      QAbstractItemView::currentChanged(now, before);  // NOLINT: skips QListWidget's announcement
   }
   void focusInEvent(QFocusEvent* event) override {
     RingedView::focusInEvent(event);
     chooseFocusedRow(event->reason());
-    const auto tellRow = [this] {
+    const auto announceRow = [this] {
       if (!hasFocus() || currentRow() < 0) return;
       QAccessibleEvent focus(this, QAccessible::Focus);
       focus.setChild(currentRow());
       QAccessible::updateAccessibility(&focus);
     };
-    QMetaObject::invokeMethod(this, tellRow, Qt::QueuedConnection);
+    // The list itself is announced first.
+    QMetaObject::invokeMethod(this, announceRow, Qt::QueuedConnection);
   }
   void mousePressEvent(QMouseEvent* event) override {
     const auto* pressed = itemAt(event->pos());
@@ -122,8 +122,8 @@ class NativeList : public RingedView<QListWidget, 2> {
   }
 
  private:
-  // The toolkit gives the focus to the first row without selecting it, so that keys would start
-  // from a row that they don't act on.
+  // The toolkit makes the first row the current one without selecting it. Keys would then start
+  // from a row that is not the selected one.
   void chooseFocusedRow(Qt::FocusReason reason) {
     if (list_.selectedRow() >= 0) return;
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)

@@ -9,24 +9,24 @@ namespace forms {
 
 enum class Sorting { No, IgnoringCase };
 
-// Rows of text, each with an integer that travels with it. At most one row is selected; only the
-// program can take the selection away. Where none is, entering the list by the Tab key selects one.
-// Rows that are not there are a failure.
+// Rows of text, each with an integer that stays with its row. At most one row is selected; only the
+// program can remove the selection. If no row is selected, entering the list by the Tab key selects
+// one. Functions throw if there is no such row.
 class ListBox : public Control {
  public:
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
           const FontStyle& font = {});
 
-  // None of these four raises an event, and removing the selected row leaves none selected. A list
-  // that becomes empty loses its tool tip.
+  // These four raise no event. Removing the selected row leaves none selected. A list that becomes
+  // empty loses its tool tip.
   void clear();
-  int add(const std::string& text);  // the row at which it was placed
+  int add(const std::string& text);  // returns the new row's number
   void remove(int row);
   void setText(int row, const std::string& text);
-  // The row is drawn in a quieter colour, and can be chosen like any other.
+  // Draws the row in a colour closer to the background. It can be chosen like any other.
   void makeQuiet(int row);
 
-  // The row stays, but neither the user nor assistive technology can choose it.
+  // Keeps the row, but neither the user nor assistive technology can choose it.
   void disable(int row);
 
   int count() const;
@@ -39,25 +39,26 @@ class ListBox : public Control {
   int topRow() const;
   void setTopRow(int row);
 
-  // Without its own scroll bar the list is moved by keys, the wheel, or the program.
+  // Without its scroll bar the list can be scrolled by keys, the wheel, or the program.
   void hideScrollBar();
 
-  // F2 acts as a double click.
+  // Makes F2 act as a double click.
   void takeF2();
 
   std::function<void()> onClick;
   std::function<void()> onDblClick;  // on a row; also a press by assistive technology
   std::function<void()> onDelete;    // the Delete key
   std::function<void()> onScroll;
-  // What assistive technology tells of a row besides its text. It is asked for as it is needed.
+  // Returns the description of a row for assistive technology. It is called whenever one is needed.
   std::function<std::string(int row)> descriptionOf;
-  // What assistive technology calls a row without a text.
+  // The name of a row without a text for assistive technology.
   std::string emptyRowName;
-  // The tool tip of a row, as plain text. Without it, a text that is cut off has itself as tip.
+  // Returns the tool tip of a row, as plain text. If it is not set, a text that is cut off is its
+  // own tool tip.
   std::function<std::string(int row)> toolTipOf;
 
  protected:
-  // Enter acts as a double click instead of pressing the form's default button.
+  // Makes Enter act as a double click instead of pressing the form's default button.
   void takeEnter();
 
  private:

@@ -1,4 +1,4 @@
-// What marks the control in focus and the chosen one, told from its surroundings on any desktop.
+// Marks the control in focus and the chosen button, with enough contrast on any desktop.
 #include <QEvent>
 #include <QPainter>
 #include <QWidget>
@@ -10,10 +10,11 @@
 namespace forms {
 namespace {
 
-// 3 is what is asked for; what a style paints is a little off its palette's colours.
+// Guidelines require 3. The rest makes up for styles that do not paint exactly their palette's
+// colours.
 constexpr double kMarkContrast = 5;
 
-// As the guidelines for accessible contents measure it.
+// The relative luminance of the web's accessibility guidelines (WCAG).
 double Luminance(const QColor& colour) {
   const auto linear = [](double part) {
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);

@@ -36,7 +36,7 @@ const QWidget& BarOf(const QAction& action) {
 
 constexpr const char* kOpensProperty = "opensFromBar";
 
-// Whether the menu is being opened from the bar, which may make its first item the active one.
+// Whether the item's menu is being opened from the bar.
 bool IsOpening(const QAction& item) { return item.parent()->property(kOpensProperty).toBool(); }
 
 void WatchOpening(QMenu& menu) {
@@ -48,7 +48,7 @@ void WatchOpening(QMenu& menu) {
   });
 }
 
-// Screen readers speak the name of a menu that they come into. The toolkit gives it none.
+// Screen readers speak the name of a menu when it is entered. The toolkit gives menus no name.
 void NameMenu(const QAction& action) {
   static const QRegularExpression accessKey(QStringLiteral("&(.)"));
   if (auto* menu = action.menu()) menu->setAccessibleName(action.text().replace(accessKey, "\\1"));
@@ -69,29 +69,29 @@ QMenu& MenuOf(QAction& action) {
   return *action.menu();
 }
 
-void TellFocus(const QAction& action) {
+void AnnounceFocus(const QAction& action) {
   auto* holder = static_cast<QWidget*>(action.parent());
   QAccessibleEvent focus(holder, QAccessible::Focus);
   focus.setChild(static_cast<int>(holder->actions().indexOf(&action)));
   QAccessible::updateAccessibility(&focus);
 }
 
-void TellIfActive(const QAction& action) {
+void AnnounceIfActive(const QAction& action) {
   const auto* holder = static_cast<const QWidget*>(action.parent());
   const auto* menu = qobject_cast<const QMenu*>(holder);
   const auto* active =
       menu ? menu->activeAction() : static_cast<const QMenuBar*>(holder)->activeAction();
-  if (active == &action && QApplication::activePopupWidget() == menu) TellFocus(action);
+  if (active == &action && QApplication::activePopupWidget() == menu) AnnounceFocus(action);
 }
 
-// A menu that opens has the control with the focus told of once more, behind its own first item. So
-// the item is told again. If the menu came from the bar, its name is told before: a screen reader
-// breaks off the name where the item follows at once.
-void TellAgain(QAction& action, bool opensMenu) {
-  if (!opensMenu) return TellIfActive(action);
+// When a menu opens, the toolkit announces the control in focus after the menu's first item, so the
+// item is announced again. If the menu was opened from the bar, its name is announced first, with a
+// pause after it, because a screen reader stops speaking the name when the item follows at once.
+void AnnounceAgain(QAction& action, bool opensMenu) {
+  if (!opensMenu) return AnnounceIfActive(action);
   constexpr int kNameMilliseconds = 1000;
-  TellFocus(*static_cast<const QMenu*>(action.parent())->menuAction());
-  QTimer::singleShot(kNameMilliseconds, &action, [&action] { TellIfActive(action); });
+  AnnounceFocus(*static_cast<const QMenu*>(action.parent())->menuAction());
+  QTimer::singleShot(kNameMilliseconds, &action, [&action] { AnnounceIfActive(action); });
 }
 
 }  // namespace
@@ -116,11 +116,11 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
     if (TakesInput(BarOf(*action_)))
       Raise(onClick);
     else
-      action_->setChecked(action_->isCheckable());  // only a ticked one can be unticked
+      action_->setChecked(action_->isCheckable());  // restores it: only ticked items are checkable
   });
   QObject::connect(action_, &QAction::hovered, action_, [this] {
-    const auto tell = [this, opens = IsOpening(*action_)] { TellAgain(*action_, opens); };
-    QMetaObject::invokeMethod(action_, tell, Qt::QueuedConnection);
+    const auto announce = [this, opens = IsOpening(*action_)] { AnnounceAgain(*action_, opens); };
+    QMetaObject::invokeMethod(action_, announce, Qt::QueuedConnection);
   });
 }
 

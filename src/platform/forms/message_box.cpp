@@ -60,11 +60,11 @@ Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std:
       {QMessageBox::Cancel, cancel}};
   for (const auto& [standard, caption] : captions)
     if (auto* button = box.button(standard)) button->setText(ToQString(caption));
-  // Which button Enter presses would depend on the desktop's order of them.
+  // Otherwise the desktop's order of the buttons would decide which one Enter presses.
   box.setDefaultButton(buttons == Buttons::Ok ? QMessageBox::Ok : QMessageBox::Yes);
   if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();
-  // Some window managers leave no window active when the active one goes.
+  // Some window managers activate no window when the active one closes.
   if (owner) owner->activateWindow();
   switch (answer) {
     case QMessageBox::Yes:

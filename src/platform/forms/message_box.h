@@ -8,12 +8,12 @@ enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class BoxIcon { None, Question, Exclamation, Critical };
 enum class Answer { Ok, Yes, No, Cancel };
 
-// What the buttons are called, access keys included.
+// The captions of the buttons. "&" marks the access key.
 struct AnswerCaptions {
   std::string ok, yes, no, cancel;
 };
 
-// For all boxes from then on.
+// Sets the captions for all later boxes.
 void NameAnswers(AnswerCaptions captions);
 
 // Shows a message over the active window and waits for the answer. Closing the box answers Cancel

@@ -22,7 +22,7 @@ namespace forms {
 struct Box;
 struct FontStyle;
 
-// Runs an event's procedure, if the form has one. Its failures end here.
+// Runs an event's procedure, if the form has set one. This is the error boundary of all events.
 template <class Handler, class... Arguments>
 void Raise(const Handler& handler, Arguments&&... arguments) {
   if (handler) base::RunGuarded([&] { handler(std::forward<Arguments>(arguments)...); });
@@ -33,23 +33,23 @@ QRect ToPixels(const Box& box);
 QFont ToFont(const FontStyle& style);
 QString ToQString(const std::string& text);
 
-// The colour, made lighter or darker until it stands out from the background.
+// The colour, made lighter or darker until it has this contrast to the background.
 QColor WithContrast(const QColor& colour, const QColor& background, double contrast);
 
-// The palette with selected text that can be read.
+// The palette, changed so that selected text is readable.
 QPalette WithReadableSelection(QPalette palette);
 
-// A line inside the edges of a box. It covers whole pixels of the screen, those that a filled box
-// covers: on a scaled screen an edge may lie within one.
+// Paints a line inside the edges of a box. On a scaled screen, an edge may lie within a pixel; the
+// line covers the whole pixels that a filled box would cover.
 void PaintLineInside(QPainter& painter, const QRect& box, const QColor& colour, int pixels);
 
 // Marks a widget that has the focus.
 void PaintFocusRing(QWidget& on, int pixels = 2);
 
-// Marks one of several buttons as the chosen one, by a bar at its lower edge.
+// Marks the chosen one of several buttons by a bar at its lower edge.
 void PaintChosenMark(QWidget& on);
 
-// A control of the toolkit whose style hardly shows the focus.
+// Adds a focus ring to a control of the toolkit whose style hardly shows the focus.
 template <class Native>
 class Ringed : public Native {
  public:
@@ -62,16 +62,15 @@ class Ringed : public Native {
   }
 };
 
-// Paints the frame of a view, or the focus ring, round its contents and this many pixels above and
+// Paints the frame of a view, or its focus ring, around its contents, `margin` pixels above and
 // below them. `on` is the view itself or its viewport.
 void PaintViewEdge(const QWidget& view, QWidget& on, const QRect& contents, int margin);
 
 bool IsPaint(const QEvent& event);
 bool IsFocusChange(const QEvent& event);
 
-// A view with a frame or the focus ring round its contents. Neither touches the first or the last
-// row, from which they keep the given pixels; at the sides they are painted on the contents, which
-// have margins of their own there.
+// A view with a frame, or the focus ring, around its contents. Both keep kMargin pixels from the
+// first and the last row. At the sides they are painted on the rows, which have margins there.
 template <class View, int kMargin>
 class RingedView : public View {
  public:
@@ -85,7 +84,7 @@ class RingedView : public View {
     View::paintEvent(event);
     PaintViewEdge(*this, *this->viewport(), this->viewport()->rect(), kMargin);
   }
-  // The view itself has the margins.
+  // The margins belong to the view itself, not to its viewport.
   bool event(QEvent* event) override {
     const bool handled = View::event(event);
     if (kMargin > 0 && IsPaint(*event))
@@ -100,7 +99,7 @@ class RingedView : public View {
   }
 };
 
-// Shows the text in a tool tip as it stands, or none for an empty text.
+// Shows the text as a plain-text tool tip, or none if it is empty.
 void ShowPlainToolTip(const QHelpEvent& at, const QString& text, QWidget& on);
 
 // Makes the control handle Enter itself instead of pressing the form's default button.

@@ -16,8 +16,8 @@ namespace {
 
 QAbstractButton* Native(QWidget* widget) { return static_cast<QAbstractButton*>(widget); }
 
-// Arrow keys choose the neighbour. The toolkit would click it before it gets the focus, and so take
-// the focus back from where the click put it.
+// Arrow keys choose the neighbour. The toolkit would first click it and then focus it, and so
+// undo a change of focus that the click's event made.
 template <class Native>
 class Choice : public Ringed<Native> {
  public:

@@ -8,9 +8,9 @@
 
 namespace forms {
 
-// One of several choices: the buttons of one container whose names differ only in their index
-// exclude each other. Becoming the selected one raises its click, by whomever, and so does the
-// user's click on the selected one.
+// One of several choices. Of the buttons in a container whose names differ only in their index, one
+// is selected. A button raises its click when the user or the program selects it, and when the user
+// clicks it while it is selected.
 class OptionButton : public Control {
  public:
   OptionButton(Container& parent, const char* name, const Box& box, const std::string& caption,
@@ -29,7 +29,7 @@ class OptionButton : public Control {
  private:
   void joinGroup();
 
-  bool clickRaised_ = false;  // by the change of state that the present click made
+  bool clickRaised_ = false;  // the present mouse click has raised onClick already
 };
 
 }  // namespace forms

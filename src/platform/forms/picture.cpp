@@ -23,15 +23,15 @@ struct Picture::Data {
 
 namespace {
 
-// What a file may cost. A JPEG that is stored in scans is kept whole in memory while it is decoded,
-// and each scan goes over all of it.
+// Limits on memory and time. A progressive JPEG is kept in memory as a whole while it is decoded,
+// and each of its scans processes all of it.
 constexpr long long kLargestFile = 64 << 20;
 constexpr int kLargestSide = 16384;
-constexpr qint64 kMostPixels = 40'000'000;
-constexpr qsizetype kMostScans = 64;
+constexpr qint64 kMaxPixels = 40'000'000;
+constexpr qsizetype kMaxScans = 64;
 
-// Goes from segment to segment up to the end mark; what stands behind that is no part of the
-// picture. The decoder would fill up what is missing of a file that was cut off.
+// Throws if the JPEG has too many scans, or no end mark because it was cut off, which the decoder
+// would accept. Bytes after the end mark are ignored.
 void CheckScans(const QByteArray& jpeg) {
   constexpr auto kStart = 0xD8, kEnd = 0xD9, kScan = 0xDA, kFirstRestart = 0xD0, kAlone = 0x01;
   const auto byte = [&](qsizetype at) {
@@ -40,22 +40,23 @@ void CheckScans(const QByteArray& jpeg) {
   };
   int scans = 0;
   for (qsizetype at = 0;;) {
-    // The coded data of a scan has no mark but restarts; a zero says that the byte before is data.
+    // Skips coded data. In it, FF is a data byte if a zero follows.
     while (byte(at) != 0xFF || byte(at + 1) == 0xFF || byte(at + 1) == 0) ++at;
     const auto mark = byte(at + 1);
     at += 2;
     if (mark == kEnd) return;
     if (mark == kAlone || (mark >= kFirstRestart && mark <= kStart)) continue;
-    if (mark == kScan && ++scans > kMostScans) throw base::Failure("too many scans");
+    if (mark == kScan && ++scans > kMaxScans) throw base::Failure("too many scans");
     at += byte(at) << 8 | byte(at + 1);
   }
 }
 
-// Moves the reader to the frame whose width is nearest to the one asked for. The count in the file
-// may be made up: no more frames are looked at than a file of this size has room to list.
+// Moves the reader to the frame whose width is nearest to `wantedWidth`. The number of frames in
+// the file may be wrong, so no more are looked at than a file of this size can list.
 void ChooseFrame(QImageReader& reader, int wantedWidth) {
-  constexpr qint64 kListEntry = 16;
-  const auto frames = std::min<qint64>(reader.imageCount(), reader.device()->size() / kListEntry);
+  constexpr qint64 kListEntryBytes = 16;
+  const auto frames =
+      std::min<qint64>(reader.imageCount(), reader.device()->size() / kListEntryBytes);
   int best = 0;
   int bestDistance = kLargestSide;
   for (int frame = 0; frame < frames && reader.jumpToImage(frame); ++frame) {
@@ -68,7 +69,7 @@ void ChooseFrame(QImageReader& reader, int wantedWidth) {
   reader.jumpToImage(best);
 }
 
-// Told the format, the toolkit does not load all its decoders to find the right one.
+// With the format given, the toolkit does not load all its decoders to find the right one.
 QPixmap ReadAsset(const char* name, const char* format) {
   QImageReader reader(QStringLiteral(":/%1.%2").arg(QLatin1String(name), QLatin1String(format)),
                       format);
@@ -102,7 +103,7 @@ Picture Picture::FromFile(const std::string& path, const char* format, int width
   if (isIcon) ChooseFrame(reader, wanted.width());
   const auto size = reader.size();
   if (size.width() > kLargestSide || size.height() > kLargestSide ||
-      qint64{size.width()} * size.height() > kMostPixels)
+      qint64{size.width()} * size.height() > kMaxPixels)
     throw base::Failure("picture too large");
   if (!isIcon) reader.setScaledSize(wanted);
   auto image = reader.read();
@@ -120,7 +121,7 @@ Picture Picture::FromIcon(const std::string& path, int size) {
   return FromFile(path, "ico", size, 0);
 }
 
-// Decoded once, since a dialog is made anew each time it is opened.
+// Each picture is decoded only once, although a dialog is created anew at each opening.
 Picture Picture::FromAsset(const std::string& name) {
   static std::map<std::string, Picture> decoded;
   auto& picture = decoded[name];

@@ -15,16 +15,17 @@ class Picture {
   // can't be decoded as a JPEG, was cut off, or would cost too much memory or time.
   static Picture FromJpeg(const std::string& path, int width, int height);
 
-  // The frame of an icon file that comes nearest to a square of `size` twips. Throws likewise.
+  // The frame of an icon file that is nearest to a square of `size` twips. Throws likewise.
   static Picture FromIcon(const std::string& path, int size);
 
-  // A picture of the program's own, by its file name.
+  // A picture that is built into the program, by its file name.
   static Picture FromAsset(const std::string& name);
 
-  // What stands for a snapshot that a game doesn't have.
+  // The picture for games without a snapshot.
   static Picture DefaultSnapshot();
 
-  // The program's icon as a square of `size` twips, with all its sizes for windows.
+  // The program's icon as a square of `size` twips. Its Data also has the icon for windows in all
+  // sizes.
   static Picture ProgramIcon(int size);
 
   struct Data;

@@ -10,7 +10,7 @@ namespace forms {
 
 const QPixmap& PixmapOf(const Picture& picture);
 QIcon IconOf(const Picture& picture);
-// The program's own, for title bars and task lists.
+// The program's icon, for title bars and task lists.
 QIcon WindowIcon();
 
 }  // namespace forms

@@ -9,7 +9,8 @@
 namespace forms {
 namespace {
 
-// 3 is what is asked for; what a style paints is a little off its palette's colours.
+// Guidelines require 3. The rest makes up for styles that do not paint exactly their palette's
+// colours.
 constexpr double kContrast = 4.2;
 
 class ReadableStyle : public QProxyStyle {
@@ -33,9 +34,9 @@ class ReadableStyle : public QProxyStyle {
                           QPainter* painter, const QWidget* widget) const override {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control != CC_ScrollBar || !option->state.testFlag(State_Enabled)) return;
-    constexpr int kGroovePixels = 3;  // that are seen beside the thumb
+    constexpr int kGroovePixels = 3;  // how much of the groove shows beside the thumb
     constexpr double kGrooveContrast = 1.5;
-    // A style may shade its groove so that no thumb is seen on all of it.
+    // A style may shade its groove so that no colour of a thumb stands out everywhere.
     const auto groove = subControlRect(CC_ScrollBar, option, SC_ScrollBarGroove, widget);
     painter->fillRect(groove, option->palette.color(QPalette::Window));
     PaintLineInside(*painter, groove, colourOn(*option, kGrooveContrast), 1);
@@ -46,8 +47,8 @@ class ReadableStyle : public QProxyStyle {
       thumb.adjust(kGroovePixels, 0, -kGroovePixels, 0);
     painter->fillRect(thumb, colourOn(*option, kContrast));
   }
-  // The mark of an option button keeps a little off the left edge, where the caption of the button
-  // before may end. Its own caption stays in its place.
+  // Draws the indicator of an option button a little further right, because the caption of the
+  // button before may end at its left edge. The button's own caption stays in its place.
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -66,7 +67,7 @@ class ReadableStyle : public QProxyStyle {
     return WithContrast(option.palette.color(QPalette::Mid), option.palette.color(QPalette::Window),
                         contrast);
   }
-  // The window is round it, the background of texts in it.
+  // The edge must stand out from the window outside and from the text background inside.
   static QColor edgeColour(const QStyleOption& option) {
     return WithContrast(colourOn(option, kContrast), option.palette.color(QPalette::Base),
                         kContrast);

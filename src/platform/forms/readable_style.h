@@ -5,8 +5,8 @@ class QStyle;
 
 namespace forms {
 
-// The desktop's own style, but one sees the thumb of a bar and the edge of an empty check box or
-// option button, and option buttons in a row keep apart. The caller owns it.
+// The desktop's style, changed so that the thumb of a bar and the edge of an empty check box or
+// option button are visible, and option buttons in a row do not touch. The caller owns it.
 QStyle* NewReadableStyle();
 
 }  // namespace forms

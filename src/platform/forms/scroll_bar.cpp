@@ -15,12 +15,12 @@ class NativeScrollBar : public Ringed<QScrollBar> {
  public:
   explicit NativeScrollBar(QWidget* parent) : Ringed(Qt::Horizontal, parent) {
     setTracking(false);
-    setInvertedControls(false);  // Right and Up for more, as a person expects of a value
+    setInvertedControls(false);  // Right and Up increase the value
     setFocusPolicy(Qt::StrongFocus);
   }
 
  protected:
-  // The wheel belongs to the page unless the bar was chosen.
+  // Without the focus, the bar ignores the wheel, so that scrolling past it changes nothing.
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus()) QScrollBar::wheelEvent(event);
   }

@@ -7,18 +7,18 @@
 
 namespace forms {
 
-// A horizontal scroll bar. A change of the value raises the change event, by whomever; a drag of
-// the thumb raises it at its end only.
+// A horizontal scroll bar. Each change of the value by the user or the program raises the change
+// event; a drag of the thumb raises it only at its end.
 class ScrollBar : public Control {
  public:
   ScrollBar(Container& parent, const char* name, const Box& box, int minimum, int maximum,
             int largeStep, int value);
 
   int value() const;
-  // Fails outside the range.
+  // Throws for a value outside the range.
   void setValue(int value);
 
-  // What assistive technology calls the value in place of its number, until it changes.
+  // The text that assistive technology reports instead of the number, until the value changes.
   void setValueText(const std::string& text);
 
   std::function<void()> onChange;

@@ -4,7 +4,7 @@
 
 namespace forms {
 
-// The outline of a rectangle; the mouse does not see it.
+// The outline of a rectangle. It ignores the mouse.
 class Shape : public Control {
  public:
   Shape(Container& parent, const char* name, const Box& box);

@@ -12,8 +12,8 @@
 namespace forms {
 namespace {
 
-// Looks at what came in, whichever way: what stands between the cursor and where it or the
-// selection began before.
+// Accepts or rejects what the user added: the text between the cursor and the place where the
+// cursor or the selection began before. So it works for typing, pasting and dropping.
 class Filter : public QValidator {
  public:
   Filter(QLineEdit* edit, TextBox::Accept accept, int maxChars)
@@ -25,7 +25,7 @@ class Filter : public QValidator {
     QObject::connect(edit, &QLineEdit::cursorPositionChanged, this, remember);
   }
 
-  // Of what is not valid the toolkit takes back all, the loss of the selection included.
+  // For an invalid text, the toolkit restores both the text and the selection.
   State validate(QString& text, int& cursor) const override {
     const int from = std::min(before_, cursor);
     const auto added = text.mid(from, cursor - from);
@@ -46,8 +46,8 @@ class Filter : public QValidator {
   int before_ = 0;
 };
 
-// Selects its text only behind the news of its focus: a screen reader that hears of the caret's
-// move first stays silent.
+// When focused by Tab, selects its text only after the focus was announced. If the move of the
+// caret is announced first, screen readers stay silent.
 class NativeTextBox : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
@@ -71,7 +71,7 @@ TextBox::TextBox(Container& parent, const char* name, const Box& box, Accept acc
     : Control(new NativeTextBox(parent.clientArea()), name, box, font), maxChars_(maxChars) {
   Native(widget())->setAlignment(Qt::AlignCenter);
   Native(widget())->setValidator(new Filter(Native(widget()), accept, maxChars));
-  // Assistive technology changes the text without asking.
+  // Assistive technology can change the text without passing the validator and the input guard.
   QObject::connect(Native(widget()), &QLineEdit::textChanged, widget(), [this] {
     if (TakesInput(*widget()))
       accepted_ = text();

@@ -6,8 +6,9 @@
 
 namespace forms {
 
-// A box of one line, centred. It takes what fits of a text that the program puts there, and what is
-// accepted of one that the user types or pastes; where that is nothing, text and selection stay.
+// A box with one line of centred text. A text from the program is cut to `maxChars`. Of a text that
+// the user types or pastes, the accepted characters are taken as far as they fit; if there are
+// none, text and selection stay.
 class TextBox : public Control {
  public:
   enum class Accept { Anything, Digits };
@@ -20,7 +21,7 @@ class TextBox : public Control {
 
  private:
   int maxChars_;
-  std::string accepted_;  // what stands there unless someone changed it without asking
+  std::string accepted_;  // the last text that came from the program or the user
 };
 
 }  // namespace forms

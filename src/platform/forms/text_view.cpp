@@ -17,10 +17,9 @@ TextView::TextView(Container& parent, const char* name, const Box& box, const Fo
   SetTakesEnter(*edit);
 }
 
-// The toolkit's time for a line grows with the square of its length, so that endless ones are
-// shown as several.
+// The toolkit's time for a line grows with the square of its length, so very long lines are split.
 void TextView::setText(const std::string& text) {
-  constexpr qsizetype kLongestLine = 4000;
+  constexpr qsizetype kLongestLine = 4000;  // characters
   QString shown;
   for (auto line : ToQString(text).tokenize(u'\n')) {
     for (; line.size() > kLongestLine; line = line.mid(kLongestLine))

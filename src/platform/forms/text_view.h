@@ -6,7 +6,7 @@
 
 namespace forms {
 
-// A box of many lines with a vertical scroll bar, to read and copy from.
+// A read-only text of many lines with a vertical scroll bar. The user can select and copy it.
 class TextView : public Control {
  public:
   TextView(Container& parent, const char* name, const Box& box, const FontStyle& font = {});
