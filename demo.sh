@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the front-end and its stand-in emulator, lays out an emulator's folder in build/demo and
-# starts the front-end there. With a display it is yours until you close it. Without one it plays a
-# game by itself on a virtual display, and fails unless that play was counted.
+# Builds the front-end and a stand-in emulator, lays out an emulator's folder in build/demo and starts
+# the front-end there. With a display, the front-end runs until you close it. Without one, the script
+# plays a game on a virtual display, and fails unless the play was counted.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -17,7 +17,7 @@ cmake --build --preset release --parallel "$(nproc)"
 demo=$PWD/build/demo
 settings=$demo/settings
 if ! has_display; then
-    # The count below starts from nothing.
+    # The play below must be the first one that is counted.
     rm -rf "$settings" "$demo/Config/Kestrivane.ini" "$demo/error.log" "$demo"/*.png
 fi
 echo "Laying out build/demo"
@@ -37,9 +37,9 @@ start_display "$work" || fail "the virtual display did not start"
 start_to_main_window "$demo"
 sleep 0.5
 screenshot "$demo/before.png"
-echo "The main window stands; pressing Enter to play the selected game"
+echo "The main window is open; pressing Enter to play the selected game"
 play
-echo "The game runs; waiting for its end"
+echo "The game is running; waiting for its end"
 sleep 5
 screenshot "$demo/playing.png"
 expect_main_window 60

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Builds everything and runs the fuzzers for some seconds, the logic's tests for Windows, all tests by
-# clang under the sanitizers, and the logic's and the end-to-end test as released, which is what five
-# minutes of the processor allow. A failed build or run ends it.
+# Builds everything. Runs the fuzzers for some seconds, the tests of the logic as a Windows program, all
+# tests under the sanitizers, and the tests of the logic and the end-to-end test as released. This
+# selection takes about five minutes of processor time. The first failure ends the script.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-# A report of the sanitizers names lines, also where the compiler's own tool for that is missing.
+# Lets reports of the sanitizers name source lines even if llvm-symbolizer is missing.
 export ASAN_OPTIONS=allow_addr2line=1
-# Nothing stays in the system's folder for what is temporary. Tests that root runs act as another user,
-# who must reach it.
+# A folder for all temporary files, removed at the end. Tests that root starts run as another user, who
+# must be able to enter it.
 TMPDIR=$(mktemp -d)
 chmod 711 "$TMPDIR"
 export TMPDIR

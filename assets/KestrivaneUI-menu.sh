@@ -33,7 +33,8 @@ if [ ! -x "$folder/KestrivaneUI" ] || [ ! -e "$folder/kestrivane-ui.desktop" ]; 
     echo "KestrivaneUI-menu.sh: KestrivaneUI or kestrivane-ui.desktop is missing in $folder" >&2
     exit 1
 fi
-# A backslash counts in every value, and once more between quotes, as do $, " and `; % begins a code.
+# Every value of a desktop entry needs its backslashes doubled. Between the quotes of Exec, \, $, " and `
+# also need a backslash before them, and % is doubled.
 escaped() { printf '%s' "$1" | sed 's/\\/\\\\/g'; }
 quoted() { printf '"%s"' "$(printf '%s' "$1" | sed 's/[\\"`$]/\\&/g; s/%/%%/g')"; }
 mkdir -p -- "$(dirname -- "$entry")"

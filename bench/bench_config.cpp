@@ -56,7 +56,7 @@ void ParseWithQSettings(benchmark::State& state) {
   std::ofstream(file) << Text();
   int copy = 0;
   for (auto _ : state) {
-    // The toolkit remembers a file that it has read, so each round reads a new name.
+    // Qt caches a file that it has read, so each iteration reads a file with a new name.
     state.PauseTiming();
     const auto name = file + std::to_string(copy++);
     std::ofstream(name) << Text();

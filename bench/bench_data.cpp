@@ -29,7 +29,7 @@ void FillState() {
   for (int game = 0; game < kGames; ++game) {
     auto& entry = GameCatalog[GameCatalog.size() - 2];
     entry.RomName = GameName(game);
-    // Not in the order of the alphabet, like a real listing.
+    // Titles are not in alphabetical order, as in a real listing.
     entry.Title = "Title " + std::to_string((game * 7919) % 1000) + " of the game";
     GameCatalog.emplace_back();
     if (game == 0) continue;

@@ -1,4 +1,4 @@
-// The measured situation: 254 games, 253 of them with options of their own.
+// The data of all measurements: 254 games, 253 of them with options of their own.
 #pragma once
 
 #include <future>
@@ -10,15 +10,15 @@ namespace bench {
 
 inline constexpr int kGames = 254;
 
-// An empty folder that is gone at the program's end.
+// An empty folder that is removed when the program ends.
 std::string NewFolder();
 
 std::string GameName(int game);
 
-// Shared state: the catalogue, and a row of 28 options for each game but one.
+// Fills the shared state with the games, and with a row of 28 options for each game but one.
 void FillState();
 
-// What the main window waits for before it shows: nothing more.
+// The shared state as a finished loading, for which the main window does not have to wait.
 std::future<startup::Loaded> Loaded();
 
 }  // namespace bench

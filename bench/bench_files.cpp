@@ -88,7 +88,7 @@ void ListFolders(benchmark::State& state) {
 }
 BENCHMARK(ListFolders)->Name("FindGameArchives, none there/listing once");
 
-// A text that is shorter, then longer than the one before it, as when options are restored and set.
+// Each text is in turn shorter and longer than the one before it.
 void Save(benchmark::State& state) {
   const auto file = bench::NewFolder() + "/Kestrivane.ini";
   const std::string text(60000, 'x');

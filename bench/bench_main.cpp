@@ -16,7 +16,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     ConsoleReporter::ReportRuns(runs);
     for (const auto& run : runs)
       if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
-        // Processor time is the steadier figure; what is seen on the screen counts in real time.
+        // Processor time varies less; benchmarks that wait for disk or screen ask for real time.
         medians_[run.run_name.function_name] =
             run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
   }
@@ -38,15 +38,15 @@ class RatioReporter : public benchmark::ConsoleReporter {
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   forms::Application application;
-  std::vector<char*> words(argv, argv + argc);
+  std::vector<char*> arguments(argv, argv + argc);
   std::string repetitions = "--benchmark_repetitions=7";
   std::string minTime = "--benchmark_min_time=0.1";
   std::string interleave = "--benchmark_enable_random_interleaving=true";
   std::string aggregates = "--benchmark_report_aggregates_only=true";
-  for (auto* word : {&repetitions, &minTime, &interleave, &aggregates})
-    words.insert(words.begin() + 1, word->data());
-  int count = static_cast<int>(words.size());
-  benchmark::Initialize(&count, words.data());
+  for (auto* argument : {&repetitions, &minTime, &interleave, &aggregates})
+    arguments.insert(arguments.begin() + 1, argument->data());
+  int count = static_cast<int>(arguments.size());
+  benchmark::Initialize(&count, arguments.data());
   RatioReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
   reporter.PrintRatios();

@@ -1,4 +1,4 @@
-// What the windows do while the user waits.
+// What the windows do while the user waits: filling, selecting, opening.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -25,7 +25,7 @@ QWidget* Child(const char* name) {
   return nullptr;
 }
 
-// The main window over the measured state; the listing itself is not part of these figures.
+// The main window with the measured data. Running the emulator is not part of these figures.
 class MainWindow : public ui::Form1 {
  public:
   MainWindow() {

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-// What the program starts is not measured.
-static const int kLoadedHereOnly = unsetenv("LD_PRELOAD");
+// Programs that the measured one starts are not measured.
+static const int kNotInherited = unsetenv("LD_PRELOAD");
 
 void QBackingStore::flush(const QRegion& region, QWindow* window, const QPoint& offset) {
   using Flush = void (*)(QBackingStore*, const QRegion&, QWindow*, const QPoint&);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The real program on a virtual display: holding Down through 254 games, each with a full-HD snapshot
-# and an icon, and then a play. What is left to do when the key is released is its backlog.
+# Measures the real program on a virtual display: first while Down is held through 254 games, each with
+# a full-HD snapshot and an icon, then during a play. Work after the key's release is a backlog.
 # Usage: bench/using.sh BUILD_FOLDER [SECONDS_OF_PLAY]
 set -euo pipefail
 build=$(realpath "$1")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Lays out a folder as an emulator's user has it: the front-end, the stand-in emulator, archives,
-# pictures and a configuration file. A second run into the same folder keeps the pictures and the
-# configuration file. Needs ImageMagick's convert and the DejaVu fonts.
+# Lays out an emulator's folder with the front-end, the stand-in emulator, archives, pictures and a
+# configuration file. A second run into the same folder keeps the pictures and the configuration file.
+# Needs ImageMagick's convert and the DejaVu fonts.
 set -euo pipefail
 
 if (($# != 3)); then
@@ -29,7 +29,7 @@ list_games() {
         done
 }
 
-# The archive's text: how long the stand-in plays, and how the play ends.
+# Writes an archive, which says how long the stand-in plays and how the play ends.
 write_archive() { # name, index, whether it is the first title
     local folder="$target/ROMs" seconds=$((3 + $2 * 11 % 38)) end=good
     if [[ $3 == yes ]]; then
@@ -107,7 +107,7 @@ draw_icon() { # file, title, index
         -annotate +0+0 "${initial//%/%%}" -strip "$1"
 }
 
-# The line in the configuration file's code page; one that doesn't fit there stays UTF-8.
+# Prints a line in the configuration file's code page, or in UTF-8 if the code page lacks a character.
 configuration_line() {
     if iconv -f UTF-8 -t CP1252 <<<"$1" >/dev/null 2>&1; then
         printf '%s\r\n' "$1" | iconv -f UTF-8 -t CP1252

@@ -55,7 +55,7 @@ fs::path FindEntry(const fs::path& folder, std::string_view name) {
   return {};
 }
 
-// Lays the section's values of the file over the options. Lines ahead of every header are global.
+// Replaces options by the values of a section. Lines before the first header are global.
 void Overlay(std::vector<Option>& options, const std::vector<std::string>& lines,
              std::string_view section) {
   bool inside = SameName(section, "Global");

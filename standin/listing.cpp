@@ -65,11 +65,11 @@ void PrintNoise() {
 }
 
 void PrintRandomBytes() {
-  std::mt19937 random(1);  // holds two line ends
+  std::mt19937 random(1);  // with this seed, two line ends are among the bytes
   for (int i = 0; i < 65536; ++i) std::cout.put(static_cast<char>(random() & 0xFF));
 }
 
-// Processes and signals of this kind exist on POSIX systems only; elsewhere nothing happens.
+// Windows has no such processes and signals; there the two functions below do nothing.
 void LeaveGrandchild() {
 #ifndef _WIN32
   if (fork() == 0) {

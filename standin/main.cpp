@@ -14,7 +14,7 @@
 #include <io.h>
 #include <windows.h>
 
-// What the code page lacks is in the wide command line only.
+// The arguments of `main` are in the code page, which may lack characters.
 static std::vector<std::string> Arguments(int, char**) {
   int count = 0;
   const auto* const* const words = CommandLineToArgvW(GetCommandLineW(), &count);
@@ -23,14 +23,12 @@ static std::vector<std::string> Arguments(int, char**) {
   return arguments;
 }
 #else
-static std::vector<std::string> Arguments(int count, char** words) {
-  return {words + 1, words + count};
-}
+static std::vector<std::string> Arguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 #endif
 
 int main(int argc, char** argv) {
 #ifdef _WIN32
-  // The listing brings its own CR LF.
+  // The listing writes CR LF itself, so the system must not add a CR.
   _setmode(_fileno(stdout), _O_BINARY);
 #endif
   const auto arguments = Arguments(argc, argv);

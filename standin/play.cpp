@@ -45,7 +45,7 @@ Script ReadScript(const fs::path& archive) {
   return script;
 }
 
-// Sleeps through the play. False if the player quit before its end.
+// Sleeps for the time of the play. Returns false if the player quit before its end.
 bool RunFor(int seconds) {
   std::signal(SIGTERM, OnQuitSignal);
   std::signal(SIGINT, OnQuitSignal);

@@ -13,7 +13,7 @@ std::string_view Trim(std::string_view text);
 // Whether two texts are the same but for the case of ASCII letters.
 bool SameName(std::string_view a, std::string_view b);
 
-// A path as UTF-8 and back, whatever the system's own texts are.
+// Convert between a path and UTF-8.
 std::string ToText(const std::filesystem::path& path);
 std::filesystem::path ToPath(std::string_view text);
 

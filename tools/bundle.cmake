@@ -1,7 +1,7 @@
-# Run at installing: copies the toolkit that PROGRAM needs, its plugins for displays, input methods and
-# pictures, and what these need into FOLDER, with the licences of all and a list of their source
-# packages. QMAKE is asked where plugins are. Left out is what belongs to the machine and its display:
-# the C and C++ runtimes, the X, Wayland and OpenGL libraries, fonts.
+# Runs at installation. Copies into FOLDER: the libraries of Qt that PROGRAM needs, the plugins for
+# displays, input methods and pictures, the libraries that these need, all licences, and a list of the
+# source packages. QMAKE says where the plugins are. Libraries that belong to the machine and its display
+# are left out: the C and C++ runtimes, X, Wayland, OpenGL, fonts.
 set(OF_THE_MACHINE
   "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|gcc_s|stdc\\+\\+)\\.so"
   "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|GL|GLX|EGL|OpenGL|GLdispatch|drm|gbm|wayland-.*)\\.so"
@@ -17,7 +17,7 @@ set(NEEDED_PLUGINS
 list(TRANSFORM NEEDED_PLUGINS PREPEND "${PLUGIN_FOLDER}/")
 foreach(PLUGIN ${NEEDED_PLUGINS})
   if(NOT EXISTS "${PLUGIN}")
-    message(FATAL_ERROR "Not found: ${PLUGIN}\n`tools/install.sh package` installs what it takes.")
+    message(FATAL_ERROR "Not found: ${PLUGIN}\n`tools/install.sh package` installs it.")
   endif()
 endforeach()
 file(GLOB MORE_PLUGINS
@@ -41,7 +41,7 @@ foreach(PLUGIN ${MODULES})
   configure_file("${PLUGIN}" "${FOLDER}/plugins/${NAME}" COPYONLY)
 endforeach()
 
-# Debian keeps a package's licence in its documentation, and knows the source that it was built from.
+# On Debian, a package's documentation contains its licence, and dpkg knows its source package.
 foreach(LIBRARY ${NEEDED} ${MODULES})
   get_filename_component(FILE "${LIBRARY}" REALPATH)
   # A package may name a file of /usr/lib by /lib.

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The developers' checks, some ten minutes of the processor. A finding ends it.
-# Usage: check.sh [CHECK...]   with the names of the functions below; all of them without
+# The developers' checks, about ten minutes of processor time. The first finding ends the script.
+# Usage: check.sh [CHECK...]   each the name of a function below; without any, all checks run
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -9,9 +9,9 @@ build() { # preset or folder, targets...
         { tail -n 60 "$1/check.log" >&2 && return 1; }
 }
 
-# Each release of clang-format lays out a little differently, and of clang-tidy finds other things.
+# Other releases of clang-format have a different layout, and those of clang-tidy other findings.
 has_version_14() {
-    [[ $("$1" --version) == *" version 14."* ]] || { echo "$1 14 is what counts; not run" && return 1; }
+    [[ $("$1" --version) == *" version 14."* ]] || { echo "Skipped: $1 is not version 14" && return 1; }
 }
 
 format() {
@@ -27,7 +27,7 @@ tidy() {
     tools/tidy.sh
 }
 
-# As on ARM, where a plain char has no sign.
+# Runs the tests of the logic with a plain char that is unsigned, as on ARM.
 unsigned_char() {
     cmake -S . -B build-unsigned -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=-funsigned-char \
         -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 \
@@ -43,7 +43,7 @@ pack() {
     (cd build && cpack >cpack.log) || { tail -n 20 build/cpack.log >&2 && return 1; }
 }
 
-# What is built here and what is handed out.
+# Checks the program as built here and as packed in the archives.
 hardening() {
     local unpacked=build/unpacked archive files
     pack
@@ -58,7 +58,7 @@ hardening() {
     rm -rf "$unpacked"
 }
 
-# Unpacked over each other, and over older ones.
+# Unpacks the archives over each other.
 archives() {
     pack
     tests/e2e/archives.sh build

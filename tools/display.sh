@@ -1,5 +1,5 @@
-# To be sourced: a virtual display with a window manager, and what it takes to watch and use the
-# windows on it. Every wait ends with status 1 after its time.
+# To be sourced: a virtual display with a window manager, and functions to use and watch the windows on
+# it. Each wait fails with status 1 when its time is up.
 
 display_processes=()
 
@@ -32,11 +32,11 @@ stop_display() {
     wait "${display_processes[@]}" 2>/dev/null || true
 }
 
-# Whether the window in focus has this title. What the window manager calls active may be a window
-# of the past.
+# Whether the window in focus has this title. The window that the window manager reports as active may
+# be closed already.
 title_is() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
 
-# Keys go to the window in focus, as a person's would.
+# Sends keys to the window in focus.
 press() { xdotool key "$@"; }
 
 # Ends a front-end and the emulator that it may have started, which would outlive it.
@@ -46,5 +46,5 @@ stop_front_end() { # process id
     kill "$1" $emulators 2>/dev/null || true
 }
 
-# The window in focus with its frame.
+# Saves a picture of the window in focus with its frame.
 screenshot() { import -frame -window "$(xdotool getwindowfocus)" "$1"; }

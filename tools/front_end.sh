@@ -1,5 +1,5 @@
-# To be sourced: the front-end on a display of its own, used and watched from outside. The script has
-# a private folder, "work", and whatever was started ends with it.
+# To be sourced: functions that start the front-end and use and watch it from outside. They have a
+# private folder, $work. When the script ends, everything that they started is stopped.
 . "$(dirname "${BASH_SOURCE[0]}")/display.sh"
 
 main_title="Kestrivane UI®  (Kestrivane 0.3a detected)"
@@ -30,12 +30,12 @@ lay_out() { # folder, front-end, [emulator]
     [[ -z ${3:-} ]] || cp "$3" "$1/Kestrivane.exe"
 }
 
-# A game's archive tells the stand-in how long a play takes and how it ends.
+# Writes a game's archive, which says how long the stand-in plays and how the play ends.
 write_archive() { # folder, seconds, end, [game]
     printf 'seconds=%d\nend=%s\n' "$2" "$3" >"$1/ROMs/${4:-$game}.zip"
 }
 
-# In a session of its own, as a desktop starts it, and from another working folder.
+# Starts the front-end as a desktop does: in a session of its own and from another working folder.
 start() { # folder
     (cd / && exec setsid "$1/KestrivaneUI") &
     front_end=$!
@@ -70,7 +70,7 @@ expect_end() { # exit status
     [[ $status == "$1" ]] || fail "exit status $status instead of $1"
 }
 
-# What is kept of the game's plays: how many, and their seconds.
+# Checks the stored figures of the game: number of plays, total seconds.
 expect_counted() { # pattern
     sed -n '/^\[GameTimeLog\]$/,/^\[/p' "$XDG_CONFIG_HOME/Kestrivane UI.conf" | grep -qx "$game=\"$1\"" ||
         fail "unexpected figures: $(cat "$XDG_CONFIG_HOME/Kestrivane UI.conf")"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for the tasks named: build, package (the archive with
 # Qt), demo, display, test, windows (the logic's tests under wine), qt-windows, fuzz, tidy, spoken,
-# contrast, bench, fresh (a bare system). Where nothing can be installed it names them in one line,
-# and fails.
+# contrast, bench, fresh (a bare system). If it can't install anything, it names the packages in one
+# line and fails.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -43,11 +43,11 @@ for program in apt-get "${as_root[@]}"; do
 done
 log=build/install.log
 echo "Installing ${missing[*]}; what apt-get says goes to $log"
-# The look into the rights may ask for a password, which need not be given again then.
+# This check of the rights may ask for a password; the commands below then don't ask again.
 ((EUID == 0)) || sudo -l apt-get >/dev/null || needs_administrator
 mkdir -p build
 
-# Keeps what apt says, and shows how far it is where somebody watches.
+# Writes apt's output to the log, and shows its progress if the output is a terminal.
 follow() {
     local line
     local -A stages=([dl]=Fetching [pm]=Installing)
@@ -61,7 +61,7 @@ follow() {
     done
     [[ ! -t 1 ]] || printf '\r%20s\r' ""
 }
-apt() { # sudo passes the usual descriptors on only
+apt() { # progress goes to descriptor 1, because sudo closes all but the standard ones
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o APT::Status-Fd=1 "$@" 2>&1 | follow
 }
 : >"$log"

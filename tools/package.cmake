@@ -1,7 +1,7 @@
-# What is installed, and the archives that cpack makes of it: the program alone, and on Linux also with
-# the toolkit. All goes into one folder, the emulator's, where other files of these kinds may be.
+# Defines what is installed and the archives that cpack makes: the program alone, and on Linux also one
+# with Qt. All files go into one folder, the emulator's, so their names must not clash with other files.
 function(install_program) # options of each installation
-  # As `cmake --install --strip` does; a debugger still wants the names.
+  # Strips released programs, as `cmake --install --strip` does. Debug builds keep their symbols.
   install(CODE "set(CMAKE_INSTALL_DO_STRIP ON)" CONFIGURATIONS Release MinSizeRel ${ARGN})
   install(TARGETS KestrivaneUI RUNTIME DESTINATION . ${ARGN})
   install(FILES LICENSE DESTINATION . RENAME KestrivaneUI-LICENSE.txt ${ARGN})
@@ -22,9 +22,9 @@ set(CPACK_COMPONENTS_ALL program)
 set(CPACK_ARCHIVE_PROGRAM_FILE_NAME "KestrivaneUI-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}")
 
 if(CMAKE_SYSTEM_NAME STREQUAL Linux)
-  # The loader looks here first, for the needs of the libraries in it too, and the program for its
-  # plugins (application.cpp). The version keeps a program from libraries that an archive with another
-  # toolkit left here: it takes the system's then.
+  # The loader searches this folder first, also for what its libraries need, and application.cpp takes
+  # the plugins from it. Its name contains Qt's version, so that a program never uses libraries that an
+  # archive with another version left behind.
   set(TOOLKIT KestrivaneUI-Qt-${Qt6_VERSION})
   set_target_properties(KestrivaneUI PROPERTIES INSTALL_RPATH "$ORIGIN/${TOOLKIT}")
   target_link_options(KestrivaneUI PRIVATE -Wl,--disable-new-dtags)

@@ -1,26 +1,26 @@
 #!/usr/bin/env bash
 # Builds Qt for Windows, static, with what this program and its tests need, into a folder that
 # outlives the build folders: from the source package of Debian's own Qt, or from a changed source of
-# the same version. Does nothing where the folder has it already; takes some 30 minutes of processor
-# time otherwise.
+# the same version. Does nothing if the folder has it already; otherwise takes about 30 minutes of
+# processor time.
 # Usage: qt_windows.sh FOLDER [SOURCE]
 set -euo pipefail
 toolchain=$(cd "$(dirname "${BASH_SOURCE[0]}")/../cmake" && pwd)/windows.cmake
 mkdir -p "$1"
 cache=$(cd "$1" && pwd)
 version=$(dpkg-query -W -f '${source:Version}' qt6-base-dev)
-# The number is raised where what is built changes.
+# Raise the number when this script builds something else.
 built="$version, build 2"
 [[ -n ${2:-} || $(cat "$cache/version" 2>/dev/null) != "$built" ]] || exit 0
 
 work=$cache/work
 source=${2:-$work/source}
-# The toolkit's libraries hold the folder that they are told they are for. It is found at any other.
+# Qt's libraries store this folder as their place, but are found in any other one too.
 prefix=/qt
 rm -rf "$work" "$cache/version"
 mkdir -p "$work"
 
-# The package lists have a place of their own here: the system's may know no sources.
+# Uses package lists of its own, because those of the system may lack source packages.
 fetch_source() {
     apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT) # $(ORIGIN)' \
         'Created-By: Packages' | grep '# Debian$' | sort -u >sources.list
@@ -36,8 +36,8 @@ if [[ -z ${2:-} ]]; then
     (cd "$work" && fetch_source) >"$work/log" 2>&1 || { cat "$work/log" && exit 1; }
 fi
 
-# What neither the program nor its tests use. The linker would drop much of it, but not what other
-# parts of the toolkit refer to.
+# Features that neither the program nor its tests use. The linker would not drop those that other parts
+# of Qt refer to.
 unused="concurrent dbus glib gif icu network printsupport sql system_zlib vulkan xml
     commandlineparser concatenatetablesproxymodel hijricalendar jalalicalendar mimetype sharedmemory
     systemsemaphore timezone transposeproxymodel
@@ -49,7 +49,7 @@ unused="concurrent dbus glib gif icu network printsupport sql system_zlib vulkan
     tablewidget toolbox undoview wizard"
 # These need headers that Debian's compiler or source package lacks.
 missing="direct2d1_1 tabletevent"
-# One of its headers is read where nothing of it is used then.
+# This source includes a header of a feature that is switched off, without using it.
 sed -i '/#include <qinputdialog.h>/d' "$source/src/plugins/styles/windowsvista/qwindowsvistastyle_p_p.h"
 features=()
 for feature in $unused $missing; do features+=("-DFEATURE_$feature=OFF"); done
@@ -68,7 +68,7 @@ rm -rf "$cache/qt" "$cache/source"
 DESTDIR=$work/installed cmake --install "$work/build" >>"$work/log"
 mv "$work/installed$prefix" "$cache/qt"
 
-# What who hands the program on has to hand on too.
+# The licences that must be passed on with the program.
 {
     printf '%s\n' "Qt $version, as Debian's source package qt6-base has it, and what it contains." ""
     parts=(double-conversion freetype harfbuzz-ng libjpeg libpng md4c pcre2 tinycbor zlib)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over the program and the stand-in. A finding fails it. It takes seven minutes of the
-# processor, too long for every change.
+# Runs clang-tidy over the program and the stand-in, and fails if there is a finding. It takes seven
+# minutes of processor time, too long for every change.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

@@ -25,8 +25,8 @@ constexpr Group kGroupsOfInputs[] = {{30, 63, Message::Basics},
                                      {110, 127, Message::Gun},
                                      {64, 81, Message::Race},
                                      {82, 109, Message::Others}};
-constexpr int kGun = 1;
-constexpr int kOthers = 3;
+constexpr int kGunGroup = 1;
+constexpr int kLastGroup = 3;
 
 }  // namespace
 
@@ -73,7 +73,7 @@ void InputPage::StoreBindings() {
 void InputPage::FillInputLists() {
   for (auto& list : lstInput) list.clear();
   int group = 0;
-  while (group < kOthers && !optTypeInputs[group].selected()) ++group;
+  while (group < kLastGroup && !optTypeInputs[group].selected()) ++group;
   const int player = optPlayer[0].selected() ? 0 : 1;
   for (auto slot = kGroupsOfInputs[group].first; slot <= kGroupsOfInputs[group].last; ++slot) {
     const auto& option = Module1::Profiles[0].Slots[slot];
@@ -81,7 +81,7 @@ void InputPage::FillInputLists() {
     AddInputRow(base::ReplaceIgnoringCase(option.Name, "Input", ""), slot,
                 core::CellsOf(Module1::EffectiveValues[slot]));
   }
-  if (group == kGun)
+  if (group == kGunGroup)
     AddInputRow("Show Crosshairs", core::option::Crosshairs,
                 {Module1::EffectiveValues[core::option::Crosshairs], {}, {}});
   for (auto& list : lstInput) list.setTopRow(0);

@@ -60,7 +60,8 @@ const core::GameEntry& Form1::SelectedGame() const { return GameOfRow(lstGames.s
 
 std::string Form1::ToolTipOf(int row) const { return ArchiveTip(GameOfRow(row)); }
 
-// The figures of a game that was never played would only delay a person who hears each row.
+// For screen readers. The figures of a game that was never played are left out, since they would
+// only delay the reading of the list.
 std::string Form1::DescriptionOf(int row) const {
   const auto& game = GameOfRow(row);
   std::string text = game.Available ? "" : Msg(Message::NotAvailable);

@@ -6,7 +6,7 @@
 namespace ui {
 namespace {
 
-// Whoever wants to hear more reads the text line by line.
+// A screen reader speaks this much at once. All of the text can be read line by line.
 constexpr std::size_t kSpokenBytes = 2000;
 
 }  // namespace
@@ -23,7 +23,7 @@ void Form4::Form_Load() {
   setTitle(i18n::Msg(i18n::Message::ErrorReportTitle));
   tbxError.setText(Module1::ErrorText);
   tbxError.setAccessibleName(i18n::Msg(i18n::Message::ErrorReportTitle));
-  // Of the text itself a screen reader speaks the first line only.
+  // Of the text box itself, a screen reader speaks the first line only.
   setDescription(Module1::ErrorText.substr(0, kSpokenBytes));
 }
 

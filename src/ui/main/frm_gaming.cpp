@@ -59,7 +59,7 @@ void frmGaming::Form_Activate() {
   StartTime = platform::TheClock().now();
   launch::RunAndWait(Module1::LaunchRequest.CommandLine, [this] {
     lblTime.setCaption(launch::FormatElapsed(StartTime));
-    Describe();
+    AnnounceTime();
     forms::DoEvents();
   });
   launch::UpdatePlayLog(StartTime);
@@ -83,11 +83,12 @@ void frmGaming::PauseAfterGoodEnd() {
   }
 }
 
-// Tells screen readers the time at the start and once a minute; every second would be too much.
-void frmGaming::Describe() {
+// Has screen readers speak the time at the start and once a minute. Every second would be too
+// often.
+void frmGaming::AnnounceTime() {
   const auto minute = platform::SecondsSince(StartTime) / 60;
-  if (minute == describedMinute_) return;
-  describedMinute_ = minute;
+  if (minute == announcedMinute_) return;
+  announcedMinute_ = minute;
   setDescription(Label1.caption() + " " + lblTime.caption());
   if (minute == 0) return;
   Label1.announce();

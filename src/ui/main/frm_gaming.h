@@ -22,12 +22,12 @@ class frmGaming : public forms::Form {
   void Form_Activate();
   std::string KeysText() const;
   void PauseAfterGoodEnd();
-  void Describe();
+  void AnnounceTime();
   void ShowReport();
 
   forms::Form& main_;
   platform::Moment StartTime;
-  long long describedMinute_ = -1;
+  long long announcedMinute_ = -1;
 
   forms::Shape Shape1{*this, "Shape1", {0, 0, 5955, 4290}};
   forms::Image imgIcon{*this, "imgIcon", {2730, 240, 480, 480}, forms::Stretch::No};

@@ -14,7 +14,8 @@ using i18n::Msg;
 AudioPage::AudioPage(forms::Frame& frame) : frame_(frame) {
   forms::Form::setTabOrder(
       {&chkAudio[0], &hslVolume[0], &chkAudio[1], &hslVolume[1], &hslBalance, &chkFlipStereo});
-  // A label in no row with a control would be spoken before the first one of the page.
+  // Otherwise screen readers would speak this label, which has no control beside it, before the
+  // first control of the page.
   Label10.setRole(forms::Role::Decoration);
   for (int index = 0; index < 2; ++index)
     hslVolume[index].onChange = [this, index] { hslVolume_Change(index); };

@@ -90,7 +90,7 @@ void FoldersPage::lstFolders_Click(int index) {
 }
 
 void FoldersPage::cmdAddPath_Click(int index) {
-  // If the load step did not get here, the stored folders are not shown yet. A save would drop
+  // If the load step ended early, the stored folders are not in the list yet. A save would drop
   // them.
   if (!filled_) Fill();
   if (!cmdAddPath[index].enabled()) return;

@@ -28,7 +28,8 @@ class FoldersPage {
   void Fill();
   // Hides the folder lists, which a game's options don't have.
   void HideFolders();
-  // Store or return the contents of the lists, without those that were neither filled nor changed.
+  // Store or return the contents of the lists. Lists that were neither filled nor changed are left
+  // out.
   void StoreFolders();
   std::vector<std::pair<core::Slot, std::string>> StagedShaders() const;
   void ApplyLanguage();

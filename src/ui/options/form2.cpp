@@ -57,7 +57,8 @@ Form2::Form2(const forms::Form& main)
 }
 
 void Form2::Form_Load() {
-  // First, since the rest may fail and a game's options must never look like the global ones.
+  // This comes first: what follows may fail, and a game's options must never look like the global
+  // ones.
   if (!isGlobal()) ShowAsOneGame();
   bool inList = false;
   base::RunGuarded([&] {
@@ -71,7 +72,8 @@ void Form2::Form_Load() {
 }
 
 void Form2::FillControls() {
-  // First, since a save compares with the global values even if the loading ends early.
+  // This comes first, because a save compares with the global values even if the loading ends
+  // early.
   for (core::Slot slot = 0; slot < core::kGeneralSlotCount; ++slot)
     if (slot < core::kFirstAdvancedSlot || slot >= core::kPerGameSlots)
       core::RecordGlobalValue(slot);
