@@ -84,6 +84,9 @@ TEST_F(Told, PagesTellWhatBelongsToThem) {
     act(options, "click optOPT(4)");
     act(options, "focus Dir1");
     EXPECT_EQ(tree.focusChild()->text(QAccessible::Name), chosen);
+    act(options, "focus Drive1");
+    for (int cell = 0; cell < tree.childCount(); ++cell)
+      EXPECT_FALSE(tree.child(cell)->state().focused) << "the drives have the focus";
   });
 }
 

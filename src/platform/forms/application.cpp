@@ -16,9 +16,9 @@
 #include "platform/forms/button_accessible.h"
 #include "platform/forms/control_accessible.h"
 #include "platform/forms/input_guard.h"
-#include "platform/forms/list_accessible.h"
 #include "platform/forms/native.h"
 #include "platform/forms/readable_style.h"
+#include "platform/forms/rows_accessible.h"
 
 // Registers the pictures that are linked into the program. The macro must be used outside any
 // namespace.
@@ -82,6 +82,8 @@ Application::Application() {
   MakeButtonsAccessible();
   MakeControlsAccessible();
   MakeListsAccessible();
+  MakeDropDownsAccessible();
+  MakeTreesAccessible();
   platform::TheClock().sleep = [sleep = platform::TheClock().sleep](auto time) {
     QAccessible::isActive() ? SleepAnswering(time) : sleep(time);
   };

@@ -48,12 +48,6 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
 
   QTreeWidgetItem* selectedItem() const { return selectedItems().value(0); }
-  // Otherwise the toolkit reports that the current folder has the focus, and where it is drawn,
-  // even while the tree is hidden.
-  void leaveCurrent() { setCurrentItem(nullptr, 0, QItemSelectionModel::NoUpdate); }
-  QRect visualRect(const QModelIndex& index) const override {
-    return isVisible() ? QTreeWidget::visualRect(index) : QRect();
-  }
 
   // Makes the column as wide as its rows. The tree's width has no room for names at deep levels.
   void widenColumn() { setColumnWidth(0, std::max(sizeHintForColumn(0), viewport()->width())); }
@@ -83,12 +77,12 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
     // With nothing to open, the toolkit has scrolled away from the current folder.
     scrollTo(currentIndex(), EnsureVisible);
   }
-  // Announces a folder to assistive technology only if the tree has the focus.
+  // The toolkit's announcements name rows of its own interface, which tree_accessible.cpp replaces.
   void currentChanged(const QModelIndex& now, const QModelIndex& before) override {
-    if (hasFocus())
-      QTreeWidget::currentChanged(now, before);
-    else
-      QAbstractItemView::currentChanged(now, before);  // NOLINT: skips QTreeWidget's announcement
+    QAbstractItemView::currentChanged(now, before);  // NOLINT: skips QTreeWidget's announcement
+  }
+  void selectionChanged(const QItemSelection& now, const QItemSelection& before) override {
+    QAbstractItemView::selectionChanged(now, before);  // NOLINT: skips QTreeWidget's announcement
   }
   // Announces first the tree and then its current folder.
   void focusInEvent(QFocusEvent* event) override {
@@ -114,12 +108,7 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   }
   void showEvent(QShowEvent* event) override {
     QTreeWidget::showEvent(event);
-    if (selectedItem()) setCurrentItem(selectedItem());
     scrollTo(currentIndex(), EnsureVisible);
-  }
-  void hideEvent(QHideEvent* event) override {
-    QTreeWidget::hideEvent(event);
-    leaveCurrent();
   }
 
  private:
@@ -186,7 +175,6 @@ void FolderTree::setPath(const std::string& root, const std::string& folder) {
   }
   tree->setCurrentItem(item);
   tree->scrollToItem(item, QAbstractItemView::PositionAtTop);
-  if (!tree->isVisible()) tree->leaveCurrent();
 }
 
 }  // namespace forms
