@@ -25,6 +25,22 @@ TEST_F(InputGuard, AssistiveTechnologyStartsNothingDuringAPlay) {
   EXPECT_TRUE(ends.empty());
 }
 
+TEST_F(InputGuard, AssistiveTechnologyDoesNotWaitForWhatAMenuItemOpens) {
+  start();
+  bool waits = true;
+  const auto close = [&](QWidget& options) {
+    EXPECT_FALSE(waits);
+    options.close();
+  };
+  auto* item = window().findChild<QAction*>("mConfig");
+  inModal(close, [&] {
+    auto* menu = static_cast<QWidget*>(item->parent());
+    told(menu)->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    waits = false;
+    QApplication::processEvents();
+  });
+}
+
 TEST_F(InputGuard, SecondClickOfADoubleClickDoesNotReachTheWindowBelow) {
   start();
   const auto doubleClickAt = [](QWidget& control) {

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStyleHints>
 #include <QWidget>
 #include <utility>
@@ -148,6 +149,20 @@ class SecondClicks {
   bool dropping_ = false;  // all events of a press up to its release
 };
 
+// Assistive technology can move the focus of any window. If a modal window blocked it meanwhile,
+// its focus returns to where the person left it.
+class BlockedFocus {
+ public:
+  void windowBlocked(const QWidget& window) { left_[&window] = window.focusWidget(); }
+  void windowUnblocked(const QWidget& window) {
+    const auto left = left_.take(&window);
+    if (left && left != window.focusWidget()) left->setFocus(Qt::OtherFocusReason);
+  }
+
+ private:
+  QHash<const QWidget*, QPointer<QWidget>> left_;
+};
+
 class Guard : public QObject {
  public:
   using QObject::QObject;
@@ -172,6 +187,8 @@ class Guard : public QObject {
     const auto& widget = *static_cast<QWidget*>(watched);
     if ((type == QEvent::Show || type == QEvent::Hide) && opensAndCloses(widget))
       clicks_.windowOpenedOrClosed();
+    if (type == QEvent::WindowBlocked) blocked_.windowBlocked(widget);
+    if (type == QEvent::WindowUnblocked) blocked_.windowUnblocked(widget);
     return IsInput(*event) && !TakesInput(widget);
   }
 
@@ -196,6 +213,7 @@ class Guard : public QObject {
   HeldKeys keys_;
   PopupKeys popupKeys_;
   SecondClicks clicks_;
+  BlockedFocus blocked_;
 };
 
 }  // namespace

@@ -28,8 +28,8 @@ QMenuBar& MenuBarOf(const Form& form) {
   return *bar;
 }
 
-const QWidget& BarOf(const QAction& action) {
-  const auto* holder = static_cast<const QWidget*>(action.parent());
+QWidget& BarOf(const QAction& action) {
+  auto* holder = static_cast<QWidget*>(action.parent());
   while (qobject_cast<const QMenu*>(holder)) holder = holder->parentWidget();
   return *holder;
 }
@@ -54,21 +54,6 @@ void NameMenu(const QAction& action) {
   if (auto* menu = action.menu()) menu->setAccessibleName(action.text().replace(accessKey, "\\1"));
 }
 
-QMenu& MenuOf(QAction& action) {
-  if (!action.menu()) {
-    auto* menu = new QMenu(static_cast<QWidget*>(action.parent()));
-    action.setMenu(menu);
-    NameMenu(action);
-    WatchOpening(*menu);
-    // Assistive technology opens menus without asking.
-    const auto closeWhereNoneOpens = [menu, &action] {
-      if (!TakesInput(BarOf(action))) menu->close();
-    };
-    QObject::connect(menu, &QMenu::aboutToShow, menu, closeWhereNoneOpens, Qt::QueuedConnection);
-  }
-  return *action.menu();
-}
-
 void AnnounceFocus(const QAction& action) {
   auto* holder = static_cast<QWidget*>(action.parent());
   QAccessibleEvent focus(holder, QAccessible::Focus);
@@ -82,6 +67,25 @@ void AnnounceIfActive(const QAction& action) {
   const auto* active =
       menu ? menu->activeAction() : static_cast<const QMenuBar*>(holder)->activeAction();
   if (active == &action && QApplication::activePopupWidget() == menu) AnnounceFocus(action);
+}
+
+QMenu& MenuOf(QAction& action) {
+  if (!action.menu()) {
+    auto* menu = new QMenu(static_cast<QWidget*>(action.parent()));
+    action.setMenu(menu);
+    NameMenu(action);
+    WatchOpening(*menu);
+    // Assistive technology opens menus without asking.
+    const auto closeWhereNoneOpens = [menu, &action] {
+      if (!TakesInput(BarOf(action))) menu->close();
+    };
+    QObject::connect(menu, &QMenu::aboutToShow, menu, closeWhereNoneOpens, Qt::QueuedConnection);
+    // The toolkit does not announce the item of the outer menu that gets the keyboard back.
+    QObject::connect(
+        menu, &QMenu::aboutToHide, &action, [&action] { AnnounceIfActive(action); },
+        Qt::QueuedConnection);
+  }
+  return *action.menu();
 }
 
 // When a menu opens, the toolkit announces the control in focus after the menu's first item, so the
@@ -113,10 +117,9 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
   else
     setCaption(caption);
   QObject::connect(action_, &QAction::triggered, action_, [this] {
-    if (TakesInput(BarOf(*action_)))
-      Raise(onClick);
-    else
-      action_->setChecked(action_->isCheckable());  // restores it: only ticked items are checkable
+    action_->setChecked(action_->isCheckable());  // restores it: only ticked items are checkable
+    // Assistive technology triggers items of any window, and waits until this returns.
+    PressLater(BarOf(*action_), [this] { Raise(onClick); });
   });
   QObject::connect(action_, &QAction::hovered, action_, [this] {
     const auto announce = [this, opens = IsOpening(*action_)] { AnnounceAgain(*action_, opens); };
