@@ -1,4 +1,5 @@
-// The emulator's listing: each line of a game, and no other line, becomes one row.
+// The emulator's listing. Whatever the text is, each line of a game becomes one row, and no other
+// line does.
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"

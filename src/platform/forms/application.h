@@ -5,7 +5,7 @@
 
 namespace forms {
 
-// Starts the toolkit. To be created once per program, before the first form.
+// The toolkit, once per program, before the first form.
 class Application {
  public:
   Application();

@@ -32,7 +32,7 @@ class Form : public Container {
   // While true, the window can't be closed from outside.
   void setCloseRefused(bool refused);
 
-  // Sets left = owner's left + owner's width / 2 - own width / 2, and the top likewise.
+  // Left = owner's left + owner's width / 2 - own width / 2; the same for the top.
   void centreOver(const Form& owner);
   void centreOnScreen();
 
