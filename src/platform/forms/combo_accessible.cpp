@@ -76,7 +76,7 @@ class ComboInterface : public QAccessibleWidget, private Rows {
   AccessibleRows rows_;
   std::unique_ptr<QAccessibleTextInterface> shown_;
   AccessibleAttributes attributes_;
-  QObject connection_;  // ends with the interface
+  QObject connection_;  // the connection ends with this interface
 };
 
 }  // namespace

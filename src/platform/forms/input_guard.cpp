@@ -149,8 +149,8 @@ class SecondClicks {
   bool dropping_ = false;  // all events of a press up to its release
 };
 
-// Assistive technology can move the focus of any window. If a modal window blocked it meanwhile,
-// its focus returns to where the person left it.
+// Assistive technology can move the focus in a window that a modal window blocks. When the window
+// is no longer blocked, its focus returns to where the user left it.
 class BlockedFocus {
  public:
   void windowBlocked(const QWidget& window) { left_[&window] = window.focusWidget(); }

@@ -75,12 +75,12 @@ QMenu& MenuOf(QAction& action) {
     action.setMenu(menu);
     NameMenu(action);
     WatchOpening(*menu);
-    // Assistive technology opens menus without asking.
-    const auto closeWhereNoneOpens = [menu, &action] {
+    // Assistive technology can open a menu although its window takes no input.
+    const auto closeIfBlocked = [menu, &action] {
       if (!TakesInput(BarOf(action))) menu->close();
     };
-    QObject::connect(menu, &QMenu::aboutToShow, menu, closeWhereNoneOpens, Qt::QueuedConnection);
-    // The toolkit does not announce the item of the outer menu that gets the keyboard back.
+    QObject::connect(menu, &QMenu::aboutToShow, menu, closeIfBlocked, Qt::QueuedConnection);
+    // When a menu closes, the toolkit does not announce the item that opened it.
     QObject::connect(
         menu, &QMenu::aboutToHide, &action, [&action] { AnnounceIfActive(action); },
         Qt::QueuedConnection);
@@ -118,7 +118,7 @@ void MenuItem::prepare(const char* name, const std::string& caption) {
     setCaption(caption);
   QObject::connect(action_, &QAction::triggered, action_, [this] {
     action_->setChecked(action_->isCheckable());  // restores it: only ticked items are checkable
-    // Assistive technology triggers items of any window, and waits until this returns.
+    // Assistive technology can trigger items of a blocked window, and waits until this returns.
     PressLater(BarOf(*action_), [this] { Raise(onClick); });
   });
   QObject::connect(action_, &QAction::hovered, action_, [this] {

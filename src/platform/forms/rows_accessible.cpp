@@ -23,7 +23,7 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
                   {QStringLiteral("setsize"), QString::number(rows_.count())}};
         }) {}
 
-  // The row's number among these, or -1 if it is none of them.
+  // The row's number, or -1 if it does not belong to `rows`.
   int indexIn(const Rows& rows) const { return &rows == &rows_ ? row_ : -1; }
   // To be called when another interface has replaced this one.
   void markReplaced() { isReplaced_ = true; }

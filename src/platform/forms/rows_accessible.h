@@ -1,4 +1,4 @@
-// What assistive technology is told of the rows of lists, drop-downs and trees. Shared by the
+// What assistive technology gets to know of the rows of lists, drop-downs and trees. Shared by the
 // sources of this folder; no other code includes it.
 #pragma once
 
@@ -12,7 +12,7 @@ class QWidget;
 
 namespace forms {
 
-// Register the interfaces, once, when the application starts.
+// Register the interfaces. To be called once, when the application starts.
 void MakeListsAccessible();
 void MakeDropDownsAccessible();
 void MakeTreesAccessible();
@@ -22,7 +22,7 @@ struct RowState {
   bool expandable = false, expanded = false;
 };
 
-// What a control knows of the rows that it shows. They count from 0; -1 is none.
+// The rows of a control, numbered from 0. The number -1 means none.
 class Rows {
  public:
   virtual int count() const = 0;
@@ -38,7 +38,7 @@ class Rows {
   ~Rows() = default;
 };
 
-// The rows as children of the control that `rows` belongs to. Changed names are announced.
+// Makes the rows children of their control for assistive technology. Announces changed names.
 class AccessibleRows {
  public:
   AccessibleRows(QWidget& control, const QAbstractItemModel& model, Rows& rows);
@@ -49,10 +49,10 @@ class AccessibleRows {
   // The current row of a control that has the focus, else null.
   QAccessibleInterface* focused() const;
   void announceFocus() const;
-  // Screen readers ignore what changes of a row that they know, but speak a new row. So the current
-  // row gets a new interface.
+  // Announces the current row with a new interface. Screen readers ignore changes of a row that
+  // they know, but speak a new row.
   void announceAsNewRow();
-  // Waits until all changes of the present event are done.
+  // Announces changed names after all changes of the present event are done.
   void announceNamesLater();
 
  private:

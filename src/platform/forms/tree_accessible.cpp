@@ -6,9 +6,9 @@
 namespace forms {
 namespace {
 
-// Replaces the toolkit's interface, whose rows are selected at once whatever window is in front,
-// and report that the current one has the focus wherever the focus is. Its rows are those that a
-// person could scroll to: no row of a closed folder is one.
+// Replaces the toolkit's interface. In that one, a row can be selected although a window in front
+// blocks the tree, and the current row always reports that it has the focus. This one has a row for
+// each folder whose parents are all open.
 class TreeInterface : public QAccessibleWidget, private Rows {
  public:
   explicit TreeInterface(QTreeWidget* tree)
@@ -77,7 +77,7 @@ class TreeInterface : public QAccessibleWidget, private Rows {
   QTreeWidget* tree() const { return qobject_cast<QTreeWidget*>(object()); }
 
   AccessibleRows rows_;
-  QObject connections_;  // end with the interface
+  QObject connections_;  // the connections end with this interface
 };
 
 }  // namespace

@@ -43,7 +43,8 @@ FoldersPage::FoldersPage(forms::Frame& frame) : frame_(frame) {
   File1.onDblClick = [this] { File1_DblClick(); };
   std::vector<const forms::Control*> order = {&Drive1, &Dir1, &File1};
   for (int index = 0; index < kLists; ++index) {
-    // Its list has the same name. A screen reader would speak a long label when it enters the page.
+    // Otherwise a screen reader would speak a long label when it enters the page, although the list
+    // has the same name.
     Label1[index].setRole(forms::Role::Decoration);
     cmdRemovePath[index].setEnabled(false);
     lstFolders[index].onClick = [this, index] { lstFolders_Click(index); };
