@@ -1,6 +1,8 @@
-// What is painted: the focus, and texts that are too long for their place.
+// What is painted: rows, the focus, and texts that are too long for their place.
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <algorithm>
+#include <cmath>
 
 #include "platform/forms/form.h"
 #include "platform/forms/label.h"
@@ -9,7 +11,45 @@
 
 namespace {
 
+double Luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
 class Painting : public support::UiTest {};
+
+TEST_F(Painting, GamesThatAreNotAvailableAreQuieterAndCanBeRead) {
+  write("roms/a.zip", "");
+  start();
+  act("press Tab");  // away, since the ring of the focus stands out as well
+  auto& list = get<QListWidget>(window(), "lstGames");
+  // How far the text of a row stands out.
+  const auto contrastOf = [&](int row, QPalette::ColorRole background) {
+    const auto place = list.visualItemRect(list.item(row)).adjusted(3, 2, -3, -2);
+    const auto image = list.viewport()->grab(place).toImage();
+    const auto behind = Luminance(list.palette().color(background));
+    double most = 1;
+    for (int x = 0; x < image.width(); ++x)
+      for (int y = 0; y < image.height(); ++y) {
+        const auto [dark, light] = std::minmax({Luminance(image.pixelColor(x, y)), behind});
+        most = std::max(most, (light + 0.05) / (dark + 0.05));
+      }
+    return most;
+  };
+  for (const auto& desktop : {QPalette(QColor(240, 240, 240)), QPalette(QColor(45, 45, 45))}) {
+    list.setPalette(desktop);
+    list.setCurrentRow(0);
+    EXPECT_GE(contrastOf(1, QPalette::Base), 4.5);
+    list.setCurrentRow(1);
+    EXPECT_GE(contrastOf(1, QPalette::Highlight), 4.5);
+    const auto available = contrastOf(0, QPalette::Base);
+    list.setCurrentRow(0);
+    EXPECT_LT(contrastOf(1, QPalette::Base), available - 3);
+  }
+}
 
 TEST_F(Painting, TheFocusOfALinkIsSeen) {
   start();
@@ -93,6 +133,15 @@ TEST_F(Painting, AListHasOneLineRoundItThatItsFirstRowKeepsOff) {
     }
     EXPECT_EQ(lines, 1);
   });
+}
+
+TEST_F(Painting, AWindowLargerThanTheScreenHasItsCornerOnIt) {
+  forms::Form large("large", forms::Border::FixedSingle, 20000, 20000);
+  large.centreOnScreen();
+  EXPECT_EQ(large.clientArea()->window()->pos(), QPoint(0, 0));
+  forms::Form larger("larger", forms::Border::FixedDialog, 30000, 30000);
+  larger.centreOver(large);
+  EXPECT_EQ(larger.clientArea()->window()->pos(), QPoint(0, 0));
 }
 
 }  // namespace

@@ -50,7 +50,19 @@ QStringList RowsOf(const QWidget& control) {
   if (const auto* list = qobject_cast<const QListWidget*>(&control))
     for (int row = 0; row < list->count(); ++row) rows << RowText(*list, row);
   if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
+    auto& told = Told(*tree);
+    for (int cell = 0; cell < told.childCount(); ++cell) {
+      const auto state = told.child(cell)->state();
+      if ((state.focused && !tree->hasFocus()) || !(state.invisible || tree->isVisible()))
+        rows << "TOLD THOUGH HIDDEN OR WITHOUT FOCUS";
+    }
+    const auto* focus = told.focusChild();
+    if (tree->hasFocus() && (!focus || !focus->state().focused || focus->state().invisible))
+      rows << "FOCUS NOT TOLD";
     const auto* selected = tree->selectedItems().first();
+    const auto place = tree->visualItemRect(selected).left();
+    if (tree->isVisible() && (place < 0 || place > tree->viewport()->width() / 2))
+      rows << "OUT OF SIGHT";
     rows << selected->text(0);
     for (int row = 0; selected->isExpanded() && row < selected->childCount(); ++row)
       rows << selected->child(row)->text(0);
@@ -181,8 +193,12 @@ QList<Snapshot> SnapshotsOf(const QWidget& window) {
       {}, window.windowIcon().isNull() ? "NO ICON" : "icon");
   const auto* focus = window.focusWidget();
   add("Focus", focus && isOurs(*focus) ? focus->objectName() : "", {}, "at first");
-  const auto* popup = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
-  add("Menu", popup ? popup->menuAction()->objectName() + " is open" : "", {}, "");
+  const auto* popup = QApplication::activePopupWidget();
+  const auto* menu = qobject_cast<const QMenu*>(popup);
+  const auto name = menu    ? menu->menuAction()->objectName()
+                    : popup ? popup->parentWidget()->objectName()
+                            : "";
+  add("Menu", name.isEmpty() ? "" : name + " is open", {}, "");
   QStringList order;
   for (auto* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
     if (next->isVisible() && next->focusPolicy() & Qt::TabFocus) order << next->objectName();

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTimer>
 #include <fstream>
 
 #include "platform/code_page.h"
@@ -26,21 +27,26 @@ QString KeyOf(const QWidget& window) {
   return isOfGame ? name + "_of_a_game" : name;
 }
 
-// What tests/windows tells of a window: the first line of each control, over those of the window
-// that it is a variant of.
+// What tests/windows tells of a window: the first line of each control, over what it tells of the
+// window that it is a variant of.
 QMap<QString, Snapshot> UsualLook(const QString& key) {
   if (key.isEmpty()) return {};
   auto usual = UsualLook(key.contains("_of_") ? key.section("_of_", 0, 0) : "");
-  static const QRegularExpression form(R"(^  (\S+):(?: (?!\[)(.*?))?(?: \[(.*)\])? --(?: (.*))?$)");
+  static const QRegularExpression form(
+      R"(^  ([^:]+):(?: (?!\[|--)(.*?))?(?: \[(.*)\])?(?: --(?: (.*))?)?$)");
   QStringList known;
   for (const auto& line :
        LinesOf(ToPath(TESTS) / "windows" / ToPath((key + ".txt").toStdString()))) {
     const auto found = form.match(line);
-    const auto name = found.captured(1), rows = found.captured(3);
-    if (!found.hasMatch() || known.contains(name)) continue;
-    known << name;
-    usual[name] = {name, found.captured(2),
-                   found.hasCaptured(3) ? rows.split(" | ") : QStringList(), found.captured(4)};
+    for (const auto& name : found.captured(1).split(", ", Qt::SkipEmptyParts)) {
+      if (known.contains(name)) continue;
+      known << name;
+      auto& control = usual[name];
+      control.name = name;
+      control.state = found.captured(2);
+      if (found.hasCaptured(3)) control.rows = found.captured(3).split(" | ");
+      if (found.hasCaptured(4)) control.looks = found.captured(4);
+    }
   }
   return usual;
 }
@@ -83,8 +89,8 @@ std::vector<fs::path> FilesOf(const char* folder) {
   return files;
 }
 
-std::string Transcript::run(const fs::path& file) {
-  for (const auto& line : LinesOf(file)) {
+std::string Transcript::run(const fs::path& transcript) {
+  for (const auto& line : LinesOf(transcript)) {
     if (line.startsWith("  "))
       lines_.last().content << line.mid(2);
     else
@@ -92,55 +98,65 @@ std::string Transcript::run(const fs::path& file) {
   }
   EXPECT_TRUE(!lines_.isEmpty() && lines_[0].text.startsWith("# "))
       << "a headline tells what must hold";
-  if (file.parent_path().filename() == "windows")
-    only_ = QString::fromStdString(ToText(file.stem()));
-  clock_.onSleep = [this] { lookAtPlay(); };
+  if (transcript.parent_path().filename() == "windows")
+    only_ = QString::fromStdString(ToText(transcript.stem()));
+  clock_.onSleep = [this] { playASecond(); };
+  lookAtFiles(false);
   runUntilClosed(nullptr);
   return text_.toStdString();
 }
 
-// The main window stays.
+// The main window stays. What is still done comes too late.
 void Transcript::runUntilClosed(QWidget* opened) {
-  while (next_ < lines_.size() && (!opened || opened->isVisible())) run(lines_[next_++], opened);
+  const auto goesOn = [&] {
+    return !opened || opened->isVisible() || steps_.value(0).startsWith("still ");
+  };
+  while ((!steps_.isEmpty() || next_ < lines_.size()) && goesOn()) {
+    if (steps_.isEmpty() && !begin(lines_[next_++])) continue;
+    clock_.sleeps.clear();
+    run(steps_.takeFirst(), opened);
+    if (const auto pause = std::exchange(pause_, 0); pause > 0)
+      out(QString("the in-game window stays for %1 seconds").arg(pause));
+    if (steps_.isEmpty()) lookAtAll(opened ? *opened : window());
+  }
 }
 
-void Transcript::run(const Line& line, QWidget* opened) {
+// Whether it has steps.
+bool Transcript::begin(const Line& line) {
   text_ += line.text + "\n";
+  steps_ = line.text.startsWith("> ") ? SingleSteps(line.text.mid(2)) : QStringList();
   if (line.text.startsWith("$ ")) {
     for (const auto& below : line.content) text_ += "  " + below + "\n";
-    return given(line.text.section(' ', 1, 1), line.text.section(' ', 2), line.content);
-  }
-  if (!line.text.startsWith("> ")) {
+    given(line.text.section(' ', 1, 1), line.text.section(' ', 2), line.content);
+    lookAtFiles(false);
+  } else if (steps_.isEmpty()) {
     EXPECT_TRUE(line.text.startsWith("# ")) << qPrintable("no line of a transcript: " + line.text);
-    return;
   }
-  clock_.sleeps.clear();
-  for (const auto& step : SingleSteps(line.text.mid(2))) {
-    const auto target = step.section(' ', -1).section(':', 0, 0);
-    acted_ = target;
-    const auto action = [&] {
-      try {
-        if (step == "start") {
-          last_.clear();
-          startLooking("Form1");
-          start();
-        } else if (const auto told = act(opened ? *opened : window(), step); !told.isEmpty()) {
-          out(told);
-        }
-      } catch (const std::runtime_error& reason) {
-        out(QString("THIS CAN'T BE DONE: ") + reason.what());
+  return !steps_.isEmpty();
+}
+
+void Transcript::run(QString step, QWidget* opened) {
+  step.remove(QRegularExpression("^still "));
+  const auto target = step.section(' ', -1).section(':', 0, 0);
+  acted_ = target;
+  const auto action = [&] {
+    try {
+      if (step == "start") {
+        last_.clear();
+        startLooking("Form1");
+        start();
+      } else if (const auto told = act(opened ? *opened : window(), step); !told.isEmpty()) {
+        out(told);
       }
-    };
-    if (step == "start") lookAtFiles(false);
-    whenModal([this](QWidget& modal) { useOpened(modal); }, action);
-    acted_ = target;
-    // The button of an access key is seen to go down first.
-    const auto isClosed = [&] { return !opened || !opened->isVisible(); };
-    if (step.contains("Alt+") && !QTest::qWaitFor(isClosed)) out("nothing closes");
-  }
-  auto& after = opened ? *opened : window();
-  if (after.isVisible()) look(after);
-  lookAtFiles(true);
+    } catch (const std::runtime_error& reason) {
+      out(QString("THIS CAN'T BE DONE: ") + reason.what());
+    }
+  };
+  whenModal([this](QWidget& modal) { useOpened(modal); }, action);
+  acted_ = target;
+  // The button of an access key is seen to go down first.
+  const auto isClosed = [&] { return !opened || !opened->isVisible(); };
+  if (step.contains("Alt+") && !QTest::qWaitFor(isClosed)) out("nothing closes");
 }
 
 void Transcript::useOpened(QWidget& opened) {
@@ -155,8 +171,9 @@ void Transcript::useOpened(QWidget& opened) {
     out(opened.objectName() + " opens");
     startLooking(KeyOf(opened));
     acted_.clear();
-    look(opened);
+    if (steps_.isEmpty()) look(opened);
   }
+  if (steps_.isEmpty()) outSaid();
   runUntilClosed(&opened);
   if (!box && !opened.isVisible()) out(opened.objectName() + " closes");
 }
@@ -168,7 +185,7 @@ void Transcript::given(const QString& what, const QString& value, const QStringL
   else if (what == "games")
     addGames(name);
   else if (what == "file")
-    write(name, text);
+    write(QByteArray::fromPercentEncoding(value.toUtf8()).toStdString(), text);
   else if (what == "picture")
     writePicture(value.section(' ', 0, 0).toStdString(), QColor(value.section(' ', 1)));
   else if (what == "remove")
@@ -190,13 +207,34 @@ void Transcript::startLooking(const QString& key) {
       UsualLook(describeWhole_ ? key.contains("_of_") ? key.section("_of_", 0, 0) : "" : key);
 }
 
-// The in-game window goes by itself.
-void Transcript::lookAtPlay() {
-  const auto* gaming = QApplication::activeModalWidget();
-  if (clock_.sleeps.size() != 1 || !gaming) return;
-  out("frmGaming opens");
-  startLooking("frmGaming");
-  look(*gaming);
+// The in-game window opens and goes by itself. Where the log of the play has gone, the play is
+// over.
+void Transcript::playASecond() {
+  auto* gaming = QApplication::activeModalWidget();
+  if (!gaming) return;
+  if (clock_.sleeps.size() == 1) {
+    out("frmGaming opens");
+    startLooking("frmGaming");
+    look(*gaming);
+    outSaid();
+    WaitForChild();
+    logSeen_ = false;
+  }
+  if (eventsWait_) out("no events are handled");
+  eventsWait_ = true;
+  QTimer::singleShot(0, &timer_, [this] { eventsWait_ = false; });
+  pause_ += logSeen_ && !exists("error.log");
+  logSeen_ = logSeen_ || exists("error.log");
+  if (next_ == lines_.size() || !lines_[next_].text.startsWith("> during the play, ")) return;
+  begin(lines_[next_++]);
+  for (steps_.removeFirst(); !steps_.isEmpty();) run(steps_.takeFirst(), gaming);
+  lookAtAll(*gaming);
+}
+
+void Transcript::lookAtAll(const QWidget& window) {
+  if (window.isVisible()) look(window);
+  outSaid();
+  lookAtFiles(true);
 }
 
 // Controls that have come to the same stand together. Of the window that the file describes, what
@@ -209,16 +247,24 @@ void Transcript::look(const QWidget& window) {
   for (const auto& now : SnapshotsOf(window)) {
     auto old = std::exchange(before[now.name], now);
     old.name = now.name;
-    if (key == only_ && (describeWhole_ ? Whole(now) != Whole(old) : now.looks != old.looks))
-      out(Whole(now));
-    if (!only_.isEmpty() || (now.name == "Focus" && now.state == acted_)) continue;
-    for (const auto& change : ChangesOf(old, now)) {
-      if (!names.contains(change)) order << change;
-      names[change] << now.name;
+    const bool described = key == only_;
+    if (described && now.looks != old.looks) {
+      order << Whole(now);
+    } else if (described ? describeWhole_
+                         : only_.isEmpty() && now.name + now.state != "Focus" + acted_) {
+      for (const auto& change : ChangesOf(old, now)) {
+        if (!names.contains(change)) order << change;
+        names[change] << now.name;
+      }
     }
   }
   for (auto& change : order) change.prepend(names[change].join(", "));
-  outJoined("", order);
+  if (key != only_) {
+    said_ << (only_.isEmpty() ? order : QStringList());
+  } else {
+    outSaid();
+    for (const auto& line : order) outJoined("", {line});
+  }
   describeWhole_ = false;
 }
 
@@ -251,19 +297,20 @@ void Transcript::lookAtFiles(bool write) {
       now["waiting"] << line;
   }
   const auto before = std::exchange(files_, now);
+  if (!write) return;
   for (const auto* what : {"waiting", "saved", "setting", "file"}) {
     auto gone = before[what], come = now[what];
     for (const auto& line : now[what]) gone.removeOne(line);
     for (const auto& line : before[what]) come.removeOne(line);
     gone.sort();
     come.sort();
-    if (write) outJoined(QString(what) + " - ", gone);
-    if (write) outJoined(QString(what) + " + ", come);
+    outJoined(QString(what) + " - ", gone);
+    outJoined(QString(what) + " + ", come);
   }
-  if (write && before["saved"] == now["saved"] && bytes != bytes_ && !bytes.empty())
+  if (before["saved"] == now["saved"] && bytes != bytes_ && !bytes.empty())
     out("saved in other bytes");
-  for (const auto status : std::exchange(ends, {}))
-    out("the program ends with " + QString::number(status));
+  said_ << std::exchange(happened, {});
+  outSaid();
 }
 
 // As many in a line as it takes.
@@ -271,11 +318,11 @@ void Transcript::outJoined(const QString& head, const QStringList& parts) {
   constexpr int kWidth = 98;
   QString line;
   for (const auto& part : parts) {
-    if (!line.isEmpty() && Plain(head + line + part).size() > kWidth)
-      out(head + std::exchange(line, {}));
-    line += (line.isEmpty() ? "" : "; ") + part;
+    if (!line.isEmpty() && (head + line + part).size() > kWidth)
+      text_ += "  " + head + std::exchange(line, {}) + "\n";
+    line += (line.isEmpty() ? "" : "; ") + Plain(part);
   }
-  if (!line.isEmpty()) out(head + line);
+  if (!line.isEmpty()) text_ += "  " + head + line + "\n";
 }
 
 }  // namespace support

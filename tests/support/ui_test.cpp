@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QHelpEvent>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -38,20 +39,33 @@ struct Toolkit : testing::Environment {
 
 const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
 
-}  // namespace
+// As assistive technology has it.
+QAccessibleInterface* Told(QObject* object) {
+  return QAccessible::queryAccessibleInterface(object);
+}
 
-std::string UiTest::tipAt(QWidget& widget, QPoint at) {
+// The tool tip that comes up there, markup and all.
+QString TipAt(QWidget& widget, QPoint at) {
   QHelpEvent help(QEvent::ToolTip, at, widget.mapToGlobal(at));
   QApplication::sendEvent(&widget, &help);
-  return QToolTip::text().remove(QRegularExpression("</?span[^>]*>")).toStdString();
+  return QToolTip::text().remove(QRegularExpression("</?span[^>]*>"));
 }
+
+}  // namespace
 
 UiTest::UiTest() {
   addGames("a b");
-  forms::EndProgram() = [this](int status) { ends.push_back(status); };
+  forms::EndProgram() = [this](int status) {
+    happened << "the program ends with " + QString::number(status);
+  };
+  QObject::connect(&browser_, &QTextBrowser::anchorClicked, [this](const QUrl& address) {
+    happened << "the browser opens " + address.toString();
+  });
+  QDesktopServices::setUrlHandler("https", &browser_, "anchorClicked");
 }
 
 UiTest::~UiTest() {
+  QDesktopServices::unsetUrlHandler("https");
   forms::EndProgram() = [](int status) { std::_Exit(status); };
 }
 
@@ -80,14 +94,39 @@ void UiTest::writePicture(const std::string& name, const QColor& colour, QSize s
   ASSERT_TRUE(image.save(QString::fromStdString(ToText(path(name)))));
 }
 
-void UiTest::key(const QKeySequence& key, bool held) {
-  const auto* popup = QApplication::activePopupWidget();
-  const auto* target = popup ? popup : QApplication::activeWindow();
-  ASSERT_TRUE(target) << "no window takes keys";
-  if (held)
-    QTest::simulateEvent(target->windowHandle(), true, key[0].key(), Qt::NoModifier, {}, true);
-  else
-    QTest::keyClick(target->windowHandle(), key[0].key(), key[0].keyboardModifiers());
+// A key that goes down is not released, and one that is held repeats itself. The bridge to
+// assistive technology takes the keys and sends copies, which carry no time. What is posted waits.
+void UiTest::pressKey(const QString& how, const QKeySequence& keys) {
+  ASSERT_TRUE(QApplication::activeWindow()) << "no window takes keys";
+  auto* target = QApplication::activeWindow()->windowHandle();
+  const auto key = keys[0].key();
+  if (how == "press") return QTest::keyClick(target, key, keys[0].keyboardModifiers());
+  if (how == "down" || how == "hold")
+    return QTest::simulateEvent(target, true, key, Qt::NoModifier, {}, how == "hold");
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    for (auto* below : {target, window().windowHandle()})
+      if (how == "post") QApplication::postEvent(below, new QKeyEvent(type, key, Qt::NoModifier));
+    QKeyEvent event(type, key, Qt::NoModifier, 9, 9, 0);
+    if (how == "copy") QApplication::sendEvent(target, &event);
+  }
+}
+
+// The second click goes to what stands there then.
+void UiTest::doubleClick(QPoint place) {
+  for (const auto second : {false, true}) {
+    auto* modal = QApplication::activeModalWidget();
+    auto* under = modal ? modal : QApplication::activeWindow();
+    auto* target = under->childAt(under->mapFromGlobal(place));
+    if (!target) target = under;
+    const auto press = second ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress;
+    for (const auto type : {press, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, target->mapFromGlobal(place), place, Qt::LeftButton,
+                        type == press ? Qt::LeftButton : Qt::NoButton, {});
+      event.setTimestamp(static_cast<quint64>(QTest::lastMouseTimestamp += 80));
+      QApplication::sendEvent(target, &event);
+    }
+  }
+  QTest::lastMouseTimestamp += 500;
 }
 
 QString UiTest::act(QWidget& window, const QString& step) {
@@ -105,14 +144,17 @@ QString UiTest::act(QWidget& window, const QString& step) {
   }
   if (verb == "close") {
     window.close();
-  } else if (verb == "press" || verb == "hold") {
+  } else if (verb == "wait") {
+    QTest::qWait(what.toInt());
+  } else if (QStringList{"press", "down", "hold", "copy", "post"}.contains(verb)) {
     if (words.size() > 1) get(window, name).setFocus();
-    key(QKeySequence(what), verb == "hold");
+    pressKey(verb, QKeySequence(what));
+    if (verb == "post") return {};
   } else if (auto* item = this->window().findChild<QAction*>(name)) {
     if (verb == "choose") item->trigger();
     auto* menu = qobject_cast<QWidget*>(item->parent());
     const auto place = menu->actions().indexOf(item);
-    if (verb == "activate") activate(told(menu)->child(static_cast<int>(place)));
+    if (verb == "activate") activate(Told(menu)->child(static_cast<int>(place)));
   } else {
     // Assistive technology reaches what lies behind as well.
     auto* control = window.findChild<QWidget*>(name);
@@ -127,16 +169,19 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
   auto* list = qobject_cast<QListWidget*>(&control);
   const int row = words.last().section(':', 1).toInt();
   const bool isRow = words.last().contains(':');
-  auto& target = isRow && list ? *list->viewport() : control;
-  // Near the left end, where a check box has its box.
-  const auto place =
-      isRow && list ? list->visualItemRect(list->item(row)).center() : QPoint(9, control.height() / 2);
+  auto* tree = qobject_cast<QTreeWidget*>(&control);
+  auto& target = isRow && list ? *list->viewport() : tree ? *tree->viewport() : control;
+  // Near the left end, where a check box has its box; of a tree in its current row.
+  const auto place = isRow && list ? list->visualItemRect(list->item(row)).center()
+                     : tree        ? tree->visualItemRect(tree->currentItem()).center()
+                                   : QPoint(9, control.height() / 2);
   const QPoint thumb(control.height() + 14, control.height() / 2), moved(150, 0);  // of a bar
-  if (verb == "hover") return "tip " + QString::fromStdString(tipAt(target, place));
+  if (verb == "hover") return "tip " + TipAt(target, place);
   if (verb == "focus" || verb == "type" || verb == "paste") control.setFocus();
-  if (verb == "click" || verb == "double-click") {
+  if (verb == "click") {
     QTest::mouseClick(&target, Qt::LeftButton, {}, place);
-    if (verb == "double-click") QTest::mouseDClick(&target, Qt::LeftButton, {}, place);
+  } else if (verb == "double-click") {
+    doubleClick(target.mapToGlobal(place));
   } else if (verb == "wheel") {
     QWheelEvent wheel(place, control.mapToGlobal(place), {}, {0, what.toInt()}, {}, {}, {}, false);
     QApplication::sendEvent(&control, &wheel);
@@ -149,17 +194,19 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
     QTest::keyClicks(&control, what);
   } else if (verb == "paste") {
     QApplication::clipboard()->setText(what);
-    key(QKeySequence::Paste);
+    pressKey("press", QKeySequence::Paste);
   } else if (verb == "open") {
     // As a person would by opening its parents.
-    auto& tree = dynamic_cast<QTreeWidget&>(control);
-    tree.setCurrentItem(tree.findItems(what, Qt::MatchExactly | Qt::MatchRecursive).first());
+    tree->setCurrentItem(tree->findItems(what, Qt::MatchExactly | Qt::MatchRecursive).value(0));
   } else if (verb == "activate") {
-    activate(isRow ? told(&control)->child(row) : told(&control));
+    activate(isRow ? Told(&control)->child(row) : Told(&control));
+  } else if (verb == "toggle") {
+    Told(&control)->child(row)->actionInterface()->doAction(
+        QAccessibleActionInterface::toggleAction());
   } else if (verb == "set") {
-    if (auto* text = told(&control)->editableTextInterface())
+    if (auto* text = Told(&control)->editableTextInterface())
       return text->replaceText(0, 9, what), QString();
-    told(&control)->valueInterface()->setCurrentValue(what.toInt());
+    Told(&control)->valueInterface()->setCurrentValue(what.toInt());
   } else if (verb != "focus") {
     throw std::runtime_error("nobody can " + verb.toStdString());
   }
@@ -167,13 +214,11 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
   return {};
 }
 
-QAccessibleInterface* UiTest::told(QObject* object) {
-  return QAccessible::queryAccessibleInterface(object);
-}
-
 void UiTest::activate(QAccessibleInterface* interface) {
+  assists_ = true;
   for (const auto& action : interface->actionInterface()->actionNames())
     interface->actionInterface()->doAction(action);
+  assists_ = false;
   QTest::qWait(150);  // the toolkit's own buttons take 100 ms
 }
 
@@ -182,12 +227,7 @@ void UiTest::modify(const char* page, const std::function<void(QWidget&)>& step)
     act(options, QString("click ") + page);
     step(options);
   };
-  inModal(inPage, [this] { act("choose mConfig"); });
-}
-
-void UiTest::inModal(const std::function<void(QWidget&)>& step,
-                     const std::function<void()>& action) {
-  EXPECT_TRUE(whenModal(step, action)) << "no window opened";
+  EXPECT_TRUE(whenModal(inPage, [this] { act("choose mConfig"); })) << "no window opened";
 }
 
 bool UiTest::whenModal(const std::function<void(QWidget&)>& step,
@@ -203,6 +243,7 @@ bool UiTest::whenModal(const std::function<void(QWidget&)>& step,
     if (!opened && --patience > 0) return;
     timer.stop();
     done = opened;
+    EXPECT_FALSE(assists_) << "assistive technology does not wait for what it opens";
     if (opened) step(*modal);
     if (modal != before) modal->close();
   });

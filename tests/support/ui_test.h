@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QTest>
+#include <QTextBrowser>
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -17,7 +17,7 @@
 namespace support {
 
 // The main window over a fresh AppFolder with an emulator of two games, driven by object names and
-// real events. The end of the program is noted and does not happen.
+// real events. The end of the program and the browser are noted and do not happen.
 class UiTest : public TempApp {
  protected:
   UiTest();
@@ -30,18 +30,19 @@ class UiTest : public TempApp {
   static void writeConfig(std::string lines);
   static void writePicture(const std::string& name, const QColor& colour, QSize size = {32, 32});
 
-  // Does one step, as a transcript writes it (CONTRIBUTING.md lists them); what it tells at once,
-  // such as a tool tip.
+  // Does one step; what it tells at once, such as a tool tip. "NAME:2" is a row of a list.
+  //   click, double-click, hover, focus NAME        answer BUTTON        choose MENU_ITEM
+  //   press KEY [in NAME]; down, hold: without its release, as one that repeats itself;
+  //   copy: as assistive technology sends it on; post: obeyed only when the events are handled
+  //   type, paste TEXT in NAME    wheel 120 in NAME    drag, drop BAR      open FOLDER in TREE
+  //   activate NAME, toggle NAME:2, set VALUE in NAME: by assistive technology
+  //   wait MILLISECONDS           close
   QString act(QWidget& window, const QString& step);
   QString act(const QString& step) { return act(window(), step); }
   // Does what may open a modal window, and runs the step in it if it does; otherwise false.
   bool whenModal(const std::function<void(QWidget&)>& step, const std::function<void()>& action);
-  // The same where it has to open one within seconds.
-  void inModal(const std::function<void(QWidget&)>& step, const std::function<void()>& action);
-  // The same in a page of the options of all games.
+  // Runs the step in a page of the options of all games.
   void modify(const char* page, const std::function<void(QWidget&)>& step);
-  // A key to the active window; one that is held repeats itself.
-  static void key(const QKeySequence& key, bool held = false);
 
   QWidget& window() const { return *form->clientArea()->window(); }
   // What has this name in a window.
@@ -51,19 +52,19 @@ class UiTest : public TempApp {
     if (!child) throw std::runtime_error("nothing is called " + name.toStdString());
     return *child;
   }
-  // As assistive technology has it, and what it can do to it.
-  static QAccessibleInterface* told(QObject* object);
-  static void activate(QAccessibleInterface* interface);
-  // The tool tip, markup and all, that comes up there.
-  static std::string tipAt(QWidget& widget, QPoint at);
-
   static std::string file() { return read("Config/Kestrivane.ini"); }
 
   std::unique_ptr<ui::Form1> form;
-  std::vector<int> ends;  // exit statuses
+  QStringList happened;  // outside: the program's end, a page in the browser
 
  private:
+  void pressKey(const QString& how, const QKeySequence& keys);
+  static void doubleClick(QPoint place);
+  void activate(QAccessibleInterface* interface);
   QString actOn(QWidget& control, const QString& verb, const QStringList& words);
+
+  bool assists_ = false;
+  QTextBrowser browser_;  // takes the addresses that are opened
 };
 
 }  // namespace support
