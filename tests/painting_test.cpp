@@ -114,24 +114,22 @@ TEST_F(Painting, AListHasOneLineRoundItThatItsFirstRowKeepsOff) {
     get<QListWidget>(options, "lstInput(0)").setCurrentRow(0);
     const auto image = options.grab().toImage();
     const auto scale = image.devicePixelRatio();
-    const auto at = [&](QPointF place) {
-      const auto onScreen = (first.mapTo(&options, QPoint()) + place) * scale;
-      return image.pixelColor(static_cast<int>(onScreen.x()), static_cast<int>(onScreen.y()));
+    // Whether what is met on the way is the ground of the list, without repetition.
+    const auto groundOn = [&](QPointF from, QPointF to) {
+      std::vector<bool> grounds;
+      const auto steps = static_cast<int>((to - from).manhattanLength() * scale);
+      for (int step = 0; step <= steps; ++step) {
+        const auto at =
+            (first.mapTo(&options, QPoint()) + from + (to - from) * step / steps) * scale;
+        grounds.push_back(image.pixelColor(static_cast<int>(at.x()), static_cast<int>(at.y())) ==
+                          first.palette().color(QPalette::Base));
+      }
+      grounds.erase(std::unique(grounds.begin(), grounds.end()), grounds.end());
+      return grounds;
     };
-    const auto base = first.palette().color(QPalette::Base);
-    const auto middle = first.width() / 2.0;
-    EXPECT_NE(at({middle, 0.5}), base) << "the frame";
-    EXPECT_EQ(at({middle, 1.6}), base);
-    EXPECT_NE(at({middle, 3.5}), base) << "the selected row";
-    // Between two columns, below the rows' texts.
-    int lines = 0;
-    bool inLine = false;
-    for (double x = -4; x < 4; x += 1 / scale) {
-      const bool line = at({x, first.height() - 4.0}) != base;
-      lines += line && !inLine;
-      inLine = line;
-    }
-    EXPECT_EQ(lines, 1);
+    const double middle = first.width() / 2.0, bottom = first.height() - 4.0;
+    EXPECT_EQ(groundOn({middle, 0.5}, {middle, 3.5}), (std::vector{false, true, false}));
+    EXPECT_EQ(groundOn({-4, bottom}, {4, bottom}), (std::vector{true, false, true}));
   });
 }
 

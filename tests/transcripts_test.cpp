@@ -12,34 +12,24 @@ namespace {
 
 using Path = std::filesystem::path;
 
-std::string PlainName(const Path& file) {
-  auto name = file.stem().string();
-  std::replace_if(
-      name.begin(), name.end(), [](char letter) { return !std::isalnum(letter); }, '_');
-  return name;
-}
-
 class Transcript : public support::Transcript, public testing::WithParamInterface<Path> {};
 
 TEST_P(Transcript, Holds) {
-  std::ifstream in(GetParam(), std::ios::binary);
-  const std::string kept(std::istreambuf_iterator<char>(in), {});
-  const auto now = run(GetParam());
+  const auto kept = support::ReadFile(GetParam()), now = run(GetParam());
   if (now == kept) return;
   if (std::getenv("UPDATE_TRANSCRIPTS")) {
     std::ofstream(GetParam(), std::ios::binary) << now;
     return;
   }
   const auto lines = [](const std::string& text) {
-    std::vector<std::string> all;
-    for (const auto line : base::Split(text, "\n")) all.emplace_back(line);
-    return all;
+    const auto all = base::Split(text, "\n");
+    return std::vector<std::string>(all.begin(), all.end());
   };
   ADD_FAILURE() << "- what " << GetParam().filename().string() << " tells, + what happens now\n"
                 << testing::internal::edit_distance::CreateUnifiedDiff(lines(kept), lines(now));
 }
 
-const auto kNameOf = [](const auto& file) { return PlainName(file.param); };
+const auto kNameOf = [](const auto& file) { return file.param.stem().string(); };
 INSTANTIATE_TEST_SUITE_P(Window, Transcript, testing::ValuesIn(support::FilesOf("windows")),
                          kNameOf);
 
@@ -96,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(, Language,
                          testing::Combine(testing::ValuesIn(support::FilesOf("windows")),
                                           testing::Values(1, 2)),
                          [](const auto& test) {
-                           return PlainName(std::get<0>(test.param)) + "_" +
+                           return std::get<0>(test.param).stem().string() + "_" +
                                   std::to_string(std::get<1>(test.param));
                          });
 
