@@ -25,7 +25,6 @@ void CheckRebuilding(core::BindingCells cells) {
     return;
   std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
   Require(core::CellsOf(value) == cells, "the cells come back, closed up");
-  Require(core::ValueOf(core::CellsOf(value)) == value, "the value comes back");
 }
 
 void CheckNumbering(std::string_view value, int player) {

@@ -1,7 +1,5 @@
 // A command line: the program found is one that is there and that the line names, and no part of
 // the line gets lost or is made up.
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cstring>
 
@@ -29,8 +27,7 @@ void fuzz::Examine(std::string_view bytes) {
   if (!command) return;
 
   const auto& program = command->program;
-  struct stat status {};
-  Require(stat(program.c_str(), &status) == 0 && S_ISREG(status.st_mode), "the program is a file");
+  Require(std::filesystem::is_regular_file(program), "the program is a file");
   Require(!HasZero(program) &&
               std::none_of(command->arguments.begin(), command->arguments.end(), HasZero),
           "the system sees the whole text");
@@ -42,12 +39,10 @@ void fuzz::Examine(std::string_view bytes) {
     arguments += argument;
   }
   const auto line = Bare(bytes);
-  const auto fits = [&](std::string_view name) {
-    return line == Bare(std::string(name) + arguments) ||
-           (name.ends_with(".exe") &&
-            line == Bare(std::string(name.substr(0, name.size() - 4)) + arguments));
+  const auto fits = [&](const std::string& name) {
+    return line == Bare(name + arguments) ||
+           (name.ends_with(".exe") && line == Bare(name.substr(0, name.size() - 4) + arguments));
   };
-  Require(fits(program) || (program.starts_with("./") && fits(program.substr(2))) ||
-              (program.starts_with(folder) && fits(program.substr(folder.size()))),
+  Require(fits(program) || (program.starts_with(folder) && fits(program.substr(folder.size()))),
           "program and arguments are the line");
 }

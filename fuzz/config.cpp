@@ -30,15 +30,15 @@ Configuration Start() {
   return start;
 }
 
-// Reused, since making a new one would take most of the time.
-Configuration& Read(std::string_view bytes) {
+// Into the shared state, whose rows are used again, since making new ones would take most of the
+// time.
+void Read(std::string_view bytes) {
   static const auto start = Start();
-  static auto read = start;
+  Configuration read;
   read.RomPaths = start.RomPaths;
   read.SnapPaths = start.SnapPaths;
   read.IconPaths = start.IconPaths;
-  read.PlayLog.fill({});
-  read.GameListPref = read.CurrentLanguage = 0;
+  read.Profiles = std::move(Module1::Profiles);
   read.Profiles.resize(2);
   read.Profiles[1] = {};
   config::ParseConfigText(platform::DecodeLines(bytes), read);
@@ -48,17 +48,7 @@ Configuration& Read(std::string_view bytes) {
     Require(read.Profiles[0].Slots[slot].Value == start.Profiles[0].Slots[slot].Value,
             "the defaults stay");
   for (const auto& profile : read.Profiles) Require(base::IsUtf8(profile.Name), "names are UTF-8");
-  return read;
-}
-
-void Exchange(Configuration& read) {
-  std::swap(Module1::RomPaths, read.RomPaths);
-  std::swap(Module1::SnapPaths, read.SnapPaths);
-  std::swap(Module1::IconPaths, read.IconPaths);
-  std::swap(Module1::PlayLog, read.PlayLog);
-  std::swap(Module1::Profiles, read.Profiles);
-  Module1::GameListPref = read.GameListPref;
-  Module1::CurrentLanguage = read.CurrentLanguage;
+  config::Adopt(std::move(read));
 }
 
 std::string Written() { return platform::EncodeCodePage(config::ConfigText()); }
@@ -99,7 +89,7 @@ std::string Held() {
 }  // namespace
 
 void fuzz::Examine(std::string_view bytes) {
-  Exchange(Read(bytes));
+  Read(bytes);
   if (Module1::Profiles.size() > core::kMaxProfiles)
     return Require(!base::RunGuarded([] { config::ConfigText(); }),
                    "too many rows are not written");
@@ -116,11 +106,11 @@ void fuzz::Examine(std::string_view bytes) {
     cleared |= Module1::Profiles[1].Slots[slot].Value == core::kNoBinding &&
                Module1::Profiles[0].Slots[slot].Value != core::kNoBinding;
   const auto held = Held();
-  Exchange(Read(written));
+  Read(written);
   const auto rewritten = Written();
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");
   Require(Held() == held, "what the format can hold comes back");
   if (!cleared) return;
-  Exchange(Read(rewritten));
+  Read(rewritten);
   Require(Written() == rewritten, "the file settles");
 }

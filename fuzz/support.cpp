@@ -11,15 +11,9 @@
 #include "platform/open_address.h"
 #include "platform/settings_store.h"
 
-// An unexpected error must not be hidden by the error boundary.
-static const bool faultsEndTheRun = [] {
-  base::UnexpectedErrorHandler() = [](const std::string& what) {
-    fuzz::Require(false, what.c_str());
-  };
-  return true;
-}();
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  // The error boundary must not hide an unexpected error.
+  base::UnexpectedErrorHandler() = [](auto& what) { fuzz::Require(false, what.c_str()); };
   fuzz::Examine({reinterpret_cast<const char*>(data), size});
   return 0;
 }

@@ -5,7 +5,7 @@
 #include "config/user_settings.h"
 #include "core/option_catalogue.h"
 #include "platform/code_page.h"
-#include "support/short_patience.h"
+#include "support/fake_clock.h"
 #include "support/state_text.h"
 #include "support/temp_app.h"
 

@@ -2,7 +2,6 @@
 #include "launch/play_launch.h"
 #include "launch/play_log.h"
 #include "support/fake_clock.h"
-#include "support/short_patience.h"
 #include "support/temp_app.h"
 
 namespace launch {

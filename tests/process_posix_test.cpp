@@ -3,15 +3,16 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <thread>
 
 #include "platform/program_start.h"
-#include "support/process_app.h"
+#include "support/temp_app.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-class PosixProcess : public support::ProcessApp {};
+class PosixProcess : public support::TempApp {};
 
 TEST_F(PosixProcess, CaptureGivesStandardOutputAsTextIfThereIsAny) {
   writeProgram("a tool.exe",

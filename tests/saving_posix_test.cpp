@@ -13,7 +13,7 @@
 #include "config/config_writer.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "support/short_patience.h"
+#include "support/fake_clock.h"
 #include "support/temp_app.h"
 
 namespace {

@@ -1,13 +1,13 @@
 // What a start finds: folders, the emulator's listing, the archives.
 #include "platform/files.h"
-#include "support/process_app.h"
+#include "support/temp_app.h"
 
 namespace core {
 namespace {
 
 using namespace Module1;
 
-class Start : public support::ProcessApp {};
+class Start : public support::TempApp {};
 
 TEST_F(Start, TakesTheEmulatorAsItIs) {
   const std::tuple<const char*, const char*, std::size_t> rows[] = {

@@ -7,7 +7,6 @@
 #include "base/text.h"
 #include "config/config_reader.h"
 #include "config/writable_names.h"
-#include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
 #include "platform/code_page.h"
 #include "platform/process.h"
@@ -59,12 +58,10 @@ class Texts : public support::TempApp {
     EXPECT_TRUE(!exists(copy) || read(copy) == bytes);
     return support::StateText() + (exists(copy) ? "bak" : "");
   }
-  // The version and each game. "SEP" and "BANNER" stand for the emulator's own texts.
+  // The version and each game.
   static std::string games(const std::string& text) {
-    auto lines = base::ReplaceIgnoringCase(text, "SEP", core::kSeparator);
-    lines = base::ReplaceIgnoringCase(lines, "BANNER", core::kBanner);
     core::GameListing listing;
-    for (const auto line : base::Split(lines, "|")) core::ParseGameListLine(line, listing);
+    for (const auto line : base::Split(text, "|")) core::ParseGameListLine(line, listing);
     auto result = listing.EmulatorVersion + ":";
     for (std::size_t game = 0; game + 2 < listing.GameCatalog.size(); ++game)
       result += listing.GameCatalog[game].RomName + "=" + listing.GameCatalog[game].Title + ",";

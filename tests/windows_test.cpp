@@ -9,8 +9,8 @@
 #include "platform/file_search.h"
 #include "platform/files.h"
 #include "platform/system_windows.h"
-#include "support/process_app.h"
-#include "support/short_patience.h"
+#include "support/fake_clock.h"
+#include "support/temp_app.h"
 
 // The entry for this function in the program's import table.
 extern "C" decltype(&CreateProcessW) __imp_CreateProcessW;
@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using Module1::AppFolder;
 
-class Windows : public support::ProcessApp {
+class Windows : public support::TempApp {
  protected:
   // What other programs have open: no access that is not shared.
   static HANDLE open(const char* name, DWORD shared) {

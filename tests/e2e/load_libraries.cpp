@@ -3,17 +3,13 @@
 #include <objbase.h>
 #include <windows.h>
 
-#include <cstring>
-
 int main(int count, char** words) {
   for (int word = 1; word < count; ++word) LoadLibraryA(words[word]);
-  if (count > 1) return 0;
   // Never comes true; the calls make the imports.
-  if (std::strlen(words[0]) > 30000) {
+  if (count < 0) {
     MessageBoxA(nullptr, "", "", MB_OK);
     ShellExecuteW(nullptr, nullptr, L"", nullptr, nullptr, SW_HIDE);
     GetOpenFileNameW(nullptr);
     CoUninitialize();
   }
-  return 0;
 }

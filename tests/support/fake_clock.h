@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/clock.h"
+#include "platform/patience.h"
 
 namespace support {
 
@@ -30,6 +31,16 @@ struct FakeClock {
   std::chrono::seconds firstSleepTakes{1};
   std::vector<long long> sleeps;  // milliseconds asked for
   std::function<void()> onSleep;
+};
+
+// For its lifetime files are waited for no longer than this.
+struct ShortPatience {
+  explicit ShortPatience(std::chrono::microseconds patience = std::chrono::milliseconds(20)) {
+    platform::FilePatience() = patience;
+  }
+  ~ShortPatience() { platform::FilePatience() = usual; }
+
+  const std::chrono::microseconds usual = platform::FilePatience();
 };
 
 }  // namespace support

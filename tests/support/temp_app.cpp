@@ -2,9 +2,12 @@
 
 #include <fstream>
 #include <random>
+#include <thread>
 
 #include "base/error_boundary.h"
+#include "launch/process_capture.h"
 #include "platform/app_folder.h"
+#include "platform/process.h"
 
 namespace support {
 
@@ -66,6 +69,17 @@ void TempApp::addEmulator(std::string_view fault) {
   fs::remove(path("Kestrivane.exe"));
   fs::copy_file(STANDIN, path("Kestrivane.exe"));
   write("standin.mode", fault);
+}
+
+std::string TempApp::capture(const std::string& command) {
+  return launch::ShellExecuteCapture(Module1::AppFolder + "\\" + command, false);
+}
+
+int TempApp::run(const std::string& command) {
+  platform::StartedProcess process(command);
+  while (process.ExitStatus() == platform::kStillActive)
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  return process.ExitStatus();
 }
 
 }  // namespace support

@@ -46,6 +46,10 @@ class TempApp : public testing::Test {
   // An emulator that lists games of these names; the titles are the names in capitals.
   static void addGames(const std::string& names) { addEmulator("games=" + names); }
 
+  // The output of a program in AppFolder, and the exit status at the end of one.
+  static std::string capture(const std::string& command);
+  static int run(const std::string& command);
+
   // Lines such as "name=value"; a value with a comma stands in quotes.
   static std::string settings();
 
