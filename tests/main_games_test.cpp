@@ -10,7 +10,7 @@ namespace {
 
 class MainGames : public support::UiTest {
  protected:
-  // The picture and the icon of a game.
+  // Selects a game and returns the colours of its picture and icon.
   std::string picturesOf(int row) {
     act("click lstGames:" + QString::number(row));
     const auto colour = [this](const char* name) { return support::ColourOf(get(window(), name)); };
@@ -18,7 +18,7 @@ class MainGames : public support::UiTest {
   }
 };
 
-TEST_F(MainGames, PicturesAreAsFineAsTheScreenAndIconsTheNearestFrame) {
+TEST_F(MainGames, PicturesHaveTheScreensResolutionAndIconsTheNearestFrame) {
   std::string head("\0\0\1\0\3\0", 6), frames;
   for (const auto& [size, colour] : {std::pair(16, Qt::green), {44, Qt::yellow}, {200, Qt::blue}}) {
     writePicture("frame.ico", colour, {size, size});
@@ -29,7 +29,7 @@ TEST_F(MainGames, PicturesAreAsFineAsTheScreenAndIconsTheNearestFrame) {
   }
   write("Icons/a.ico", head + frames);
   write("Snaps/a.jpg", "");
-  // Lines as thin as the screen has them.
+  // Lines of one pixel of the screen.
   const auto box = QSize(394, 344) * qApp->devicePixelRatio();
   QImage lines(box, QImage::Format_RGB32);
   for (int y = 0; y < box.height(); ++y)
@@ -61,7 +61,7 @@ TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
     scans += scan;
     marks += "\xFF\xDA";
   }
-  // Marks of scans in what a segment holds and behind the end count for none.
+  // Marks of scans within a segment or after the end must not count.
   const auto padded =
       "\xFF\xD8\xFF\xE1" + std::string("\0\xCA", 2) + marks + jpeg.substr(2) + scans;
   const std::pair<std::string, std::string> rows[] = {
@@ -78,7 +78,7 @@ TEST_F(MainGames, PictureThatCantBeDecodedOrCostsTooMuchLeavesTheOldOne) {
     const bool isGood = frames == icon;
     EXPECT_EQ(picturesOf(1), isGood ? "blue blue" : "red yellow") << picture.size();
   }
-  // Good but for their size.
+  // Valid files that are too large.
   for (const auto* name : {"Snaps/b.jpg", "Icons/b.ico"})
     std::filesystem::resize_file(path(name), 2147483648);
   for (const int row : {0, 1}) EXPECT_EQ(picturesOf(row), "red yellow");

@@ -7,7 +7,7 @@ namespace {
 
 class OptionsFolders : public support::UiTest {};
 
-TEST_F(OptionsFolders, OfADriveAreThoseOfTheInnermostOneThatHoldsOurs) {
+TEST_F(OptionsFolders, BeginAtTheInnermostDriveThatContainsTheProgram) {
   if (!support::kPosix) GTEST_SKIP() << "no environment moves the folder of a user there";
   const auto home = qgetenv("HOME");
   const auto parent =
@@ -22,7 +22,8 @@ TEST_F(OptionsFolders, OfADriveAreThoseOfTheInnermostOneThatHoldsOurs) {
       const auto first = drives.currentText();
       EXPECT_EQ(first == drive, drive == parent);
       drives.setCurrentText(drive == parent ? "/" : drive);
-      EXPECT_EQ(drives.currentText() == first, drive == alike) << "what can't be read is not taken";
+      EXPECT_EQ(drives.currentText() == first, drive == alike)
+          << "a drive that can't be read is not accepted";
       EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0) == "/", drive == parent);
     });
   }

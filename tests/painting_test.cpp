@@ -21,12 +21,12 @@ double Luminance(const QColor& colour) {
 
 class Painting : public support::UiTest {};
 
-TEST_F(Painting, GamesThatAreNotAvailableAreQuieterAndCanBeRead) {
+TEST_F(Painting, GamesThatAreNotAvailableHaveLessContrastButAreReadable) {
   write("roms/a.zip", "");
   start();
-  act("press Tab");  // away, since the ring of the focus stands out as well
+  act("press Tab");  // out of the list, since the focus ring has contrast too
   auto& list = get<QListWidget>(window(), "lstGames");
-  // How far the text of a row stands out.
+  // The contrast of a row's text to its background.
   const auto contrastOf = [&](int row, QPalette::ColorRole background) {
     const auto place = list.visualItemRect(list.item(row)).adjusted(3, 2, -3, -2);
     const auto image = list.viewport()->grab(place).toImage();
@@ -51,7 +51,7 @@ TEST_F(Painting, GamesThatAreNotAvailableAreQuieterAndCanBeRead) {
   }
 }
 
-TEST_F(Painting, TheFocusOfALinkIsSeen) {
+TEST_F(Painting, TheFocusOfALinkIsVisible) {
   start();
   modify("optOPT(2)", [](QWidget& window) {
     auto& link = get(window, "lblAdvOpts");
@@ -69,7 +69,7 @@ TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
     label.setCaption(text.toStdString());
     return widget.grab().toImage();
   };
-  // How many lines of text are seen.
+  // The number of visible lines of text.
   const auto linesOf = [](const QImage& image) {
     int lines = 0;
     bool inside = false;
@@ -81,7 +81,7 @@ TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
     }
     return lines;
   };
-  // Without letters that reach above or below the others.
+  // All letters have the same height, so that each line is one block of pixels.
   const auto text = QStringLiteral("sea cows are near us no one crew saw ").repeated(20);
   for (const int lines : {1, 3}) {
     label.setWordWrap(lines > 1);
@@ -97,7 +97,7 @@ TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
 }
 
 // The time that the toolkit takes for a line grows with the square of its length.
-TEST_F(Painting, EndlessLinesOfAReportAreShownAsSeveral) {
+TEST_F(Painting, VeryLongLinesOfAReportAreSplit) {
   forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
   forms::TextView view(form, "view", {0, 0, 3000, 900});
   view.setText(std::string(8001, 'x') + "\n\nend");
@@ -106,15 +106,14 @@ TEST_F(Painting, EndlessLinesOfAReportAreShownAsSeveral) {
   EXPECT_EQ(lines, QStringList({QString(4000, 'x'), QString(4000, 'x'), "x", "", "end"}));
 }
 
-// Neither is mixed up with the other, on any scale.
-TEST_F(Painting, AListHasOneLineRoundItThatItsFirstRowKeepsOff) {
+TEST_F(Painting, AListHasOneLineAroundItThatItsFirstRowDoesNotTouch) {
   start();
   modify("optOPT(2)", [](QWidget& options) {
     auto& first = get<QListWidget>(options, "lstInput(1)");
     get<QListWidget>(options, "lstInput(0)").setCurrentRow(0);
     const auto image = options.grab().toImage();
     const auto scale = image.devicePixelRatio();
-    // Whether what is met on the way is the ground of the list, without repetition.
+    // For the pixels on the way, whether they have the list's background, without repetitions.
     const auto groundOn = [&](QPointF from, QPointF to) {
       std::vector<bool> grounds;
       const auto steps = static_cast<int>((to - from).manhattanLength() * scale);

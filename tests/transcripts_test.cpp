@@ -1,4 +1,4 @@
-// Runs every file of tests/transcripts and tests/windows, and holds the windows to rules in the
+// Runs every file of tests/transcripts and tests/windows, and checks rules for the windows in the
 // other languages.
 #include <QRegularExpression>
 #include <QSet>
@@ -25,7 +25,7 @@ TEST_P(Transcript, Holds) {
     const auto all = base::Split(text, "\n");
     return std::vector<std::string>(all.begin(), all.end());
   };
-  ADD_FAILURE() << "- what " << GetParam().filename().string() << " tells, + what happens now\n"
+  ADD_FAILURE() << "- " << GetParam().filename().string() << ", + what happens now\n"
                 << testing::internal::edit_distance::CreateUnifiedDiff(lines(kept), lines(now));
 }
 
@@ -35,8 +35,8 @@ INSTANTIATE_TEST_SUITE_P(Window, Transcript, testing::ValuesIn(support::FilesOf(
 
 INSTANTIATE_TEST_SUITE_P(, Transcript, testing::ValuesIn(support::FilesOf("transcripts")), kNameOf);
 
-// Each window in the other languages: all that it says is of the catalogue in that language or one
-// of few words, and nothing is cut off or lies on another control.
+// Checks each window in the other languages: its texts are messages of that language or known
+// words, and nothing is cut off or overlaps.
 class Language : public support::Transcript,
                  public testing::WithParamInterface<std::tuple<Path, int>> {
  protected:
@@ -45,7 +45,7 @@ class Language : public support::Transcript,
   }
   void look(const QWidget& window) override {
     static const QRegularExpression quoted("\"([^\"]*)\"");
-    // The advanced options are English in every language, and so are names, keys and the emulator.
+    // Texts that are the same in all languages: names, keys, and what the emulator prints.
     static const QRegularExpression known(
         R"(A front-end for the Kestrivane emulator|Kestrivane( UI)?|v0\.9|0\.3a|ROMS|(Fragment|Vertex) Shader|DirectInput|XInput|Raw Input|MHz|OK|)"
         R"(Mouse|Joystick|ALT|F\d+|\b[A-Z]\b|\d*x\d*|a\.zip|<app>\S*|Error: there is no archive|)"
@@ -59,15 +59,16 @@ class Language : public support::Transcript,
               [](const auto& one, const auto& other) { return one.size() > other.size(); });
     for (const auto& control : support::SnapshotsOf(window)) {
       for (auto found = quoted.globalMatch(control.state + control.looks); found.hasNext();) {
-        const auto said = bare(support::Plain(found.next().captured(1)));
-        auto rest = said;
+        const auto shown = bare(support::Plain(found.next().captured(1)));
+        auto rest = shown;
         for (const auto& text : texts)
           if (!text.isEmpty()) rest.replace(text, "|");
         rest.remove(known);
+        // The advanced options are not translated.
         if (window.objectName() != "frmFF" && rest.contains(QRegularExpression("\\p{L}")))
-          faults_.insert(control.name + " says " + said);
+          faults_.insert(control.name + " shows " + shown);
       }
-      if (control.state.contains(QRegularExpression("CUT|NOT TOLD|over (?!lblInfo|Label6)")))
+      if (control.state.contains(QRegularExpression("CUT|NOT REPORTED|over (?!lblInfo|Label6)")))
         faults_.insert(control.name + ": " + control.state);
     }
   }
@@ -75,7 +76,7 @@ class Language : public support::Transcript,
   QSet<QString> faults_;
 };
 
-TEST_P(Language, IsAllThatAWindowSaysAndFits) {
+TEST_P(Language, IsUsedForAllTextsAndTheyFit) {
   const auto& [file, language] = GetParam();
   writeConfig(";KVLLanguage=" + std::to_string(language));
   run(file);

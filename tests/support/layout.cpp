@@ -9,8 +9,8 @@
 namespace support {
 namespace {
 
-// Where the text of a label stands, in its own coordinates. One line that is too long is drawn
-// smaller, and needs no room for letters below the line that it does not have.
+// The area of a label's text, in the label's coordinates. One line that is too long is drawn
+// smaller, and room below the line counts only if a letter reaches there.
 QRect TextOf(const QLabel& label) {
   const auto text = label.text();
   const bool isOneLine = !label.wordWrap() && !text.contains('\n');
@@ -27,8 +27,8 @@ QRect TextOf(const QLabel& label) {
   return place;
 }
 
-// What of a control is seen: of a label without a line around it its text.
-QRect SeenOf(const QWidget& control) {
+// The visible area of a control. Of a label without a frame and background it is that of the text.
+QRect VisibleArea(const QWidget& control) {
   const auto* label = qobject_cast<const QLabel*>(&control);
   const bool isText =
       label && label->frameShape() == QFrame::NoFrame && !label->autoFillBackground();
@@ -38,8 +38,8 @@ QRect SeenOf(const QWidget& control) {
 bool Fits(const QWidget& control) {
   if (const auto* label = qobject_cast<const QLabel*>(&control))
     return label->text().isEmpty() ||
-           label->rect().adjusted(-1, 0, 1, 0).contains(TextOf(*label));  // letters lean out
-  // Drives are as long as they are.
+           label->rect().adjusted(-1, 0, 1, 0).contains(TextOf(*label));  // italic letters lean out
+  // The length of a drive's path depends on the machine.
   if (const auto* box = qobject_cast<const QComboBox*>(&control);
       box && box->objectName() != "Drive1")
     return box->sizeHint().width() <= box->width();
@@ -67,8 +67,8 @@ QString LayoutFaults(const QWidget& control) {
     if (!other->isVisible() || !control.geometry().intersects(other->geometry())) continue;
     static const QRegularExpression ground("^(frmOPT|frame).*|^(Label1|Shape1)$");
     if (ground.match(other->objectName()).hasMatch()) continue;
-    const auto both = SeenOf(control) & SeenOf(*other);
-    // Neighbours may share a line.
+    const auto both = VisibleArea(control) & VisibleArea(*other);
+    // Neighbours may share one line of pixels.
     if (both.width() > 1 && both.height() > 1) faults += " over " + other->objectName();
   }
   return faults;

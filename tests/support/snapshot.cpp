@@ -19,46 +19,46 @@ namespace {
 
 QString Quoted(const QString& text) { return "\"" + text + "\""; }
 
-QAccessibleInterface& Told(const QWidget& control) {
+QAccessibleInterface& Accessible(const QWidget& control) {
   return *QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
 }
 
-// A row as assistive technology has it. In brackets stands what it is called where it is empty.
+// A row with its description for assistive technology. An empty row has its name in brackets.
 QString RowText(const QListWidget& list, int row) {
-  const auto& told = *Told(list).child(row);
-  const auto shown = list.item(row)->text(), name = told.text(QAccessible::Name);
-  const auto description = told.text(QAccessible::Description);
+  const auto& accessible = *Accessible(list).child(row);
+  const auto shown = list.item(row)->text(), name = accessible.text(QAccessible::Name);
+  const auto description = accessible.text(QAccessible::Description);
   auto text = shown.isEmpty() ? "(" + name + ")" : shown;
   if (!shown.isEmpty() && shown != name) text += " called " + Quoted(name);
   if (!description.isEmpty()) text += " (" + description + ")";
-  if (told.state().disabled && list.isEnabled()) text += " disabled";
-  const auto state = told.state();
+  if (accessible.state().disabled && list.isEnabled()) text += " disabled";
+  const auto state = accessible.state();
   if (state.selected != list.item(row)->isSelected() || !state.selectable)
-    text += " SELECTION NOT TOLD";
-  if (state.focused != (list.hasFocus() && list.currentRow() == row)) text += " FOCUS NOT TOLD";
-  const auto place = told.rect().center();
+    text += " SELECTION NOT REPORTED";
+  if (state.focused != (list.hasFocus() && list.currentRow() == row)) text += " FOCUS NOT REPORTED";
+  const auto place = accessible.rect().center();
   const bool isSeen = list.isVisible() && !state.offscreen;
-  if (Told(list).indexOfChild(&told) != row ||
-      (isSeen && Told(list).childAt(place.x(), place.y()) != &told))
+  if (Accessible(list).indexOfChild(&accessible) != row ||
+      (isSeen && Accessible(list).childAt(place.x(), place.y()) != &accessible))
     text += " NOT FOUND";
   return text;
 }
 
-// Of a list all rows, of a tree the selected one and what is open below it.
+// All rows of a list; of a tree the selected row and the open ones below it.
 QStringList RowsOf(const QWidget& control) {
   QStringList rows;
   if (const auto* list = qobject_cast<const QListWidget*>(&control))
     for (int row = 0; row < list->count(); ++row) rows << RowText(*list, row);
   if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
-    auto& told = Told(*tree);
-    for (int cell = 0; cell < told.childCount(); ++cell) {
-      const auto state = told.child(cell)->state();
+    auto& accessible = Accessible(*tree);
+    for (int cell = 0; cell < accessible.childCount(); ++cell) {
+      const auto state = accessible.child(cell)->state();
       if ((state.focused && !tree->hasFocus()) || !(state.invisible || tree->isVisible()))
-        rows << "TOLD THOUGH HIDDEN OR WITHOUT FOCUS";
+        rows << "REPORTED THOUGH HIDDEN OR WITHOUT FOCUS";
     }
-    const auto* focus = told.focusChild();
+    const auto* focus = accessible.focusChild();
     if (tree->hasFocus() && (!focus || !focus->state().focused || focus->state().invisible))
-      rows << "FOCUS NOT TOLD";
+      rows << "FOCUS NOT REPORTED";
     const auto* selected = tree->selectedItems().first();
     const auto place = tree->visualItemRect(selected).left();
     if (tree->isVisible() && (place < 0 || place > tree->viewport()->width() / 2))
@@ -78,9 +78,9 @@ QString SelectionOf(const QListWidget& list) {
 }
 
 QString StateOf(const QWidget& control) {
-  const auto& told = Told(control);
-  const auto role = told.role();
-  const auto state = told.state();
+  const auto& accessible = Accessible(control);
+  const auto role = accessible.role();
+  const auto state = accessible.state();
   QStringList text;
   if (const auto* label = qobject_cast<const QLabel*>(&control);
       label && role != QAccessible::Graphic)
@@ -91,65 +91,69 @@ QString StateOf(const QWidget& control) {
     text << ColourOf(control);
   else if (const auto* list = qobject_cast<const QListWidget*>(&control))
     text << SelectionOf(*list);
-  // Every machine has drives of its own.
-  else if (const auto value = told.text(QAccessible::Value);
+  // The drives depend on the machine.
+  else if (const auto value = accessible.text(QAccessible::Value);
            !value.isEmpty() && control.objectName() != "Drive1")
     text << Quoted(value);
   for (const auto colour : {control.foregroundRole(), control.backgroundRole()})
     if (control.palette().isBrushSet(QPalette::Active, colour))
       text << control.palette().color(colour).name();
   const auto tip = control.toolTip();
-  if (!tip.isEmpty() && tip != told.text(QAccessible::Name)) text << "tip " + Quoted(tip);
+  if (!tip.isEmpty() && tip != accessible.text(QAccessible::Name)) text << "tip " + Quoted(tip);
   if (control.isHidden()) text << "hidden";
   if (!control.isEnabledTo(control.parentWidget())) text << "disabled";
-  if (state.disabled == control.isEnabled()) text << "NOT TOLD WHETHER ENABLED";
+  if (state.disabled == control.isEnabled()) text << "ENABLED STATE NOT REPORTED";
   if (control.isVisible()) text << LayoutFaults(control).trimmed();
   text.removeAll("");
   return text.join(' ');
 }
 
 QString LooksOf(const QWidget& control) {
-  auto& told = Told(control);
-  const auto name = told.text(QAccessible::Name), caption = control.property("text").toString();
+  auto& accessible = Accessible(control);
+  const auto name = accessible.text(QAccessible::Name),
+             caption = control.property("text").toString();
   const auto box = control.geometry();
   const auto font = control.font();
-  // Later toolkits have a bar for what it is.
-  const auto role = told.role() == QAccessible::Slider ? QAccessible::SpinBox : told.role();
+  // Later versions of Qt report a bar as a slider.
+  const auto role =
+      accessible.role() == QAccessible::Slider ? QAccessible::SpinBox : accessible.role();
   QString text = QMetaEnum::fromType<QAccessible::Role>().valueToKey(role);
   const bool isLabel = qobject_cast<const QLabel*>(&control);
   if (!isLabel || name != caption) text += " " + Quoted(name);
-  if (!isLabel && !caption.isEmpty() && caption != name && told.role() != QAccessible::EditableText)
+  if (!isLabel && !caption.isEmpty() && caption != name &&
+      accessible.role() != QAccessible::EditableText)
     text += " " + Quoted(caption);
   if (!name.isEmpty() && control.toolTip() == name) text += " as tip too";
   text += QString(" %1px").arg(font.pixelSize());
-  // Where a link stands depends on the machine's fonts.
+  // The place of a link depends on the machine's fonts.
   if (!isLabel || control.focusPolicy() == Qt::NoFocus)
     text += QString(" %1,%2 %3x%4").arg(box.x()).arg(box.y()).arg(box.width()).arg(box.height());
   if (font.bold()) text += " bold";
   if (font.italic()) text += " italic";
   if (font.underline()) text += " underlined";
-  if (told.state().readOnly) text += " read only";
+  if (accessible.state().readOnly) text += " read only";
   if (const auto* button = qobject_cast<const QPushButton*>(&control);
       button && button->isDefault())
     text += " default";
-  const auto description = told.text(QAccessible::Description);
+  const auto description = accessible.text(QAccessible::Description);
   if (!description.isEmpty() && description != control.toolTip())
-    text += " told " + Quoted(description);
+    text += " described " + Quoted(description);
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
   if (button && !button->shortcut().isEmpty())
-    text += " key " + told.text(QAccessible::Accelerator);
-  if (auto* value = told.valueInterface())
+    text += " key " + accessible.text(QAccessible::Accelerator);
+  if (auto* value = accessible.valueInterface())
     text += " from " + value->minimumValue().toString() + " to " + value->maximumValue().toString();
-  if (auto* shown = told.textInterface();
-      shown && shown->text(0, shown->characterCount()) != told.text(QAccessible::Value))
-    text += " TEXT NOT TOLD";
-  auto actions = told.actionInterface() ? told.actionInterface()->actionNames() : QStringList();
+  if (auto* shown = accessible.textInterface();
+      shown && shown->text(0, shown->characterCount()) != accessible.text(QAccessible::Value))
+    text += " TEXT NOT REPORTED";
+  auto actions =
+      accessible.actionInterface() ? accessible.actionInterface()->actionNames() : QStringList();
   actions.removeAll(QAccessibleActionInterface::setFocusAction());
   if (!actions.isEmpty() && !button) text += " does " + actions.join(' ');
-  if (told.role() == QAccessible::ComboBox && control.objectName() != "Drive1") {
+  if (accessible.role() == QAccessible::ComboBox && control.objectName() != "Drive1") {
     QStringList rows;
-    for (int row = 0; row < told.childCount(); ++row)
-      rows << told.child(row)->text(QAccessible::Name);
+    for (int row = 0; row < accessible.childCount(); ++row)
+      rows << accessible.child(row)->text(QAccessible::Name);
     text += " of " + rows.join(", ");
   }
   return text;
@@ -164,7 +168,7 @@ QString Whole(const Snapshot& control) {
   return text + " --" + (control.looks.isEmpty() ? "" : " " + control.looks);
 }
 
-// Where folders are spelled by the system or by the program, one spelling is taken.
+// Replaces the system's and the program's spellings of a folder by one.
 QString Plain(QString text) {
   text.replace(QString::fromStdString(Module1::AppFolder), "<app>").replace('\\', '/');
   return text.replace("/roms", "/ROMs").remove('\r').replace('\n', " / ");
@@ -187,9 +191,10 @@ QList<Snapshot> SnapshotsOf(const QWidget& window) {
   const auto isOurs = [](const QObject& object) {
     return !object.objectName().isEmpty() && !object.objectName().startsWith("qt_");
   };
-  const auto description = Told(window).text(QAccessible::Description);
+  const auto description = Accessible(window).text(QAccessible::Description);
   add("Title",
-      Quoted(window.windowTitle()) + (description.isEmpty() ? "" : " told " + Quoted(description)),
+      Quoted(window.windowTitle()) +
+          (description.isEmpty() ? "" : " described " + Quoted(description)),
       {}, window.windowIcon().isNull() ? "NO ICON" : "icon");
   const auto* focus = window.focusWidget();
   add("Focus", focus && isOurs(*focus) ? focus->objectName() : "", {}, "at first");

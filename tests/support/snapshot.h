@@ -1,4 +1,4 @@
-// What a window shows and tells assistive technology, as text.
+// What a window shows and reports to assistive technology, as text.
 #pragma once
 
 #include <QStringList>
@@ -9,24 +9,25 @@ namespace support {
 // One control, or one of the window's own properties ("Title", "Focus", ...).
 struct Snapshot {
   QString name;
-  QString state;  // what changes while the window is used: text, value, check mark, row, enabled...
+  QString state;     // what use of the window changes: text, value, check mark, row, enabled...
   QStringList rows;  // of a list
-  QString looks;     // what does not: role, caption, font, place
+  QString looks;     // the rest: role, caption, font, place
 };
 
-// In one line.
+// All parts of a snapshot in one line.
 QString Whole(const Snapshot& control);
 
-// In one line, and the same in every run and on every system.
+// The text in one line, without what differs between runs and systems.
 QString Plain(QString text);
 
 QList<Snapshot> SnapshotsOf(const QWidget& window);
 
-// The plain colour of a picture as it is drawn, or "drawn".
+// The name of a picture's colour as it is painted, or "drawn" if that is not one of six plain
+// colours.
 QString ColourOf(const QWidget& picture);
 
-// What is wrong with the place of a visible control: whether it or its text is cut off, and what of
-// its parent's other controls it covers. Pairs that are meant to overlap are left out.
+// What is wrong with the place of a visible control: it or its text is cut off, or it covers other
+// controls of its parent. Pairs that are meant to overlap are left out.
 QString LayoutFaults(const QWidget& control);
 
 }  // namespace support

@@ -27,8 +27,8 @@ QString KeyOf(const QWidget& window) {
   return isOfGame ? name + "_of_a_game" : name;
 }
 
-// What tests/windows tells of a window: the first line of each control, over what it tells of the
-// window that it is a variant of.
+// How a window looks by its file in tests/windows: the first line of each control. A variant's file
+// only has what differs from the window that it is a variant of.
 QMap<QString, Snapshot> UsualLook(const QString& key) {
   if (key.isEmpty()) return {};
   auto usual = UsualLook(key.contains("_of_") ? key.section("_of_", 0, 0) : "");
@@ -64,7 +64,7 @@ QStringList SingleSteps(const QString& line) {
   return steps;
 }
 
-// What a control has come to. Of a list with few new rows only these.
+// What changed of a control. For a list with few changed rows, only these.
 QStringList ChangesOf(const Snapshot& old, const Snapshot& now) {
   QStringList changes;
   const auto rows = now.rows.size();
@@ -97,7 +97,7 @@ std::string Transcript::run(const fs::path& transcript) {
       lines_.append({line, {}});
   }
   EXPECT_TRUE(!lines_.isEmpty() && lines_[0].text.startsWith("# "))
-      << "a headline tells what must hold";
+      << "the first line must say what holds";
   if (transcript.parent_path().filename() == "windows")
     only_ = QString::fromStdString(ToText(transcript.stem()));
   clock_.onSleep = [this] { playASecond(); };
@@ -106,7 +106,7 @@ std::string Transcript::run(const fs::path& transcript) {
   return text_.toStdString();
 }
 
-// The main window stays. What is still done comes too late.
+// Runs steps until the opened window closes; without one, all steps.
 void Transcript::runUntilClosed(QWidget* opened) {
   const auto goesOn = [&] {
     return !opened || opened->isVisible() || steps_.value(0).startsWith("still ");
@@ -121,7 +121,7 @@ void Transcript::runUntilClosed(QWidget* opened) {
   }
 }
 
-// Whether it has steps.
+// Starts a line. Returns whether it has steps.
 bool Transcript::begin(const Line& line) {
   text_ += line.text + "\n";
   steps_ = line.text.startsWith("> ") ? SingleSteps(line.text.mid(2)) : QStringList();
@@ -130,7 +130,8 @@ bool Transcript::begin(const Line& line) {
     given(line.text.section(' ', 1, 1), line.text.section(' ', 2), line.content);
     lookAtFiles(false);
   } else if (steps_.isEmpty()) {
-    EXPECT_TRUE(line.text.startsWith("# ")) << qPrintable("no line of a transcript: " + line.text);
+    EXPECT_TRUE(line.text.startsWith("# "))
+        << qPrintable("not a line of a transcript: " + line.text);
   }
   return !steps_.isEmpty();
 }
@@ -145,8 +146,8 @@ void Transcript::run(QString step, QWidget* opened) {
         last_.clear();
         startLooking("Form1");
         start();
-      } else if (const auto told = act(opened ? *opened : window(), step); !told.isEmpty()) {
-        out(told);
+      } else if (const auto shown = act(opened ? *opened : window(), step); !shown.isEmpty()) {
+        out(shown);
       }
     } catch (const std::runtime_error& reason) {
       out(QString("THIS CAN'T BE DONE: ") + reason.what());
@@ -154,7 +155,7 @@ void Transcript::run(QString step, QWidget* opened) {
   };
   whenModal([this](QWidget& modal) { useOpened(modal); }, action);
   acted_ = target;
-  // The button of an access key is seen to go down first.
+  // An access key first shows its button pressed, and closes the window later.
   const auto isClosed = [&] { return !opened || !opened->isVisible(); };
   if (step.contains("Alt+") && !QTest::qWaitFor(isClosed)) out("nothing closes");
 }
@@ -173,7 +174,7 @@ void Transcript::useOpened(QWidget& opened) {
     acted_.clear();
     if (steps_.isEmpty()) look(opened);
   }
-  if (steps_.isEmpty()) outSaid();
+  if (steps_.isEmpty()) outChanges();
   runUntilClosed(&opened);
   if (!box && !opened.isVisible()) out(opened.objectName() + " closes");
 }
@@ -198,8 +199,8 @@ void Transcript::given(const QString& what, const QString& value, const QStringL
     ADD_FAILURE() << "nothing can be given as " << what.toStdString();
 }
 
-// A window that the file is about is described whole, or as far as it departs from what it is a
-// variant of.
+// The window that a file of tests/windows is about is described completely; a variant as far as it
+// differs from its window.
 void Transcript::startLooking(const QString& key) {
   if (key == only_ && last_.contains(key)) return;
   describeWhole_ = key == only_;
@@ -207,8 +208,7 @@ void Transcript::startLooking(const QString& key) {
       UsualLook(describeWhole_ ? key.contains("_of_") ? key.section("_of_", 0, 0) : "" : key);
 }
 
-// The in-game window opens and goes by itself. Where the log of the play has gone, the play is
-// over.
+// Called once in each second of a play. The play is over when its log has been deleted.
 void Transcript::playASecond() {
   auto* gaming = QApplication::activeModalWidget();
   if (!gaming) return;
@@ -216,7 +216,7 @@ void Transcript::playASecond() {
     out("frmGaming opens");
     startLooking("frmGaming");
     look(*gaming);
-    outSaid();
+    outChanges();
     WaitForChild();
     logSeen_ = false;
   }
@@ -233,12 +233,13 @@ void Transcript::playASecond() {
 
 void Transcript::lookAtAll(const QWidget& window) {
   if (window.isVisible()) look(window);
-  outSaid();
+  outChanges();
   lookAtFiles(true);
 }
 
-// Controls that have come to the same stand together. Of the window that the file describes, what
-// does not change by its use is told at first, and when it changes.
+// Writes what changed in a window. Controls with the same change are joined in one line. Of the
+// window that the file describes, the looks of each control are written at first and when they
+// change.
 void Transcript::look(const QWidget& window) {
   const auto key = KeyOf(window);
   auto& before = last_[key];
@@ -260,17 +261,17 @@ void Transcript::look(const QWidget& window) {
   }
   for (auto& change : order) change.prepend(names[change].join(", "));
   if (key != only_) {
-    said_ << (only_.isEmpty() ? order : QStringList());
+    changes_ << (only_.isEmpty() ? order : QStringList());
   } else {
-    outSaid();
+    outChanges();
     for (const auto& line : order) outJoined("", {line});
   }
   describeWhole_ = false;
 }
 
-// The saved file without its comments and the default bindings, each line behind the game that it
-// is of; the settings store; the names of all other files; the options that no save has written
-// yet.
+// Compares with the last step: the lines of the saved file without comments and default bindings,
+// with their game in front; the settings store; the names of all files; the options that wait for a
+// save.
 void Transcript::lookAtFiles(bool write) {
   QMap<QString, QStringList> now;
   const auto& defaults = Module1::Profiles[0].Slots;
@@ -309,11 +310,11 @@ void Transcript::lookAtFiles(bool write) {
   }
   if (before["saved"] == now["saved"] && bytes != bytes_ && !bytes.empty())
     out("saved in other bytes");
-  said_ << std::exchange(happened, {});
-  outSaid();
+  changes_ << std::exchange(happened, {});
+  outChanges();
 }
 
-// As many in a line as it takes.
+// Writes the parts, as many in a line as fit.
 void Transcript::outJoined(const QString& head, const QStringList& parts) {
   constexpr int kWidth = 98;
   QString line;

@@ -8,17 +8,17 @@
 
 namespace support {
 
-// Runs a scenario that is written down in a file, line by line:
+// Runs the scenario in a file, which has lines of these kinds:
 //   # what must hold
-//   $ what is there before the program does anything
-//   > steps of the person at the screen
-// and writes behind each line of steps what they changed: in the window, in the files, of the
-// options that wait for a save. A window that opens is compared with tests/windows, which holds how
-// each one looks. A line that begins with "> during the play, " takes place in the next second of a
-// play.
+//   $ what is there: config, games, file, picture, remove, version, play SECONDS
+//   > steps of the user (see UiTest::act)
+// After each line of steps it writes what they changed: in the window, in the files, in the options
+// that wait for a save. A window that opens is compared with its file in tests/windows. A line that
+// begins with "> during the play, " is done in the next second of a play. A step that begins with
+// "still" is done although its window has closed.
 class Transcript : public UiTest {
  protected:
-  // The file as it is now: its steps, and what they do today.
+  // Runs the file's steps. Returns what the file should be: the steps with what they changed.
   std::string run(const std::filesystem::path& transcript);
 
   // Called for each window after each step.
@@ -27,7 +27,7 @@ class Transcript : public UiTest {
  private:
   struct Line {
     QString text;
-    QStringList content;  // what stands indented below
+    QStringList content;  // the indented lines below
   };
 
   void runUntilClosed(QWidget* opened);
@@ -39,26 +39,26 @@ class Transcript : public UiTest {
   void playASecond();
   void lookAtAll(const QWidget& window);
   void lookAtFiles(bool write);
-  void out(const QString& text) { said_ << text; }
+  void out(const QString& text) { changes_ << text; }
   void outJoined(const QString& head, const QStringList& parts);
-  void outSaid() { outJoined("", std::exchange(said_, {})); }
+  void outChanges() { outJoined("", std::exchange(changes_, {})); }
 
   FakeClock clock_;
   QList<Line> lines_;
   qsizetype next_ = 0;
-  QStringList steps_;  // of the line in hand, still to be done
-  QString text_;       // written so far
-  QStringList said_;   // to be written
-  QString only_;       // the window that the file describes
-  QString acted_;      // the control that the last step was done to
+  QStringList steps_;    // of the current line, still to be done
+  QString text_;         // the result so far
+  QStringList changes_;  // not written to the result yet
+  QString only_;         // the window that the file describes
+  QString acted_;        // the control that the last step was done to
   bool describeWhole_ = false;
   QMap<QString, QMap<QString, Snapshot>> last_;  // by window and control
   QMap<QString, QStringList> files_;             // what the last step left
   std::string bytes_;
   QObject timer_;
-  bool eventsWait_ = false;  // of the last second of a play
+  bool eventsWait_ = false;  // since the last second of a play
   bool logSeen_ = false;
-  int pause_ = 0;  // seconds behind a play
+  int pause_ = 0;  // seconds after a play
 };
 
 // All files of a folder under tests.

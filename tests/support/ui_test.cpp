@@ -26,7 +26,7 @@ namespace {
 struct Toolkit : testing::Environment {
   void SetUp() override {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    // What the platform without a screen can't do would drown what a test says.
+    // Drops the many messages about what the platform without a screen can't do.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
       if (!text.startsWith("This plugin does not support"))
         std::fprintf(stderr, "%s\n", qPrintable(text));
@@ -39,12 +39,11 @@ struct Toolkit : testing::Environment {
 
 const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
 
-// As assistive technology has it.
-QAccessibleInterface* Told(QObject* object) {
+QAccessibleInterface* Accessible(QObject* object) {
   return QAccessible::queryAccessibleInterface(object);
 }
 
-// The tool tip that comes up there, markup and all.
+// The text of the tool tip at this place, with its markup except <span>.
 QString TipAt(QWidget& widget, QPoint at) {
   QHelpEvent help(QEvent::ToolTip, at, widget.mapToGlobal(at));
   QApplication::sendEvent(&widget, &help);
@@ -94,8 +93,9 @@ void UiTest::writePicture(const std::string& name, const QColor& colour, QSize s
   ASSERT_TRUE(image.save(QString::fromStdString(ToText(path(name)))));
 }
 
-// A key that goes down is not released, and one that is held repeats itself. The bridge to
-// assistive technology takes the keys and sends copies, which carry no time. What is posted waits.
+// "down" does not release the key, and "hold" is a repetition. "copy" imitates the bridge to
+// assistive technology, which takes keys and sends copies without a time. "post" only queues
+// events.
 void UiTest::pressKey(const QString& how, const QKeySequence& keys) {
   ASSERT_TRUE(QApplication::activeWindow()) << "no window takes keys";
   auto* target = QApplication::activeWindow()->windowHandle();
@@ -111,7 +111,7 @@ void UiTest::pressKey(const QString& how, const QKeySequence& keys) {
   }
 }
 
-// The second click goes to what stands there then.
+// The second click goes to the widget that is at the place after the first one.
 void UiTest::doubleClick(QPoint place) {
   for (const auto second : {false, true}) {
     auto* modal = QApplication::activeModalWidget();
@@ -154,9 +154,9 @@ QString UiTest::act(QWidget& window, const QString& step) {
     if (verb == "choose") item->trigger();
     auto* menu = qobject_cast<QWidget*>(item->parent());
     const auto place = menu->actions().indexOf(item);
-    if (verb == "activate") activate(Told(menu)->child(static_cast<int>(place)));
+    if (verb == "activate") activate(Accessible(menu)->child(static_cast<int>(place)));
   } else {
-    // Assistive technology reaches what lies behind as well.
+    // Assistive technology also reaches windows behind this one.
     auto* control = window.findChild<QWidget*>(name);
     return actOn(control ? *control : get(this->window(), name), verb, words);
   }
@@ -171,7 +171,7 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
   const bool isRow = words.last().contains(':');
   auto* tree = qobject_cast<QTreeWidget*>(&control);
   auto& target = isRow && list ? *list->viewport() : tree ? *tree->viewport() : control;
-  // Near the left end, where a check box has its box; of a tree in its current row.
+  // Near the left end, where a check box has its box; in a tree the current row.
   const auto place = isRow && list ? list->visualItemRect(list->item(row)).center()
                      : tree        ? tree->visualItemRect(tree->currentItem()).center()
                                    : QPoint(9, control.height() / 2);
@@ -196,17 +196,17 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
     QApplication::clipboard()->setText(what);
     pressKey("press", QKeySequence::Paste);
   } else if (verb == "open") {
-    // As a person would by opening its parents.
+    // Opens its parents too, as a user would.
     tree->setCurrentItem(tree->findItems(what, Qt::MatchExactly | Qt::MatchRecursive).value(0));
   } else if (verb == "activate") {
-    activate(isRow ? Told(&control)->child(row) : Told(&control));
+    activate(isRow ? Accessible(&control)->child(row) : Accessible(&control));
   } else if (verb == "toggle") {
-    Told(&control)->child(row)->actionInterface()->doAction(
+    Accessible(&control)->child(row)->actionInterface()->doAction(
         QAccessibleActionInterface::toggleAction());
   } else if (verb == "set") {
-    if (auto* text = Told(&control)->editableTextInterface())
+    if (auto* text = Accessible(&control)->editableTextInterface())
       return text->replaceText(0, 9, what), QString();
-    Told(&control)->valueInterface()->setCurrentValue(what.toInt());
+    Accessible(&control)->valueInterface()->setCurrentValue(what.toInt());
   } else if (verb != "focus") {
     throw std::runtime_error("nobody can " + verb.toStdString());
   }
@@ -239,7 +239,7 @@ bool UiTest::whenModal(const std::function<void(QWidget&)>& step,
   QObject::connect(&timer, &QTimer::timeout, [&] {
     auto* modal = QApplication::activeModalWidget();
     const bool opened = modal && modal != before && modal->isActiveWindow() &&
-                        modal->objectName() != "frmGaming";  // that goes by itself
+                        modal->objectName() != "frmGaming";  // closes by itself
     if (!opened && --patience > 0) return;
     timer.stop();
     done = opened;

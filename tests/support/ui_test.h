@@ -16,8 +16,9 @@
 
 namespace support {
 
-// The main window over a fresh AppFolder with an emulator of two games, driven by object names and
-// real events. The end of the program and the browser are noted and do not happen.
+// The main window in a fresh AppFolder with an emulator of two games, driven by object names and
+// real events. The end of the program and the opening of a web address are recorded instead of
+// done.
 class UiTest : public TempApp {
  protected:
   UiTest();
@@ -25,27 +26,28 @@ class UiTest : public TempApp {
 
   // Loads the main window and waits until it is active.
   void start();
-  // A configuration file of these lines behind the banner and the heading of all games, with the
-  // default bindings if the lines hold none.
+  // Writes a configuration file with these lines after the banner and the heading of all games, and
+  // with the default bindings if the lines contain none.
   static void writeConfig(std::string lines);
   static void writePicture(const std::string& name, const QColor& colour, QSize size = {32, 32});
 
-  // Does one step; what it tells at once, such as a tool tip. "NAME:2" is a row of a list.
+  // Does one step. Returns what the step itself shows, such as a tool tip. "NAME:2" is a list's
+  // row.
   //   click, double-click, hover, focus NAME        answer BUTTON        choose MENU_ITEM
-  //   press KEY [in NAME]; down, hold: without its release, as one that repeats itself;
-  //   copy: as assistive technology sends it on; post: obeyed only when the events are handled
+  //   press KEY [in NAME]    or instead of press: down (without release), hold (as a repetition),
+  //   copy (as sent by assistive technology), post (waits until events are handled)
   //   type, paste TEXT in NAME    wheel 120 in NAME    drag, drop BAR      open FOLDER in TREE
   //   activate NAME, toggle NAME:2, set VALUE in NAME: by assistive technology
   //   wait MILLISECONDS           close
   QString act(QWidget& window, const QString& step);
   QString act(const QString& step) { return act(window(), step); }
-  // Does what may open a modal window, and runs the step in it if it does; otherwise false.
+  // Runs `action`, and `step` in the modal window that the action opens. False if none opens.
   bool whenModal(const std::function<void(QWidget&)>& step, const std::function<void()>& action);
   // Runs the step in a page of the options of all games.
   void modify(const char* page, const std::function<void(QWidget&)>& step);
 
   QWidget& window() const { return *form->clientArea()->window(); }
-  // What has this name in a window.
+  // The object with this name in a window.
   template <class T = QWidget>
   static T& get(const QWidget& window, const QString& name) {
     auto* child = window.findChild<T*>(name);
@@ -55,7 +57,7 @@ class UiTest : public TempApp {
   static std::string file() { return read("Config/Kestrivane.ini"); }
 
   std::unique_ptr<ui::Form1> form;
-  QStringList happened;  // outside: the program's end, a page in the browser
+  QStringList happened;  // outside of the windows: the program's end, a page in the browser
 
  private:
   void pressKey(const QString& how, const QKeySequence& keys);
