@@ -1,4 +1,4 @@
-// The code page: decoding gives UTF-8, and what was decoded comes back from its bytes.
+// The code page: decoding gives UTF-8, and encoding and decoding a text gives the same text.
 #include "platform/code_page.h"
 
 #include "support.h"

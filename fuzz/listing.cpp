@@ -1,5 +1,4 @@
-// The emulator's listing. Whatever the text is, each line of a game becomes one row, and no other
-// line does.
+// The emulator's listing: each line of a game, and no other line, becomes one row.
 #include "core/emulator_contract.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"

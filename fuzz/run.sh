@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
-# Builds the fuzzers and runs each for the seconds given, from the kept inputs; with 0 it only
-# replays these. Prints the executions of each. A finding fails the run and stays in build-sanitize.
+# Builds the fuzzers and runs each for the given seconds (60), starting from the kept inputs; with 0 it
+# only replays these. Prints how many inputs each tried. A finding fails the run and is kept in
+# build-sanitize. Usage: run.sh [SECONDS]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 seconds=${1:-60}
 build="build-sanitize"
-# Most is spent on checks that go with the length of an input.
+# The longest inputs in bytes. The checks of these fuzzers are slow for long inputs.
 declare -A longest=([command]=256 [config]=256 [error_log]=1024)
-# Freed memory that is kept for long has to be cleared for each input anew.
+# A small quarantine for freed memory makes the runs faster.
 export ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=8
 
 scratch=$(mktemp -d)
@@ -22,7 +23,7 @@ examine() { # name, kept inputs, limits
         -dict="$PWD/fuzz/words.dict" -artifact_prefix="$PWD/$build/$1-" -print_final_stats=1 \
         "$scratch/$1" "$2" >"$build/fuzz_$1.log" 2>&1
 }
-# A fuzzer leaves the working folder: its paths must be whole.
+# Fuzzers change their working folder, so their paths must be absolute.
 for kept in "$PWD"/fuzz/corpus/*/; do
     name=$(basename "$kept")
     log=$build/fuzz_$name.log

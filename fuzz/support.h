@@ -18,8 +18,8 @@ void Require(bool holds, const char* what);
 
 using base::IsUtf8;
 
-// A new folder as AppFolder, program folder and working folder, with an empty file of each of these
-// names. Its parent is the run's own and goes with the run.
+// Creates a folder with empty files of these names, and makes it AppFolder, program folder and
+// working folder. run.sh removes it.
 std::filesystem::path MakeApp(std::initializer_list<std::string_view> files = {});
 
 }  // namespace fuzz

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Reads back from built programs and libraries what protects them: no part of the search path for
-# libraries depends on the working folder, and with --program also that stacks and calls are guarded
-# and nothing stays writable that the loader filled in.
+# Checks how built programs and libraries are hardened: no part of the search path for libraries depends
+# on the working folder. With --program also: stacks and calls are guarded, and the tables that the
+# loader fills are read-only afterwards.
 # Usage: hardening.sh [--program] FILE...
 set -euo pipefail
 

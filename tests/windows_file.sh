@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Looks at the program file for Windows: what it imports, what it says of itself, and what it must not
-# tell of the machine that built it.
+# Checks the program file for Windows: its imports, version resource, icon and size, and that it contains
+# no path of the machine that built it.
 # Usage: windows_file.sh BUILD_FOLDER
 set -euo pipefail
 build=$(realpath "$1")
@@ -13,8 +13,8 @@ fail() {
     exit 1
 }
 
-# KnownDLLs of Windows 10 and 11: these come from the system's folder, whatever else lies about. So do
-# API sets, which are no files but names for parts of these libraries.
+# The KnownDLLs of Windows 10 and 11, which are always loaded from the system's folder. So are API sets
+# (api-ms-win-...), which are other names for parts of these libraries.
 known="advapi32 clbcatq combase comdlg32 coml2 gdi32 gdiplus imagehlp imm32 kernel32 msctf msvcrt
     normaliz nsi ntdll ole32 oleaut32 psapi rpcrt4 sechost setupapi shcore shell32 shlwapi user32
     wldap32 ws2_32"

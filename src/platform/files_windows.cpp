@@ -14,7 +14,8 @@ namespace {
 
 constexpr DWORD kEveryone = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Those of what a link leads to; INVALID_FILE_ATTRIBUTES if there is nothing of that name.
+// The attributes of a file or folder, of a link those of its target. INVALID_FILE_ATTRIBUTES if
+// there is none.
 DWORD Attributes(const std::wstring& name) {
   const DWORD attributes = GetFileAttributesW(name.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT))
@@ -41,7 +42,7 @@ std::vector<std::string> NamesIn(std::string_view folder, bool (*wanted)(DWORD a
   WIN32_FIND_DATAW entry{};
   const HANDLE search = FindFirstFileExW((start + L'*').c_str(), FindExInfoBasic, &entry,
                                          FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-  // The root of a drive has no entries of its own, so that an empty one has none at all.
+  // An empty drive has not even the entries "." and "..".
   if (search == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_NOT_FOUND) return {};
   Check(search != INVALID_HANDLE_VALUE);
   std::vector<std::string> names;

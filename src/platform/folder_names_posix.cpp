@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-// The same for all spellings of a name. Letters beyond ASCII are left out.
+// Equal for all spellings of a name, since letters beyond ASCII are left out.
 std::uint32_t HashOf(std::string_view name) {
   std::uint32_t hash = 2166136261;
   for (const unsigned char c : name)

@@ -23,9 +23,9 @@ bool RetryWhile(DWORD error, const std::function<bool()>& call) {
 }
 
 // Locks the file, so that two front-ends that save at once do not mix their texts and none reads a
-// half-written text. Returns whether another front-end has the lock; a file system without locks
-// has no such thing. The locked byte is far behind the end of every file, because Windows lets
-// nobody else read locked bytes and the emulator may read the file at any time.
+// half-written text. Returns whether another front-end has the lock, always false on a file system
+// without locks. The locked byte is far behind the end of every file, because Windows lets nobody
+// else read locked bytes and the emulator may read the file at any time.
 bool IsLockedElsewhere(HANDLE file, bool saves) {
   OVERLAPPED place{};
   place.Offset = 0xFFFFFFFE;

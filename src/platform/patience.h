@@ -11,8 +11,8 @@ namespace platform {
 // The longest wait for a file: one second. Tests shorten it.
 std::atomic<std::chrono::microseconds>& FilePatience();
 
-// Repeats `attempt` until it returns true or FilePatience has passed, but at least once. Returns
-// whether it succeeded. The system's error code is still that of the last attempt.
+// Calls `attempt` until it returns true or FilePatience has passed, twice at least. Returns whether
+// it succeeded. The system's error code is still that of the last attempt.
 bool RetryUntil(const std::function<bool()>& attempt);
 
 }  // namespace platform

@@ -80,7 +80,7 @@ enum class Lifetime { EndsWithUs, Independent };
 
 // Turns the child process into the program; returns only on failure. Between fork and exec only
 // plain system calls are safe.
-void BecomeProgram(char* const* words, bool forWindows, int output, Lifetime lifetime,
+void BecomeProgram(char* const* argv, bool forWindows, int output, Lifetime lifetime,
                    pid_t parent) {
   if (lifetime == Lifetime::EndsWithUs) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -96,8 +96,8 @@ void BecomeProgram(char* const* words, bool forWindows, int output, Lifetime lif
   Replace(STDERR_FILENO, kNullDevice);
   std::signal(SIGPIPE, SIG_DFL);
   std::signal(SIGXFSZ, SIG_DFL);
-  if (forWindows) execvp(words[0], words);
-  execv(words[1], words + 1);
+  if (forWindows) execvp(argv[0], argv);
+  execv(argv[1], argv + 1);
 }
 
 // Starts the program of a command line, with the null device as standard input and error. A program
@@ -107,10 +107,10 @@ pid_t Start(std::string_view commandLine, int output, Lifetime lifetime, char** 
   const auto command = FindCommand(commandLine);
   if (!command) throw base::Failure("no such program");
   std::string wine = "wine";
-  std::vector<char*> words = {wine.data(), const_cast<char*>(command->program.c_str())};
+  std::vector<char*> argv = {wine.data(), const_cast<char*>(command->program.c_str())};
   for (const auto& argument : command->arguments)
-    words.push_back(const_cast<char*>(argument.c_str()));
-  words.push_back(nullptr);
+    argv.push_back(const_cast<char*>(argument.c_str()));
+  argv.push_back(nullptr);
 
   const bool forWindows = IsForWindows(command->program);
   const auto parent = getpid();
@@ -119,7 +119,7 @@ pid_t Start(std::string_view commandLine, int output, Lifetime lifetime, char** 
   Check(child >= 0);
   if (child == 0) {
     environ = environment;
-    BecomeProgram(words.data(), forWindows, output, lifetime, parent);
+    BecomeProgram(argv.data(), forWindows, output, lifetime, parent);
     const int error = errno;
     _exit(write(failure.writeEnd(), &error, sizeof error) == sizeof error ? 127 : 126);
   }

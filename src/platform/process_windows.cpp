@@ -115,7 +115,7 @@ HANDLE StartElevated(const Command& command, int showState) {
   start.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
   start.lpFile = file.c_str();
   start.lpParameters = arguments.c_str();
-  // Without it the program would start in the system's folder.
+  // Without a folder the program would start in the system's.
   start.lpDirectory = folder.c_str();
   start.nShow = showState;
   Check(ShellExecuteExW(&start) != 0);

@@ -36,8 +36,8 @@ bool Resize(const OpenFile& file, long long size) {
   return RetryUntil([&] { return file.setSize(size) && file.sync(); });
 }
 
-// Calls `make` with this path, then with numbers appended to it, until it returns true. It returns
-// false if the name is taken. Names of existing files are skipped.
+// Calls `make` with this path, then with numbers appended to it, until `make` returns true. It must
+// return false if the name is taken. Names of existing files are skipped.
 void UnderUnusedName(const std::string& path, const std::function<bool(const std::string&)>& make) {
   constexpr int kMaxCopies = 1000;
   for (int number = 1; number <= kMaxCopies; ++number) {

@@ -28,11 +28,11 @@ SettingsStore::SettingsStore(const std::string& application)
 // So a separate thread writes, and is left behind after a second.
 SettingsStore::~SettingsStore() {
   base::RunGuarded([this] {
-    constexpr std::chrono::seconds kPatience(1);
+    constexpr std::chrono::seconds kTimeout(1);
     std::packaged_task<void()> writing([native = std::move(native_)] { native->write(); });
     const auto written = writing.get_future();
     std::thread thread(std::move(writing));
-    if (written.wait_for(kPatience) == std::future_status::ready)
+    if (written.wait_for(kTimeout) == std::future_status::ready)
       thread.join();
     else
       thread.detach();

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Unpacks the archives for Linux over each other in every order, also over what older ones left, and
-# starts what stands then. Each start has to take the toolkit of one place, plugins too.
+# Unpacks the archives for Linux over each other in every order, also over remains of older ones, and
+# starts the program each time. It must load Qt and its plugins from one and the same place.
 # Usage: archives.sh BUILD_FOLDER [OLDER_ARCHIVE...]   (after `cpack` in the build folder)
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/../../tools/front_end.sh"
@@ -12,16 +12,16 @@ bundle=$(ls "$build"/KestrivaneUI-*-Linux-with-Qt.tar.gz)
 app="$work/Jögos & mais"
 toolkit=$(tar -tzf "$bundle" | sed -n 's|^\(KestrivaneUI-Qt-[^/]*\)/$|\1|p')
 
-# What the archives of before had: libraries under one name for all versions, and a file that leads to
-# them. These can't be loaded, so whoever takes them doesn't start.
+# Leaves files like those of older archives: libraries with the same name for all versions, and a qt.conf
+# that names their folder. They are empty, so a program that loads them does not start.
 leave_remains() { # folder
     mkdir -p "$1/plugins/platforms"
     touch "$1"/libQt6{Core,Gui,Widgets,DBus,XcbQpa}.so.6 "$1/plugins/platforms/libqxcb.so"
     printf '[Paths]\nPrefix=%s\nPlugins=plugins\n' "$(basename "$1")" >"$app/qt.conf"
 }
 
-# What the running program took from its own folder of the toolkit and its plugin for the display.
-taken() { sed -n "s|.* $app/||p" "/proc/$front_end/maps" | grep -E '/(libQt6Core|libqxcb)\.so' | sort -u; }
+# Which of Qt's core library and its display plugin the running program has loaded from its own folder.
+loaded() { sed -n "s|.* $app/||p" "/proc/$front_end/maps" | grep -E '/(libQt6Core|libqxcb)\.so' | sort -u; }
 
 check() { # where the toolkit comes from: "system" or "folder"; archives...
     local place=$1 expected=
@@ -31,7 +31,7 @@ check() { # where the toolkit comes from: "system" or "folder"; archives...
     start_to_main_window "$app"
     [[ $place == system ]] ||
         expected=$(printf '%s\n' "$toolkit/libQt6Core.so.6" "$toolkit/plugins/platforms/libqxcb.so")
-    [[ $(taken) == "$expected" ]] || fail "from the program's folder: $(taken)"
+    [[ $(loaded) == "$expected" ]] || fail "loaded from the program's folder: $(loaded)"
     press Escape
     expect_end 0
 }
@@ -51,12 +51,12 @@ for archive in "${older[@]}"; do
     fresh; check folder "$archive" "$bundle"; check folder "$plain"
 done
 
-echo "The menu's script does what it is told, and nothing else"
+echo "The menu's script adds and removes its entry, and rejects an unknown argument"
 export XDG_DATA_HOME=$work/data
 entry=$XDG_DATA_HOME/applications/kestrivane-ui.desktop
 menu() { sh "$app/KestrivaneUI-menu.sh" "$@"; }
-! menu --remvoe 2>/dev/null || fail "an unknown word was taken"
+! menu --remvoe 2>/dev/null || fail "an unknown argument was accepted"
 [[ $(menu --help) == Usage* && ! -e $XDG_DATA_HOME ]] || fail "no help"
-[[ $(menu) == *"$entry"* ]] || fail "not told"
+[[ $(menu) == *"$entry"* ]] || fail "the entry's path is not printed"
 grep -qxF "Exec=\"$app/KestrivaneUI\"" "$entry" || fail "not in the menu"
 [[ $(menu --remove) == *"$entry" && ! -e $entry ]] || fail "still in the menu"

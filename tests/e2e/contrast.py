@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-# Measures screenshots: contrast.py TABLE START_OF_THEIR_PATHS. Ends with how many ratios are too low.
-# Text must stand out from the colour behind it, and a change must show in a stroke's worth of pixels.
+# Measures contrasts on screenshots. Usage: contrast.py TABLE START_OF_THE_PATHS. The exit status is the
+# number of ratios that are too low. A text is measured against its background; a change between two
+# screenshots by the pixels that differ most, as many as a stroke has.
 import sys
 from collections import Counter
 
@@ -31,7 +32,7 @@ def pixels(file, box):
 def text_contrast(shot):
     colours = Counter(shot)
     background = colours.most_common(1)[0][0]
-    # A letter's strokes hold the colour at several places; a single pixel may be an edge of its own.
+    # The text's colour is in several pixels. One or two pixels of a colour may be the edge of a letter.
     return max(contrast(colour, background) for colour, count in colours.items() if count > 2)
 
 

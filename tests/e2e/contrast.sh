@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Starts the program on the toolkit's own desktop, on two dark ones and on one of high contrast, and
-# measures on screenshots that its texts can be read (4.5:1) and that edges, thumbs, focus and state
-# can be seen (3:1). Takes three minutes.
+# Starts the program on Qt's default desktop, on two dark ones and on one with high contrast, and checks
+# on screenshots the contrast of texts (4.5:1) and of edges, thumbs, focus and state (3:1). Takes three
+# minutes.
 # Usage: contrast.sh FRONT_END STAND_IN [folder for the screenshots]
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -18,8 +18,8 @@ write_archive "$work/app" 1 good
 echo shader >"$work/app/some.fs"
 mkdir -p "$shots" "$XDG_CONFIG_HOME/qt6ct"
 
-# White and yellow on black; the toolkit takes no high contrast from other desktops. In the order of
-# its colour roles: text, button, ... window, ... highlight, highlighted text, links, ...
+# A palette of white and yellow on black, since Qt takes no high contrast from other desktops. The colours
+# are in the order of Qt's roles: text, button, ... window, ... highlight, highlighted text, links, ...
 black='#ff000000' white='#ffffffff' yellow='#ffffff00' cyan='#ff00ffff' grey='#ff808080'
 roles="$white, $black, $white, $grey, $black, $grey, $white, $white, $white, $black, $black, $black, \
 $yellow, $black, $cyan, $cyan, $black, $white, $black, $white, $grey"
@@ -47,4 +47,4 @@ for desktop in "light" "qt6ct QT_QPA_PLATFORMTHEME=qt6ct" "high QT_QPA_PLATFORMT
     "$here/contrast.py" "$here/contrast.tsv" "$shots/$theme-" || low=$((low + $?))
 done
 ((low == 0)) || fail "$low contrasts are too low"
-echo "All can be read and seen"
+echo "All contrasts are high enough"

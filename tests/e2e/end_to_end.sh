@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Uses the real program as a person does: by keys, watching its windows, files and exit status.
+# Uses the real program by keys, as a user does, and watches its windows, files and exit status.
 # Usage: end_to_end.sh FRONT_END STAND_IN
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/../../tools/front_end.sh"
@@ -16,11 +16,11 @@ save_options() {
     expect_main_window
 }
 
-echo "Asked for its version, it says so and ends, without display and folders"
+echo "--version and --help print and end, without a display and without making folders"
 lay_out "$app" "$1"
 [[ $("$app/KestrivaneUI" --version 2>&1) == "Kestrivane UI "?.?.??? ]] || fail "no version"
-! "$app/KestrivaneUI" --help >/dev/full || fail "help got lost, and no word about it"
-[[ $(ls "$app") == KestrivaneUI$'\n'ROMs ]] || fail "something was made"
+! "$app/KestrivaneUI" --help >/dev/full || fail "a failed write of the help text is not reported"
+[[ $(ls "$app") == KestrivaneUI$'\n'ROMs ]] || fail "files or folders were made"
 
 start_display "$work" || fail "no display"
 
@@ -39,7 +39,7 @@ rmdir "$app/ROMs"
 start_to_main_window "$app"
 made=$(cd "$app" && printf '%s ' * Config/*)
 [[ $made == "Config Icons Kestrivane.exe KestrivaneUI ROMs Snaps Config/* " ]] || fail "made $made"
-press Return Escape # no archive, so there is nothing to play, and what comes next is obeyed
+press Return Escape # Return does nothing without an archive, and Escape still works after it
 expect_end 0
 [[ ! -e $XDG_CONFIG_HOME ]] || fail "Escape wrote the settings store"
 
@@ -50,16 +50,16 @@ play
 beside=$front_end
 start_to_main_window "$app"
 save_options
-alone=$(<"$config")
+saved=$(<"$config")
 press Escape
 expect_end 0
 front_end=$beside beside=
 expect_main_window 45
 expect_counted "1,2[2-9]"
-[[ $(<"$config") == "$alone" ]] || fail "the play wrote the file"
+[[ $(<"$config") == "$saved" ]] || fail "the play wrote the file"
 save_options
-[[ $(<"$config") == "$alone"$'\n;GameTimeLog=7undertow,1,2'[2-9]$'\r' ]] ||
-    fail "the file is not what the last one saved: $(diff <(echo "$alone") "$config")"
+[[ $(<"$config") == "$saved"$'\n;GameTimeLog=7undertow,1,2'[2-9]$'\r' ]] ||
+    fail "the file is not what the first front-end saved: $(diff <(echo "$saved") "$config")"
 
 echo "A play that fails shows the report"
 write_archive "$app" 1 error

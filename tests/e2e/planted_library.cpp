@@ -1,5 +1,5 @@
-// A library under the name of one of the system's. Whoever loads it leaves a file of its name with
-// ".loaded" behind.
+// A library that gets the name of one of the system's. When it is loaded, it creates a file with
+// its own name and ".loaded" appended.
 #include <windows.h>
 
 #include <string>

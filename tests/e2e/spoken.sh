@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Uses the program by keys alone, with a screen reader running, prints what that speaks and fails
-# where it leaves out what a person who sees nothing needs: the words of spoken.tsv. Takes some minutes.
+# Uses the program by keys alone with a screen reader, and prints what the reader speaks. Fails if it does
+# not speak the words of spoken.tsv, which a blind user needs. Takes some minutes.
 # Usage: spoken.sh FRONT_END STAND_IN [en|es|pt]
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 if [[ -z ${ON_A_BUS:-} ]]; then
     "$here/../../tools/install.sh" display spoken
-    # What the bus says of itself is of no use.
+    # The bus prints messages that nobody needs.
     ON_A_BUS=yes exec dbus-run-session -- "$here/spoken.sh" "$@" 3>&2 2>/dev/null
 fi
 . "$here/../../tools/front_end.sh"
@@ -18,8 +18,8 @@ heard=0 # lines of the speech so far
 # The column of spoken.tsv is the number that the configuration file has for the language.
 case ${3:-en} in en) language=0 ;; es) language=1 ;; pt) language=2 ;; *) exit 2 ;; esac
 
-# The screen reader writes what it would speak into a file, and needs no sound for it. What starts
-# its speech has another name in each of its versions.
+# Makes the screen reader write its speech into a file instead of speaking it. The function that starts
+# its speech has different names in different versions.
 start_reader() {
     export SPOKEN=$work/spoken HOME=$work/home XDG_DATA_HOME=$work/home/data
     export LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
@@ -42,7 +42,7 @@ PY
     wait_until 60 grep -q "Screen reader on" "$SPOKEN" || fail "the screen reader did not start"
 }
 
-# A person holds each key for a moment, and may press the same one again.
+# Presses keys one by one, and holds each for a moment as a user does.
 hold() { # keys
     local key
     for key in $1; do
@@ -53,9 +53,9 @@ hold() { # keys
 
 is_spoken() { tail -n "+$((heard + 1))" "$SPOKEN" | grep -qF -- "$1"; }
 
-# Presses the keys, if there are some, and prints what is spoken until the words have come, or says
-# which have not. The rest of a sentence may take a moment more.
-hear() { # keys or -, words that "|" divides; what stands behind "!" must not be spoken
+# Presses the keys, if there are some, and waits until the words are spoken and a moment longer for the
+# rest of the sentence. Prints all that was spoken, and the words that were not.
+hear() { # keys or -, words separated by "|"; a word with "!" before it must not be spoken
     local patience=90 said word words
     if [[ $1 != - ]]; then
         patience=25
@@ -77,7 +77,7 @@ hear() { # keys or -, words that "|" divides; what stands behind "!" must not be
 
 missed() {
     missing=$((missing + 1))
-    echo "MISSING behind $1: $2" >&2
+    echo "MISSING after $1: $2" >&2
 }
 
 exec 2>&3
@@ -86,11 +86,12 @@ start_reader 2>/dev/null
 lay_out "$app" "$1" "$2"
 mkdir -p "$app/Config" "$app/My pictures"
 write_archive "$app" 70 error ambrcst
-# Another language than that of the run, which is chosen by keys.
+# The program starts in another language. The run chooses its own by keys.
 printf ';*** Kestrivane UI\xae\r\n;KVL configuration\r\n;KVLLanguage=%d\r\n' $(((language + 1) % 3)) >"$config"
 heard=$(wc -l <"$SPOKEN")
 start "$app" 2>/dev/null
-# One column a language, where it differs from English; the keys of the three may stand in one.
+# Each language has a column of words, which may be empty or missing if it is as in English. If the keys
+# differ, the first column has them for the three languages, separated by slashes.
 while IFS= read -r line <&4; do
     if [[ $line == \#* ]]; then
         echo "${line#\# }"

@@ -5,7 +5,7 @@
 
 namespace forms {
 
-// The toolkit, once per program, before the first form.
+// Starts the toolkit. To be created once per program, before the first form.
 class Application {
  public:
   Application();

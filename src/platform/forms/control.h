@@ -72,7 +72,7 @@ class Control {
   void setAccessibleDescription(const std::string& text);
   // Has assistive technology speak the control as if the focus had come to it.
   void announce() const;
-  // For a control whose class does not determine its role.
+  // Sets the role, for a control whose class does not determine it.
   void setRole(Role role);
 
  protected:

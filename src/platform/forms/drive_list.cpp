@@ -15,7 +15,7 @@ namespace forms {
 namespace {
 
 // How long a chosen drive has to answer.
-constexpr std::chrono::seconds kPatience(1);
+constexpr std::chrono::seconds kTimeout(1);
 
 // Collects names only. None of these calls waits for a volume.
 std::vector<std::string> Drives() {
@@ -48,7 +48,7 @@ DriveList::DriveList(Container& parent, const char* name, const Box& box,
   onClick = [this] {
     if (selectedRow() == accepted_) return;
     const auto readDrive = [path = drive()] { platform::SubfolderNames(path); };
-    if (!platform::SucceedsWithin(kPatience, readDrive)) {
+    if (!platform::SucceedsWithin(kTimeout, readDrive)) {
       select(accepted_);
       return;
     }

@@ -55,12 +55,12 @@ class FormWindow : public QMainWindow {
   // Waits until the window is painted on the screen, but at most a second, since not every window
   // system reports it.
   void waitUntilShown() const {
-    const QDeadlineTimer patience(std::chrono::seconds(1));
+    const QDeadlineTimer deadline(std::chrono::seconds(1));
     do {
       QApplication::processEvents();
       if (windowHandle()->isExposed()) break;
       QThread::msleep(1);
-    } while (!patience.hasExpired());
+    } while (!deadline.hasExpired());
     QApplication::processEvents();
   }
 

@@ -32,7 +32,7 @@ class Form : public Container {
   // While true, the window can't be closed from outside.
   void setCloseRefused(bool refused);
 
-  // Left = owner's left + owner's width / 2 - own width / 2; the same for the top.
+  // Sets left = owner's left + owner's width / 2 - own width / 2, and the top likewise.
   void centreOver(const Form& owner);
   void centreOnScreen();
 

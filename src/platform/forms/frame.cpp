@@ -14,7 +14,7 @@ class NativeFrame : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    // Where a heading would stand, the upper line leaves room for the buttons above.
+    // The upper line keeps off the frame's edge, as for a heading, to leave room for buttons above.
     constexpr int kHeadingPixels = 9;
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::Mid));
