@@ -63,8 +63,8 @@ TEST_F(PosixProcess, AListingEndsWithUsAndAPlayDoesNot) {
     EXPECT_EQ(getsid(emulator) != getsid(us), play) << "the end of a terminal is the end of both";
     kill(us, SIGTERM);
     StatusOf(us);
-    if (play) kill(emulator, SIGINT);
-    EXPECT_EQ(StatusOf(emulator), play ? SIGINT : SIGKILL);
+    if (play) kill(emulator, SIGTERM);
+    EXPECT_EQ(StatusOf(emulator), play ? SIGTERM : SIGKILL);
   }
 }
 
