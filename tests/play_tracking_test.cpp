@@ -65,6 +65,9 @@ TEST_F(PlayTracking, ErrorLogOfAnyLengthIsReadAndOneThatStaysIsNot) {
     EXPECT_TRUE(ErrorText.ends_with("x\r\n...")) << "a long report is cut";
   }
   EXPECT_FALSE(ReadErrorLog()) << "none there";
+  write("error.log", "1\r\n2");
+  ReadErrorLog();
+  EXPECT_EQ(ErrorText, "") << "a log that ends in its head";
   write("error.log", "a report that would be one");
   const support::Unprivileged user(path(""));
   const support::ShortPatience patience;

@@ -170,10 +170,15 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
     const char* what;
     std::string old, change;  // one beginning with ">" is where a link leads
     std::size_t plays;
-  } roads[] = {{"first", "", "", 1},          {"through a link", ">target", "", 1},
-               {"grow", few, "", 40},         {"shrink", many, "", 0},
-               {"same size", many, "", 40},   {"foreign", foreign, "", 40},
-               {"read in part", bad, "", 40}, {"changed", few, many + "; by hand\r\n", 1},
+  } roads[] = {{"first", "", "", 1},
+               {"through a link", ">target", "", 1},
+               {"grow", few, "", 40},
+               {"shrink", many, "", 0},
+               {"shrink a little", "; a note\r\n" + many, "", 30},
+               {"same size", many, "", 40},
+               {"foreign", foreign, "", 40},
+               {"read in part", bad, "", 40},
+               {"changed", few, many + "; by hand\r\n", 1},
                {"appeared", "", few, 1}};
   const Fault kinds[] = {{0, Kind::Kills},
                          {0, Kind::Fails, EIO, true},

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMetaEnum>
 #include <QPushButton>
@@ -77,6 +78,15 @@ QString SelectionOf(const QListWidget& list) {
   return text + (list.verticalScrollBar()->value() > 0 ? " scrolled" : "");
 }
 
+// Those that are set.
+QString ColoursOf(const QWidget& control) {
+  QStringList colours;
+  for (const auto role : {control.foregroundRole(), control.backgroundRole()})
+    if (control.palette().isBrushSet(QPalette::Active, role))
+      colours << control.palette().color(role).name();
+  return colours.join(' ');
+}
+
 QString StateOf(const QWidget& control) {
   const auto& accessible = Accessible(control);
   const auto role = accessible.role();
@@ -95,9 +105,7 @@ QString StateOf(const QWidget& control) {
   else if (const auto value = accessible.text(QAccessible::Value);
            !value.isEmpty() && control.objectName() != "Drive1")
     text << Quoted(value);
-  for (const auto colour : {control.foregroundRole(), control.backgroundRole()})
-    if (control.palette().isBrushSet(QPalette::Active, colour))
-      text << control.palette().color(colour).name();
+  text << ColoursOf(control);
   const auto tip = control.toolTip();
   if (!tip.isEmpty() && tip != accessible.text(QAccessible::Name)) text << "tip " + Quoted(tip);
   if (control.isHidden()) text << "hidden";
@@ -196,6 +204,8 @@ QList<Snapshot> SnapshotsOf(const QWidget& window) {
       Quoted(window.windowTitle()) +
           (description.isEmpty() ? "" : " described " + Quoted(description)),
       {}, window.windowIcon().isNull() ? "NO ICON" : "icon");
+  const auto* form = qobject_cast<const QMainWindow*>(&window);
+  add("Ground", form ? ColoursOf(*form->centralWidget()) : "", {}, "");
   const auto* focus = window.focusWidget();
   add("Focus", focus && isOurs(*focus) ? focus->objectName() : "", {}, "at first");
   const auto* popup = QApplication::activePopupWidget();

@@ -80,6 +80,12 @@ QStringList ChangesOf(const Snapshot& old, const Snapshot& now) {
   return changes << ": " + state;
 }
 
+bool TakesFocus(const QWidget& window, const QString& name) {
+  const auto* control = window.findChild<QWidget*>(name);
+  return control && control->isVisible() && control->isEnabled() &&
+         control->focusPolicy() & Qt::ClickFocus;
+}
+
 }  // namespace
 
 std::vector<fs::path> FilesOf(const char* folder) {
@@ -138,7 +144,8 @@ bool Transcript::begin(const Line& line) {
 
 void Transcript::run(QString step, QWidget* opened) {
   step.remove(QRegularExpression("^still "));
-  const auto target = step.section(' ', -1).section(':', 0, 0);
+  const bool touches = !step.startsWith("hover") && !step.startsWith("wheel");
+  const auto target = touches ? step.section(' ', -1).section(':', 0, 0) : QString();
   acted_ = target;
   const auto action = [&] {
     try {
@@ -223,6 +230,7 @@ void Transcript::playASecond() {
   if (eventsWait_) out("no events are handled");
   eventsWait_ = true;
   QTimer::singleShot(0, &timer_, [this] { eventsWait_ = false; });
+  if (clock_.sleeps.back() != 1000) out("the clock is not asked for a second");
   pause_ += logSeen_ && !exists("error.log");
   logSeen_ = logSeen_ || exists("error.log");
   if (next_ == lines_.size() || !lines_[next_].text.startsWith("> during the play, ")) return;
@@ -248,12 +256,16 @@ void Transcript::look(const QWidget& window) {
   for (const auto& now : SnapshotsOf(window)) {
     auto old = std::exchange(before[now.name], now);
     old.name = now.name;
+    if (now.name == "Focus" && TakesFocus(window, acted_)) old.state = acted_;
     const bool described = key == only_;
     if (described && now.looks != old.looks) {
       order << Whole(now);
-    } else if (described ? describeWhole_
-                         : only_.isEmpty() && now.name + now.state != "Focus" + acted_) {
-      for (const auto& change : ChangesOf(old, now)) {
+    } else if (described ? describeWhole_ : only_.isEmpty()) {
+      const auto called = now.looks.section('"', 1, 1);
+      auto changes = ChangesOf(old, now);
+      if (now.looks.startsWith("List ") && called != old.looks.section('"', 1, 1))
+        changes << ": called \"" + called + "\"";
+      for (const auto& change : changes) {
         if (!names.contains(change)) order << change;
         names[change] << now.name;
       }

@@ -113,20 +113,18 @@ void UiTest::pressKey(const QString& how, const QKeySequence& keys) {
 
 // The second click goes to the widget that is at the place after the first one.
 void UiTest::doubleClick(QPoint place) {
-  for (const auto second : {false, true}) {
+  for (const bool second : {false, true}) {
     auto* modal = QApplication::activeModalWidget();
     auto* under = modal ? modal : QApplication::activeWindow();
-    auto* target = under->childAt(under->mapFromGlobal(place));
-    if (!target) target = under;
-    const auto press = second ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress;
-    for (const auto type : {press, QEvent::MouseButtonRelease}) {
-      QMouseEvent event(type, target->mapFromGlobal(place), place, Qt::LeftButton,
-                        type == press ? Qt::LeftButton : Qt::NoButton, {});
-      event.setTimestamp(static_cast<quint64>(QTest::lastMouseTimestamp += 80));
-      QApplication::sendEvent(target, &event);
-    }
+    auto* child = under->childAt(under->mapFromGlobal(place));
+    auto* target = child ? child : under;
+    const auto at = target->mapFromGlobal(place);
+    if (!second) QTest::mouseClick(target, Qt::LeftButton, {}, at);
+    if (!second) continue;
+    QTest::lastMouseTimestamp -= 420;  // of 500 that the first one is ahead
+    QTest::mouseDClick(target, Qt::LeftButton, {}, at);
+    QTest::mouseRelease(target, Qt::LeftButton, {}, at);
   }
-  QTest::lastMouseTimestamp += 500;
 }
 
 QString UiTest::act(QWidget& window, const QString& step) {
