@@ -1,4 +1,4 @@
-// The value of an input. Filling the table and rebuilding the value agree with each other, and
+// The value of an input: splitting it into cells and joining them gives the same value, and
 // numbering the devices can be repeated and undone.
 #include <algorithm>
 
@@ -20,11 +20,11 @@ void CheckRebuilding(core::BindingCells cells) {
   Require(value.find(",,") == value.npos && value.find("\",") == value.npos &&
               value.find(",\"") == value.npos,
           "no token is empty");
-  // "NONE" inside a token goes at the next filling; no token of the emulator has it.
+  // Splitting removes "NONE" inside a token. No token of the emulator contains it.
   if (std::any_of(cells.begin(), cells.end(), [](auto& cell) { return Holds(cell, "NONE"); }))
     return;
   std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
-  Require(core::CellsOf(value) == cells, "the cells come back, closed up");
+  Require(core::CellsOf(value) == cells, "the cells come back without gaps");
 }
 
 void CheckNumbering(std::string_view value, int player) {

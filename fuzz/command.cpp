@@ -1,5 +1,5 @@
-// A command line: the program found is one that is there and that the line names, and no part of
-// the line gets lost or is made up.
+// A command line: the program that is found exists and is named in the line, and program and
+// arguments together are the line.
 #include <algorithm>
 #include <cstring>
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// Text without what the splitting may change: case, separators, "." for a folder, quotes, blanks.
+// The text without what splitting may change: case, separators, dots, quotes, blanks.
 std::string Bare(std::string_view text) {
   std::string bare(text);
   std::erase_if(bare, [](char c) { return std::strchr("\\/.\" ", c) && c != '\0'; });
@@ -35,7 +35,8 @@ void fuzz::Examine(std::string_view bytes) {
   std::string arguments;
   for (const auto& argument : command->arguments) {
     Require(argument.find('"') == argument.npos, "quotes are gone");
-    Require(bytes.find('"') != bytes.npos || argument.find(' ') == argument.npos, "blanks part");
+    Require(bytes.find('"') != bytes.npos || argument.find(' ') == argument.npos,
+            "blanks separate arguments");
     arguments += argument;
   }
   const auto line = Bare(bytes);

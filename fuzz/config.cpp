@@ -1,5 +1,6 @@
-// The configuration file. Whatever bytes are read, what is written and read again is the part that
-// the format can hold, and a second write changes nothing. Games of any name are played in between.
+// The configuration file: after any bytes were read, writing and reading give the same state, as
+// far as the format can store it, and a second write changes nothing. In between, a game of any
+// name is played.
 #include <algorithm>
 
 #include "../tests/support/state_text.h"
@@ -18,7 +19,7 @@ namespace {
 using config::Configuration;
 using fuzz::Require;
 
-// Most inputs start without a binding, which keeps the written text short.
+// Only inputs before this one have default bindings, which keeps the written text short.
 constexpr core::Slot kBoundByDefault = core::kFirstInputSlot + 4;
 
 Configuration Start() {
@@ -30,8 +31,8 @@ Configuration Start() {
   return start;
 }
 
-// Into the shared state, whose rows are used again, since making new ones would take most of the
-// time.
+// Reads the bytes into the shared state. Its rows are reused, since creating new ones would take
+// most of the time.
 void Read(std::string_view bytes) {
   static const auto start = Start();
   Configuration read;
@@ -65,9 +66,9 @@ void Play(std::string_view name) {
             "each row keeps its game");
 }
 
-// What the format can hold of the state, which has no more afterwards; of what all games have in
-// common what holds.
-std::string Held() {
+// Reduces the state to what the format can store, with effective values for all games, and returns
+// it as text.
+std::string StorableState() {
   using namespace Module1;
   for (auto* list : {&RomPaths, &SnapPaths, &IconPaths})
     std::fill(std::find(list->begin() + 1, list->begin() + 4, ""), list->end(), "");
@@ -95,7 +96,7 @@ void fuzz::Examine(std::string_view bytes) {
                    "too many rows are not written");
   const auto text = platform::DecodeLines(bytes);
   Play(std::string_view(text).substr(0, text.find(base::kLineEnd)));
-  // A hand-made header can name a row so that the header written for it reads as another one.
+  // A header in the input can give a row a name whose written header is read as another name.
   for (auto row = Module1::Profiles.begin() + 2; row != Module1::Profiles.end(); ++row)
     if (row->Name == "Global" || row->Name.starts_with("]") ||
         row->Name.find(" ]") != row->Name.npos)
@@ -105,12 +106,12 @@ void fuzz::Examine(std::string_view bytes) {
   for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
     cleared |= Module1::Profiles[1].Slots[slot].Value == core::kNoBinding &&
                Module1::Profiles[0].Slots[slot].Value != core::kNoBinding;
-  const auto held = Held();
+  const auto state = StorableState();
   Read(written);
   const auto rewritten = Written();
   Require(cleared == (rewritten != written), "only a cleared binding changes the file");
-  Require(Held() == held, "what the format can hold comes back");
+  Require(StorableState() == state, "what the format can store comes back");
   if (!cleared) return;
   Read(rewritten);
-  Require(Written() == rewritten, "the file settles");
+  Require(Written() == rewritten, "the next write changes nothing");
 }

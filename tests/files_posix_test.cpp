@@ -24,7 +24,7 @@ TEST_F(PosixFiles, AreFoundInAnySpelling) {
   fs::create_symlink("gone.zip", path("ROMs/link.zip"));
   fs::create_directory_symlink(".", path("ROMs/loop"));
   const struct {
-    const char *name, *file;  // the latter empty: no such file
+    const char *name, *file;  // empty if there is no such file
   } rows[] = {{"\\roms\\éclair one.zip", "ROMs/Éclair One.ZIP"},
               {"/roms\\two.zip", "ROMs/two.zip"},
               {"\\roms\\TWO.zip", "ROMs/TWO.zip"},
@@ -38,7 +38,7 @@ TEST_F(PosixFiles, AreFoundInAnySpelling) {
     EXPECT_EQ(IsFile(AppFolder + name), *file != '\0') << name;
     EXPECT_TRUE(!*file || fs::equivalent(SystemPath(AppFolder + name), path(file))) << name;
   }
-  // An exact spelling in a later folder is no better than another one in an earlier.
+  // A different spelling in an earlier folder comes before the exact spelling in a later one.
   EXPECT_EQ(FirstFolderOfEach({"two.zip", "éclair one.zip", "Three.ZIP", "three.zip", "four.zip",
                                "link.zip", "folder.zip", "loop"},
                               {AppFolder + "\\none", AppFolder, AppFolder + "\\ROMS\\loop"}),
@@ -50,18 +50,18 @@ TEST_F(PosixFiles, AreFoundInAnySpelling) {
   EXPECT_TRUE(IsFile("roms\\two.zip") && !IsFile("")) << "relative to the working folder";
 }
 
-TEST_F(PosixFiles, ThatHaveJustComeOrGoneAreSeen) {
+TEST_F(PosixFiles, AreNoticedWhenTheyWereJustCreatedOrDeleted) {
   fs::create_directory(path("ROMs"));
   const auto name = AppFolder + "\\ROMS\\GAME.ZIP";
   const auto now = fs::file_time_type::clock::now();
-  const auto rested = now - std::chrono::milliseconds(12345);
+  const auto old = now - std::chrono::milliseconds(12345);
   const auto coarse = std::chrono::floor<std::chrono::seconds>(now - std::chrono::seconds(1));
-  for (const auto& changed : {now, fs::file_time_type(coarse), rested}) {
+  for (const auto& changed : {now, fs::file_time_type(coarse), old}) {
     fs::last_write_time(path("ROMs"), changed);
     ASSERT_FALSE(IsFile(name));
     write("ROMs/game.zip", "");
-    // A second change within one tick of the file system's clock leaves the folder's time alone.
-    if (changed != rested) fs::last_write_time(path("ROMs"), changed);
+    // A second change within one tick of the file system's clock does not change the folder's time.
+    if (changed != old) fs::last_write_time(path("ROMs"), changed);
     EXPECT_TRUE(IsFile(name));
     fs::remove(path("ROMs/game.zip"));
     EXPECT_FALSE(IsFile(name));
@@ -75,7 +75,7 @@ TEST_F(PosixFiles, APipeIsNeitherReadNorWaitedFor) {
   EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
 }
 
-TEST_F(PosixFiles, ASettingsStoreThatAnotherProgramKeepsIsLeftToItself) {
+TEST_F(PosixFiles, ALockedSettingsStoreBlocksNobodyAndIsWrittenLater) {
   const fs::path lock = std::string(getenv("XDG_CONFIG_HOME")) + "/Kestrivane UI.conf.lock";
   std::ofstream(lock) << "another";
   config::SaveUserSettings();

@@ -1,4 +1,4 @@
-// What keeps the failures, faults and delays of a step from what comes after it.
+// Failures, errors and delays must not spread to the caller.
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -9,13 +9,13 @@
 
 namespace {
 
-TEST(ErrorBoundary, EndsBothAndTellsOfAFaultThatIsNoFailure) {
-  std::string told;
-  base::UnexpectedErrorHandler() = [&](const std::string& what) { told += what; };
+TEST(ErrorBoundary, CatchesAllExceptionsAndReportsThoseThatAreNoFailures) {
+  std::string reported;
+  base::UnexpectedErrorHandler() = [&](const std::string& what) { reported += what; };
   EXPECT_FALSE(base::RunGuarded([] { throw base::Failure("a failure"); }));
-  EXPECT_FALSE(base::RunGuarded([] { throw std::out_of_range("a fault"); }));
+  EXPECT_FALSE(base::RunGuarded([] { throw std::out_of_range("a bug"); }));
   base::UnexpectedErrorHandler() = nullptr;
-  EXPECT_EQ(told, "a fault");
+  EXPECT_EQ(reported, "a bug");
 }
 
 TEST(BoundedCall, SucceedsOnlyInTimeAndWithoutAnException) {

@@ -22,7 +22,7 @@ class PlayTracking : public support::TempApp {
   support::FakeClock clock;
 };
 
-TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
+TEST_F(PlayTracking, CommandLineNamesTheGlobalInputSystem) {
   RomPaths[2] = "C:\\my roms";
   Profiles.emplace_back().Name = "game_a";
   unsigned char system = 0;
@@ -33,7 +33,7 @@ TEST_F(PlayTracking, CommandLineGoesByTheGlobalInputSystem) {
   }
 }
 
-TEST_F(PlayTracking, PlaysAddUpInARowOfTheGameUnlessItsFiguresAreOdd) {
+TEST_F(PlayTracking, PlaysAddUpInTheGamesRowUnlessItsFiguresAreInvalid) {
   const struct {
     const char *game, *plays, *seconds, *after;
   } rows[] = {{"g", "1", "70", "g,2,100,,"},    {"g", "1", "", "g,1,,,"},
@@ -53,14 +53,14 @@ TEST_F(PlayTracking, PlaysAddUpInARowOfTheGameUnlessItsFiguresAreOdd) {
   EXPECT_EQ(row(0) + row(39) + row(40), "g,2,60other,1,30g,2,60");
 }
 
-TEST_F(PlayTracking, ErrorLogOfAnyLengthIsReadAndOneThatStaysIsNot) {
+TEST_F(PlayTracking, ErrorLogOfAnyLengthIsReadEvenIfItCantBeDeleted) {
   const std::string head = "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n";
   const std::string_view end = "Program terminated normally.";
   for (const std::size_t goodEnd : {0U, 1048560U, 3000000U}) {
     auto log = head + std::string(3000000, 'x') + "\r\n";
     if (goodEnd > 0) log.replace(goodEnd, end.size(), end);
     write("error.log", log);
-    EXPECT_EQ(ReadErrorLog(), goodEnd == 0) << "the good end stands at " << goodEnd;
+    EXPECT_EQ(ReadErrorLog(), goodEnd == 0) << "good end at " << goodEnd;
     EXPECT_EQ(ErrorText.size(), 1048576U + 5);
     EXPECT_TRUE(ErrorText.ends_with("x\r\n...")) << "a long report is cut";
   }

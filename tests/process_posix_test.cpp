@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 class PosixProcess : public support::TempApp {};
 
-TEST_F(PosixProcess, CaptureGivesStandardOutputAsTextIfThereIsAny) {
+TEST_F(PosixProcess, CaptureReturnsStandardOutputAsText) {
   writeProgram("a tool.exe",
                "printf 'caf\\351\\r\\n'; echo lost >&2; ls; echo $#-$2; read x || echo no input");
   EXPECT_EQ(capture("a tool.exe one \"two three\""), "café\r\na tool.exe\n2-two three\nno input\n");
@@ -36,7 +36,7 @@ TEST_F(PosixProcess, AProgramForWindowsIsHandedToWine) {
   setenv("PATH", before.c_str(), 1);
 }
 
-// Does the step in a child process, which must end by itself then.
+// Runs the step in a child process, which ends with the step's result as its status.
 template <class Step>
 pid_t Fork(const Step& step) {
   const pid_t child = fork();
@@ -51,7 +51,7 @@ int StatusOf(pid_t child) {
   return status;
 }
 
-TEST_F(PosixProcess, AListingEndsWithUsAndAPlayDoesNot) {
+TEST_F(PosixProcess, AListingEndsWithTheProgramAndAPlayDoesNot) {
   writeProgram("hang.exe", "echo $$ > new; mv new pid; exec sleep 30");
   prctl(PR_SET_CHILD_SUBREAPER, 1);
   for (const bool play : {false, true}) {
@@ -60,7 +60,8 @@ TEST_F(PosixProcess, AListingEndsWithUsAndAPlayDoesNot) {
         Fork([&] { return play ? run("hang") : static_cast<int>(capture("hang.exe").size()); });
     while (!exists("pid")) std::this_thread::sleep_for(std::chrono::milliseconds(2));
     const auto emulator = std::stoi(read("pid"));
-    EXPECT_EQ(getsid(emulator) != getsid(us), play) << "the end of a terminal is the end of both";
+    EXPECT_EQ(getsid(emulator) != getsid(us), play)
+        << "closing a terminal must end the listing only";
     kill(us, SIGTERM);
     StatusOf(us);
     if (play) kill(emulator, SIGTERM);
@@ -68,7 +69,7 @@ TEST_F(PosixProcess, AListingEndsWithUsAndAPlayDoesNot) {
   }
 }
 
-TEST_F(PosixProcess, AProgramWithoutStandardHandlesRunsOthersAndWithstandsItsOutputsEnd) {
+TEST_F(PosixProcess, ProgramsRunWithoutStandardHandlesAndSignalsOfOutputAreIgnored) {
   writeProgram("tool.exe", "echo out; kill -PIPE $$; echo the signal is ignored");
   const auto us = Fork([&] {
     for (const int standard : {0, 1, 2}) close(standard);

@@ -20,7 +20,7 @@ namespace {
 
 enum class Kind { Fails, IsShortAndThenFails, Kills };
 
-// Which system call fails, counted from 1, and how often those of its name do.
+// Makes one system call fail, counted from 1; if it lasts, also later calls of the same name.
 thread_local struct Fault {
   int call = 0;
   Kind kind = Kind::Fails;
@@ -41,7 +41,8 @@ bool Fails(const char* name) {
   return isNext || isOneMore;
 }
 
-// Whether a call of that many bytes is made; a short one does half of its work, and the next fails.
+// Whether a call for `size` bytes succeeds. A short call gets half of the size, and the next call
+// fails.
 bool Does(const char* name, std::size_t& size) {
   if (!fault.counts || fault.calls + 1 != fault.call || size < 2 ||
       fault.kind != Kind::IsShortAndThenFails)
@@ -59,7 +60,7 @@ Function* Next(Function*, const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-// The library's own function, or one that fails.
+// The library's own function, or one that only fails.
 template <class Result, class... Types>
 auto Call(Result (*function)(Types...), const char* name) {
   return Fails(name) ? [](Types...) { return std::is_pointer_v<Result> ? Result() : Result(-1); }
@@ -71,7 +72,7 @@ auto Call(Result (*function)(Types...), const char* name) {
 #define NEXT(function) Next(&(function), #function)
 #define CALL(function) Call(&(function), #function)
 
-// Those of the library, for this whole program.
+// These replace the library's functions in this program.
 extern "C" {
 int stat(const char* path, struct stat* status) noexcept { return CALL(stat)(path, status); }
 int fstat(int file, struct stat* status) noexcept { return CALL(fstat)(file, status); }
@@ -80,12 +81,12 @@ dirent* readdir(DIR* folder) { return CALL(readdir)(folder); }
 ssize_t readlink(const char* path, char* text, size_t size) noexcept {
   return CALL(readlink)(path, text, size);
 }
-int open(const char* path, int how, ...) {
+int open(const char* path, int flags, ...) {
   va_list more;
-  va_start(more, how);
+  va_start(more, flags);
   const auto mode = va_arg(more, mode_t);
   va_end(more);
-  return Fails("open") ? -1 : NEXT(open)(path, how, mode);
+  return Fails("open") ? -1 : NEXT(open)(path, flags, mode);
 }
 int flock(int file, int lock) noexcept { return CALL(flock)(file, lock); }
 ssize_t pread(int file, void* bytes, size_t size, off_t at) {
@@ -100,10 +101,10 @@ ssize_t write(int file, const void* bytes, size_t size) {
 int fallocate(int file, int mode, off_t at, off_t n) { return CALL(fallocate)(file, mode, at, n); }
 int ftruncate(int file, off_t size) noexcept { return CALL(ftruncate)(file, size); }
 int fchmod(int file, mode_t mode) noexcept { return CALL(fchmod)(file, mode); }
-int linkat(int from, const char* old, int to, const char* name, int how) noexcept {
-  return CALL(linkat)(from, old, to, name, how);
+int linkat(int from, const char* old, int to, const char* name, int flags) noexcept {
+  return CALL(linkat)(from, old, to, name, flags);
 }
-// Nobody cuts the power during a test.
+// A test needs no real syncs, which take long.
 int fdatasync(int) { return Fails("sync") ? -1 : 0; }
 int fsync(int) { return Fails("sync") ? -1 : 0; }
 }
@@ -116,7 +117,7 @@ using Module1::AppFolder;
 
 constexpr const char* kFile = "Config/Kestrivane.ini";
 
-// What a reader makes of a file, whatever empty lines stand at its end.
+// The text of a file as a reader decodes it, without empty lines at its end.
 std::string WithoutEmptyLines(const std::string& bytes) {
   auto text = DecodeLines(bytes);
   return text.erase(text.find_last_not_of("\r\n") + 1);
@@ -126,8 +127,8 @@ class Saving : public support::TempApp {
  protected:
   Saving() { fs::create_directory(path("Config")); }
 
-  // A start, a change by another program, and a save, with a fault, in a child process if it is to
-  // be killed; how many calls there were.
+  // Runs a start, a change by another program, and a save, with a fault; in a child process if the
+  // fault kills it. Returns the number of system calls.
   static int run(const std::string& change, std::size_t plays, const Fault& with = {}) {
     const pid_t child = with.kind == Kind::Kills ? fork() : 0;
     if (child != 0) return waitpid(child, nullptr, 0);
@@ -168,9 +169,9 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
                     bad = foreign + ";InputMethod=x\n";
   const struct {
     const char* what;
-    std::string old, change;  // one beginning with ">" is where a link leads
+    std::string old, change;  // an old text that begins with ">" is the target of a link
     std::size_t plays;
-  } roads[] = {{"first", "", "", 1},
+  } cases[] = {{"first", "", "", 1},
                {"through a link", ">target", "", 1},
                {"grow", few, "", 40},
                {"shrink", many, "", 0},
@@ -187,7 +188,7 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
                          {0, Kind::IsShortAndThenFails, EIO},
                          {0, Kind::IsShortAndThenFails, ENOSPC, true}};
   int faults = 0;
-  for (const auto& [what, old, change, plays] : roads) {
+  for (const auto& [what, old, change, plays] : cases) {
     const bool isLink = old.starts_with('>');
     const auto prepare = [&, &old = old] {
       fs::remove_all(path("Config"));
@@ -217,7 +218,7 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
                      (fault.kind == Kind::IsShortAndThenFails ? ", short" : ""));
         prepare();
         run(change, plays, fault);
-        // What is there, and what is there when the disk is back and the user saves again.
+        // Checks the file after the fault, and after another save without a fault.
         for (const bool again : {false, true}) {
           const auto now = stored();
           const bool isAsBefore = fault.kind == Kind::Kills && now == WithoutEmptyLines(old);
@@ -237,7 +238,7 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
   EXPECT_GT(faults, 2000);
 }
 
-TEST_F(Saving, AnotherProgramsFileIsReadAndAfterASecondNotWritten) {
+TEST_F(Saving, AFileThatAnotherProgramHasLockedIsReadButNotWritten) {
   EXPECT_EQ(FilePatience().load(), std::chrono::seconds(1));
   const support::ShortPatience patience;
   const auto file = AppFolder + "\\a.ini";

@@ -1,6 +1,5 @@
 // Random use of the whole program for SOAK_SECONDS (30): keys, clicks, wheel, menus, dialogs,
-// plays. Whatever a save leaves in the file must be what the program holds. SOAK_SEED repeats a
-// run.
+// plays. After each save, the file must match the program's state. SOAK_SEED repeats a run.
 #include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QEventLoop>
@@ -42,7 +41,7 @@ class Soak : public support::UiTest {
     const QDeadlineTimer end(qEnvironmentVariable("SOAK_SECONDS", "30").toLongLong() * 1000);
     QEventLoop loop;
     std::function<void()> next = [&] {
-      // Asked for first: the action may open a window and stay in it.
+      // Scheduled before the action, which may open a window and return only when that closes.
       QTimer::singleShot(0, &browser_, next);
       auto* modal = QApplication::activeModalWidget();
       if (!end.hasExpired() && !HasFailure()) return act();
@@ -87,8 +86,8 @@ class Soak : public support::UiTest {
     return keys[pick(static_cast<int>(keys.size()))][0].key();
   }
 
-  // After a save: the file is what the state gives, and gives that state back but for cleared
-  // bindings, which it can't hold.
+  // If the file has changed: it must be the text of the state, and reading it must give the same
+  // state, except for cleared bindings, which the file can't store.
   void compareFile() {
     auto file = read("Config/Kestrivane.ini");
     if (file == file_) return;
@@ -110,7 +109,7 @@ class Soak : public support::UiTest {
       qEnvironmentVariable("SOAK_SEED", QString::number(std::random_device()())).toUInt();
   std::mt19937 random_{seed_};
   support::FakeClock clock_;
-  QTextBrowser browser_;  // takes the addresses that are opened
+  QTextBrowser browser_;  // receives web addresses instead of a real browser
   std::string file_;
   int actions_ = 0, saves_ = 0;
 };

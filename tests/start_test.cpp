@@ -1,4 +1,4 @@
-// What a start finds: folders, the emulator's listing, the archives.
+// The steps of a start: folders, the emulator's listing, the archives.
 #include "platform/files.h"
 #include "support/temp_app.h"
 
@@ -9,7 +9,7 @@ using namespace Module1;
 
 class Start : public support::TempApp {};
 
-TEST_F(Start, TakesTheEmulatorAsItIs) {
+TEST_F(Start, CopesWithEachFaultOfTheEmulator) {
   const std::tuple<const char*, const char*, std::size_t> rows[] = {
       {"", "0.3a", 41},       {"silent", "", 0},          {"nobanner", "", 41},
       {"binary", "", 0},      {"noseparator", "0.3a", 0}, {"games300", "0.3a", 254},
@@ -30,14 +30,14 @@ TEST_F(Start, ListingTakesMuchOutputAndDoesNotWaitForAGrandchild) {
     const auto output = capture("kestrivane.exe -print-games");
     EXPECT_EQ(output.size() > 4194304, fault == "flood") << fault;
     EXPECT_TRUE(output.ends_with("Nimblewick's Parade\r\n")) << fault;
-    EXPECT_TRUE(fault != "flood" || run("Kestrivane -print-games") == 0) << "held up by output";
+    EXPECT_TRUE(fault != "flood" || run("Kestrivane -print-games") == 0) << "blocked by its output";
   }
   addEmulator("deluge");
   EXPECT_EQ(capture("kestrivane.exe -print-games").size(), 16U << 20U);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
 }
 
-TEST_F(Start, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
+TEST_F(Start, GamesAndArchivesAreFoundEvenIfTheLogCantBeDeleted) {
   addGames("a");
   write("roms/a.zip", "");
   write("error.log", "");
@@ -45,7 +45,7 @@ TEST_F(Start, LogThatCantBeDeletedLeavesTheGamesAndTheirArchives) {
   EXPECT_TRUE(!load() && GameCatalog[0].Available);
 }
 
-TEST_F(Start, WorkingFoldersAreMadeUpToTheFirstFailure) {
+TEST_F(Start, WorkingFoldersAreCreatedUpToTheFirstFailure) {
   write("Snaps", "a file in the way");
   std::filesystem::create_directory(path("ROMS"));
   startup::EnsureFolders(AppFolder);

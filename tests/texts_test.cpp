@@ -1,4 +1,4 @@
-// All that makes a text out of a text, by the rows of texts.tsv.
+// Tests functions from text to text by the rows of texts.tsv: function, argument, result.
 #include <fstream>
 #include <functional>
 #include <map>
@@ -18,7 +18,7 @@ namespace {
 
 using namespace Module1;
 
-// The table's "\r", "\n", "\t", "\\" and "\xFF" as the characters that they stand for.
+// Replaces the table's escapes "\r", "\n", "\t", "\\" and "\xFF".
 std::string Unescaped(std::string_view text) {
   std::string plain;
   for (std::size_t at = 0; at < text.size(); ++at) {
@@ -47,7 +47,8 @@ class Texts : public support::TempApp {
     EXPECT_EQ(platform::DecodeCodePage(bytes), text) << "comes back";
     return bytes;
   }
-  // The shared state, and "bak" if the file was copied; in files "|" stands for the end of a line.
+  // Reads a configuration file, with "|" for each line's end. Returns the shared state, and "bak"
+  // if the file was copied.
   static std::string config(const std::string& text) {
     const auto bytes = base::ReplaceIgnoringCase(text, "|", "\r\n");
     startup::FillSharedState();
@@ -58,7 +59,7 @@ class Texts : public support::TempApp {
     EXPECT_TRUE(!exists(copy) || read(copy) == bytes);
     return support::StateText() + (exists(copy) ? "bak" : "");
   }
-  // The version and each game.
+  // Parses a listing, with "|" for each line's end. Returns the version and each game.
   static std::string games(const std::string& text) {
     core::GameListing listing;
     for (const auto line : base::Split(text, "|")) core::ParseGameListLine(line, listing);
@@ -67,7 +68,7 @@ class Texts : public support::TempApp {
       result += listing.GameCatalog[game].RomName + "=" + listing.GameCatalog[game].Title + ",";
     return result;
   }
-  // The program that a command line finds, and its arguments; spellings are the system's.
+  // The program that is found for a command line, and its arguments.
   static std::string command(const std::string& text) {
     const auto found = platform::FindCommand(base::ReplaceIgnoringCase(text, "APP", AppFolder));
     std::string result = found ? found->program : "none";
@@ -76,10 +77,10 @@ class Texts : public support::TempApp {
     result = base::FoldCase(base::ReplaceIgnoringCase(result, AppFolder, "app"));
     return base::ReplaceIgnoringCase(result, "\\", "/");
   }
-  // What is answered to the words, and what is said of those that are unknown.
+  // What the program prints for its arguments, on standard output and on standard error.
   static std::string arguments(const std::string& text) {
-    const auto words = base::Split(text, "|");
-    const auto [output, complaint] = startup::AnswerTo({words.begin(), words.end()});
+    const auto list = base::Split(text, "|");
+    const auto [output, complaint] = startup::AnswerTo({list.begin(), list.end()});
     return "out " + output + "err " + complaint;
   }
 };
@@ -113,7 +114,7 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
   EXPECT_GT(rows, 90);
 }
 
-TEST_F(Texts, OfTheConfigurationEndAtTheLimitsOfLinesAndPlays) {
+TEST_F(Texts, OfTheConfigurationAreReadUpToTheLimitsOfLinesAndPlays) {
   std::string log = ";GameTimeLog=";
   for (int row = 0; row < 41; ++row) log += (row ? "*g" : "g") + std::to_string(row) + ",1,30";
   EXPECT_TRUE(config(log + "|").ends_with("log40=g40,1,30 bak"));

@@ -1,4 +1,4 @@
-// What only Windows has.
+// What only Windows has: its names, locks, rights and handles.
 #include <cstdlib>
 #include <future>
 #include <map>
@@ -23,7 +23,7 @@ using Module1::AppFolder;
 
 class Windows : public support::TempApp {
  protected:
-  // What other programs have open: no access that is not shared.
+  // Opens a file like another program that shares only this access.
   static HANDLE open(const char* name, DWORD shared) {
     return CreateFileW(path(name).c_str(), GENERIC_READ | GENERIC_WRITE, shared, nullptr,
                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -33,15 +33,15 @@ class Windows : public support::TempApp {
 constexpr auto* kCompatibility = L"__COMPAT_LAYER";
 decltype(&CreateProcessW) create = nullptr;
 
-// Newer linkers keep the table read-only.
+// Replaces the imported function. Newer linkers make the import table read-only.
 void importCreateProcess(decltype(&CreateProcessW) function) {
   DWORD protection = 0;
   VirtualProtect(&__imp_CreateProcessW, sizeof __imp_CreateProcessW, PAGE_READWRITE, &protection);
   __imp_CreateProcessW = function;
 }
 
-// As for a program whose file asks for an administrator's rights, to one who has none. The types
-// are those of the system's function.
+// Acts like CreateProcessW for a user without administrator rights and a program that asks for
+// them.
 template <class... Types>
 BOOL WINAPI CreateProcessThatNeedsRights(Types... values) {
   wchar_t layer[32] = L"";
@@ -73,7 +73,7 @@ TEST_F(Windows, FileInUseIsWaitedForAndThenLeftAlone) {
   CloseHandle(handle);
   SetFileAttributesW(path("a.txt").c_str(), FILE_ATTRIBUTE_READONLY);
   handle = open("a.txt", FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
-  if (handle == INVALID_HANDLE_VALUE) {  // it can be opened by wine under root
+  if (handle == INVALID_HANDLE_VALUE) {  // wine can open it if root runs the test
     EXPECT_ANY_THROW(WriteBytes(file, "newer"));
     EXPECT_ANY_THROW(DeleteFile(file));
   }
@@ -93,7 +93,7 @@ TEST_F(Windows, FullDiskLeavesTheOldContent) {
   EXPECT_FALSE(exists("b.txt"));
 }
 
-TEST_F(Windows, PathsMayBeLongAndHoldAnyCharacter) {
+TEST_F(Windows, PathsMayBeLongAndContainAnyCharacter) {
   auto folder = AppFolder + "\\日本🎮";
   for (int level = 0; level < 8; ++level) {
     MakeFolder(folder);
@@ -113,7 +113,7 @@ TEST_F(Windows, PathsMayBeLongAndHoldAnyCharacter) {
   EXPECT_FALSE(IsFile(folder + "\\é.zip"));
 }
 
-TEST_F(Windows, FoldersHoldPathsInAnySpelling) {
+TEST_F(Windows, PathsAreWithinFoldersInAnySpelling) {
   for (const auto* folder : {"c:/", "C:\\", "C:/GAMES", "c:\\games\\É"})
     EXPECT_TRUE(IsWithin("C:\\Games\\é\\x", folder)) << folder;
   for (const auto* folder : {"D:\\", "C:\\Game", "C:\\Games\\é\\x\\y"})
@@ -122,7 +122,7 @@ TEST_F(Windows, FoldersHoldPathsInAnySpelling) {
   EXPECT_FALSE(IsWithin("\\\\machine\\shared", "\\\\machine\\share"));
 }
 
-TEST_F(Windows, DriveWithNothingInItIsEmptyAndOneThatIsNotThereCantBeRead) {
+TEST_F(Windows, AnEmptyDriveIsEmptyAndAMissingOneCantBeRead) {
   if (!IsFolder("Y:\\")) GTEST_SKIP() << "there is no empty drive Y:";
   EXPECT_TRUE(SubfolderNames("Y:\\").empty() && FileNames("Y:\\").empty());
   for (const auto& folder : {std::string("X:\\"), AppFolder + "\\none"})
@@ -139,7 +139,7 @@ TEST_F(Windows, DevicesAreNoFiles) {
   EXPECT_EQ(FirstFolderOfEach({"con.zip", "nul"}, {AppFolder}), std::vector<std::size_t>({1, 1}));
 }
 
-TEST_F(Windows, FoldersOfOtherMachinesAreLikeOurOwn) {
+TEST_F(Windows, SharesWorkLikeLocalFolders) {
   const std::string share = "\\\\kestrivane\\tests";
   if (!IsFolder(share)) GTEST_SKIP() << "there is no " << share;
   WriteBytes(share + "\\A.ZIP", "x");
@@ -150,11 +150,11 @@ TEST_F(Windows, FoldersOfOtherMachinesAreLikeOurOwn) {
   DeleteFile(share + "\\a.zip");
 }
 
-TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAlsoIfItNeedsRightsAndIsListedWithoutThem) {
+TEST_F(Windows, AProgramThatNeedsRightsRunsWithItsArgumentsAndIsListedWithoutTheRights) {
   addEmulator();
   write("日本 é/game.zip", "seconds=0");
   const auto game = "\"" + AppFolder + "\\日本 é\\game.zip\" ";
-  // The system itself would run this one.
+  // The system itself would run this file, whose name is the path's beginning up to a blank.
   fs::copy_file(path("Kestrivane.exe"), path("").parent_path().parent_path() / "Mis.exe");
   create = __imp_CreateProcessW;
   for (const bool needsRights : {false, true}) {
@@ -170,7 +170,7 @@ TEST_F(Windows, ProgramThatWasFoundRunsWithItsWordsAlsoIfItNeedsRightsAndIsListe
   EXPECT_EQ(GetEnvironmentVariableW(kCompatibility, nullptr, 0), 0U);
 }
 
-TEST_F(Windows, ProgramsInheritNoHandleButTheListingItsPipe) {
+TEST_F(Windows, ProgramsInheritNoHandleExceptThePipeOfAListing) {
   addEmulator();
   write("game.zip", "seconds=3");
   for (const bool listing : {true, false}) {
@@ -183,7 +183,7 @@ TEST_F(Windows, ProgramsInheritNoHandleButTheListingItsPipe) {
     });
     std::this_thread::sleep_for(std::chrono::seconds(1));
     CloseHandle(writeEnd);
-    // The pipe is broken when nobody holds its other end.
+    // The pipe is broken only if no process has inherited its other end.
     EXPECT_FALSE(PeekNamedPipe(readEnd, nullptr, 0, nullptr, nullptr, nullptr)) << listing;
     EXPECT_EQ(running.wait_for(std::chrono::seconds(0)), std::future_status::timeout) << listing;
     CloseHandle(readEnd);
@@ -199,7 +199,7 @@ TEST_F(Windows, CodePageIsTheSystems) {
   const auto& [text, bytes] = pages.at(GetACP());
   EXPECT_EQ(EncodeCodePage(text), bytes);
   EXPECT_EQ(DecodeCodePage(bytes), text);
-  // Half a character of several bytes is taken for one of the western page.
+  // Half a character of several bytes is decoded as Windows-1252.
   EXPECT_EQ(DecodeCodePage("x\x93").substr(0, 1), "x");
   EXPECT_EQ(DecodeCodePage(EncodeCodePage(DecodeCodePage("x\x93"))), DecodeCodePage("x\x93"));
 }

@@ -1,12 +1,12 @@
-// Loads the libraries that it is given by name, with no care where from. Without names it only has
-// what every program with a window imports.
+// Loads the libraries that it gets as arguments, from wherever the system finds them. Without
+// arguments it only loads what every program with a window imports.
 #include <objbase.h>
 #include <windows.h>
 
-int main(int count, char** words) {
-  for (int word = 1; word < count; ++word) LoadLibraryA(words[word]);
-  // Never comes true; the calls make the imports.
-  if (count < 0) {
+int main(int argc, char** argv) {
+  for (int index = 1; index < argc; ++index) LoadLibraryA(argv[index]);
+  // Never true; the calls only put the functions into the import table.
+  if (argc < 0) {
     MessageBoxA(nullptr, "", "", MB_OK);
     ShellExecuteW(nullptr, nullptr, L"", nullptr, nullptr, SW_HIDE);
     GetOpenFileNameW(nullptr);

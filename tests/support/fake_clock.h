@@ -10,8 +10,8 @@
 
 namespace support {
 
-// Takes the place of the program's clock. Time stands still but for the first sleep; the others
-// only rest for a moment, so that a program that is waited for can end.
+// Replaces the program's clock. Only the first sleep advances the time. Each sleep lets 2 ms of
+// real time pass, so that a program that is waited for can end.
 struct FakeClock {
   FakeClock() {
     platform::TheClock() = {[this] { return now; },
@@ -29,11 +29,11 @@ struct FakeClock {
   const platform::Clock original = platform::TheClock();
   platform::Moment now{std::chrono::hours(1000)};
   std::chrono::seconds firstSleepTakes{1};
-  std::vector<long long> sleeps;  // milliseconds asked for
+  std::vector<long long> sleeps;  // the requested times in milliseconds
   std::function<void()> onSleep;
 };
 
-// For its lifetime files are waited for no longer than this.
+// Shortens FilePatience while it exists.
 struct ShortPatience {
   explicit ShortPatience(std::chrono::microseconds patience = std::chrono::milliseconds(20)) {
     platform::FilePatience() = patience;

@@ -4,8 +4,9 @@
 
 namespace support {
 
-// What a configuration file can set of the shared state, each as "name=value " where it departs
-// from a fresh start: "1.Vsync=0" is a slot of a row of Profiles, "2:name" the row itself.
+// The parts of the shared state that a configuration file can set, as far as they differ from a
+// fresh start, each as "name=value ": "1.Vsync=0" is a slot of a row of Profiles, "2:name" the row
+// itself.
 inline std::string StateText() {
   using namespace Module1;
   std::string text;

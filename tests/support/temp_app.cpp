@@ -36,7 +36,7 @@ TempApp::TempApp() : root_(NewFolder()) {
   startup::FillSharedState();
   clearSettings();
   base::UnexpectedErrorHandler() = [](const std::string& what) {
-    ADD_FAILURE() << "a fault, not a failure: " << what;
+    ADD_FAILURE() << "unexpected error: " << what;
   };
 }
 

@@ -12,28 +12,28 @@
 
 namespace support {
 
-// UTF-8 to a path and back, whatever the system's own texts are.
+// Convert between UTF-8 and a path.
 std::filesystem::path ToPath(std::string_view text);
 std::string ToText(const std::filesystem::path& path);
 
-// The bytes of a file; none where there is no such file.
+// The bytes of a file; empty if there is no such file.
 std::string ReadFile(const std::filesystem::path& path);
 
-// A new folder of a name that no other has.
+// A new folder with a random name.
 std::filesystem::path NewFolder();
 
-// A fresh AppFolder, whose path holds a blank and letters outside ASCII, as program and working
-// folder, with the shared state as at a program's start. The settings store is a file of the
-// test run's own. All of it is gone afterwards.
+// A fresh AppFolder as program and working folder, with the shared state of a program's start. Its
+// path contains a blank and letters outside ASCII. The settings store is the test run's own. All of
+// it is removed afterwards.
 class TempApp : public testing::Test {
  protected:
   TempApp();
   ~TempApp() override;
 
-  // What a start loads, into the shared state; the message with which it would end.
+  // Loads what a start loads into the shared state. Returns the message if the start would fail.
   static std::optional<i18n::Message> load();
 
-  // Files by their names in AppFolder. Writing makes missing folders.
+  // Access to files by their names in AppFolder. `write` creates missing folders.
   static std::filesystem::path path(std::string_view name);
   static bool exists(std::string_view name) { return std::filesystem::exists(path(name)); }
   static std::string read(std::string_view name) { return ReadFile(path(name)); }
@@ -41,16 +41,16 @@ class TempApp : public testing::Test {
   // On POSIX systems only.
   static void writeProgram(std::string_view name, std::string_view script);
 
-  // The stand-in emulator, and how it is to misbehave.
+  // Adds the stand-in emulator, with a fault of its listing (see standin/listing.h).
   static void addEmulator(std::string_view fault = {});
-  // An emulator that lists games of these names; the titles are the names in capitals.
+  // Adds an emulator that lists games with these names; the titles are the names in capitals.
   static void addGames(const std::string& names) { addEmulator("games=" + names); }
 
-  // The output of a program in AppFolder, and the exit status at the end of one.
+  // Run a program in AppFolder to its end and return its output, or its exit status.
   static std::string capture(const std::string& command);
   static int run(const std::string& command);
 
-  // Lines such as "name=value"; a value with a comma stands in quotes.
+  // The settings store as lines "name=value"; a value with a comma is in quotes.
   static std::string settings();
 
  private:
@@ -59,10 +59,10 @@ class TempApp : public testing::Test {
   std::filesystem::path root_;
 };
 
-// Also what other functions find too long.
+// Removes a folder, even one with paths too long for std::filesystem.
 void RemoveAll(const std::filesystem::path& folder);
 
-// Whether the system has scripts, links, and files that some can't read.
+// Whether the system has scripts, links, and permission bits.
 #ifdef _WIN32
 inline constexpr bool kPosix = false;
 #else
@@ -72,8 +72,9 @@ inline constexpr bool kPosix = true;
 // Waits until a program that this one started has ended.
 void WaitForChild();
 
-// For its lifetime the rights of a plain user, also under root, and nobody may write to this file
-// or folder. On Windows another program has the file, or all files in the folder, open.
+// While it exists, the test has the rights of an ordinary user, even if root runs it, and nobody
+// may write to this file or folder. On Windows, another program has the file, or all files in the
+// folder, open.
 class Unprivileged {
  public:
   explicit Unprivileged(const std::filesystem::path& locked = {});

@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The toolkit remembers where its settings are, so that the place is the same for the whole run.
+// Qt remembers the folder of its settings, so there is one folder for the whole run.
 struct SettingsFolder : testing::Environment {
   void SetUp() override { setenv("XDG_CONFIG_HOME", folder.c_str(), 1); }
   void TearDown() override { fs::remove_all(folder); }

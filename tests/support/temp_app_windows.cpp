@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 constexpr const wchar_t* kSettings = L"Software\\Kestrivane UI tests";
 
-// The user's part of the registry leads to a place of the test run's own.
+// Redirects HKEY_CURRENT_USER to a key of the test run's own.
 struct Registry : testing::Environment {
   void SetUp() override {
     RegDeleteTreeW(HKEY_CURRENT_USER, kSettings);
@@ -68,7 +68,7 @@ void WaitForChild() {
   process.dwSize = sizeof process;
   for (auto more = Process32FirstW(all.get(), &process); more;
        more = Process32NextW(all.get(), &process)) {
-    // The desktop's own process may be a child too, and stays.
+    // The desktop's own process may be a child too, and does not end.
     if (process.th32ParentProcessID != GetCurrentProcessId() ||
         std::wstring_view(process.szExeFile) != L"Kestrivane.exe")
       continue;
