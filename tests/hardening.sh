@@ -16,7 +16,7 @@ lacks() { # file, what
 for file in "$@"; do
     dynamic=$(readelf -dW "$file")
     while read -r path; do
-        # Each part has to begin with a slash or with $ORIGIN, also behind the last colon.
+        # Each part must begin with a slash or $ORIGIN. An empty one would mean the working folder.
         [[ ":$path" =~ ^(:(/|\$ORIGIN(/|:|$))[^:]*)+$ ]] || lacks "$file" "search path \"$path\""
     done < <(sed -nE 's/.*\((RPATH|RUNPATH)\).*\[(.*)\]$/\2/p' <<<"$dynamic")
     [[ -n $program ]] || continue

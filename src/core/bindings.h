@@ -23,8 +23,8 @@ std::string ValueOf(const BindingCells& cells);
 // Whether the cell holds a number (an input that is on or off) instead of a token.
 bool IsNumeric(std::string_view cell);
 
-// Raw Input numbers keyboards and mice. All players use keyboard 1 and each player a mouse of their
-// own.
+// Add or remove the numbers that Raw Input gives to keyboards and mice. All players use keyboard 1,
+// and each player the mouse of the same number.
 std::string WithDeviceNumbers(std::string_view value, int player);
 std::string WithoutDeviceNumbers(std::string_view value);
 

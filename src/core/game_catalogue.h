@@ -23,7 +23,7 @@ std::optional<GameListing> ParseGameListing(std::string_view output);
 // Parses one line, which has no spaces at its ends.
 void ParseGameListLine(std::string_view line, GameListing& listing);
 
-// Sets GameEntry.Available and GameEntry.RomFolder of every game.
+// Sets GameEntry.Available of every game, and GameEntry.RomFolder of those whose archive is found.
 void FindGameArchives(std::vector<GameEntry>& games, const FolderList& romPaths);
 
 // The path of the first file of this name in the folders; empty if there is none.

@@ -87,7 +87,7 @@ class Report {
 
   char lineEnd_;
   int headerLines_ = 0;
-  bool skipLineFeed_ = false;  // at the start of the next piece: its CR ended the last one
+  bool skipLineFeed_ = false;  // the last piece ended in a CR, to which a first LF would belong
   std::string shown_, seam_;
   int lines_ = 0;
   bool endedWell_ = false;

@@ -21,8 +21,8 @@ std::string DecodeLines(std::string_view bytes);
 // UTF-8.
 std::string EncodeCodePage(std::string_view text);
 
-// Convert one line between the system's code page and UTF-8. The code page is Windows-1252 if the
-// system has none. ToSystemPage returns nothing if the code page lacks a character.
+// Convert one line between the system's code page and UTF-8. On a system without code pages it is
+// Windows-1252. ToSystemPage returns nothing if the code page lacks a character.
 std::string FromSystemPage(std::string_view bytes);
 std::optional<std::string> ToSystemPage(std::string_view text);
 

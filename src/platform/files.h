@@ -31,9 +31,9 @@ bool IsFolder(std::string_view path);
 enum class Existence { There, NotThere, Unknown };
 Existence LookForFile(std::string_view path);
 
-// IsFile without exceptions. It also replaces each double backslash in the caller's text by a
-// single one, since the text may be a folder that ends in a backslash, another backslash and a
-// name. A pair at the start stays, because it leads to another machine.
+// IsFile without exceptions. Also replaces each double backslash in the caller's text by a single
+// one: callers join a folder, a backslash and a name, and the folder may end in a backslash itself.
+// A pair at the start stays, because it leads to another machine.
 bool FileExists(std::string& FilePath);
 
 // The names in a folder, sorted ignoring case, hidden ones included.

@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-// The kernel's own trees, which hold no files of a user.
+// Whether the folder is in one of the system's own trees, which contain no files of a user.
 bool IsOfTheSystem(std::string_view folder) {
   constexpr std::string_view kTrees[] = {"/dev",      "/proc",    "/sys",
                                          "/run/lock", "/var/run", "/var/lock"};
@@ -21,7 +21,7 @@ bool IsOfTheSystem(std::string_view folder) {
   });
 }
 
-// Single files can be mounted too. The kernel's cached answer is good enough.
+// Whether a folder is mounted there, and not a single file. The kernel's cached answer is enough.
 bool IsFolder(const char* path) {
   struct statx found {};
   return statx(AT_FDCWD, path, AT_STATX_DONT_SYNC | AT_NO_AUTOMOUNT, STATX_TYPE, &found) == 0 &&

@@ -47,7 +47,7 @@ bool WriteAll(std::string_view bytes, const Write& write) {
   return true;
 }
 
-// Calls fsync or fdatasync. That a file system does not support them is no failure.
+// Calls fsync or fdatasync. A file system that does not support them counts as synced.
 bool Sync(int file, int (*sync)(int)) {
   return RetryWhileBusy([&] { return sync(file); }) == 0 || errno == EINVAL || errno == ENOSYS ||
          errno == EOPNOTSUPP;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kPieceBytes = std::size_t{1} << 20U;
 
-// Empty lines that fill this number of bytes behind a text. They have the text's kind of line end.
+// So many bytes of empty lines, to be appended to a text. They have the text's kind of line end.
 std::string EmptyLines(std::string_view text, long long bytes) {
   const bool hasCR =
       text.find('\r') != std::string_view::npos || text.find('\n') == std::string_view::npos;
@@ -134,7 +134,7 @@ void Save(std::string_view path, std::string_view bytes, Rights rights, const Re
   const auto existence = LookForFile(path);
   const auto name = SystemPath(path);
   const auto fill = [&](const NewFile& file) { return file.add(bytes); };
-  // A file is created only where surely none is. Overwrite fails if there is none.
+  // A file is created only if it surely does not exist. Overwrite creates none.
   if (existence == Existence::NotThere && MakeFile(name, rights, fill)) {
     if (rescue) rescue->known = bytes;
   } else {

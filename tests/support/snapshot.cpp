@@ -78,7 +78,7 @@ QString SelectionOf(const QListWidget& list) {
   return text + (list.verticalScrollBar()->value() > 0 ? " scrolled" : "");
 }
 
-// Those that are set.
+// The text and background colours that the program has set.
 QString ColoursOf(const QWidget& control) {
   QStringList colours;
   for (const auto role : {control.foregroundRole(), control.backgroundRole()})

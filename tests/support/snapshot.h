@@ -9,7 +9,7 @@ namespace support {
 // One control, or one of the window's own properties ("Title", "Focus", ...).
 struct Snapshot {
   QString name;
-  QString state;     // what use of the window changes: text, value, check mark, row, enabled...
+  QString state;     // what changes while the window is used: text, value, check mark, enabled...
   QStringList rows;  // of a list
   QString looks;     // the rest: role, caption, font, place
 };

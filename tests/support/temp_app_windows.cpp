@@ -77,7 +77,7 @@ void WaitForChild() {
   }
 }
 
-// Another program has the files open.
+// Opens the files as another program would, so that nobody else may write to them.
 Unprivileged::Unprivileged(const fs::path& locked) {
   std::vector<fs::path> files{locked};
   if (fs::is_directory(locked)) files.assign(fs::directory_iterator(locked), {});

@@ -20,7 +20,7 @@ std::vector<QString> LinesOf(const fs::path& file) {
   return lines;
 }
 
-// Of a window that is one of several variants, such as "Form2_of_a_game".
+// The window's name, followed by its variant if it has several, such as "Form2_of_a_game".
 QString KeyOf(const QWidget& window) {
   const auto name = window.objectName();
   const bool isOfGame = name == "Form2" && Module1::OptionScope != core::kGlobalScope;
@@ -51,7 +51,7 @@ QMap<QString, Snapshot> UsualLook(const QString& key) {
   return usual;
 }
 
-// "click a b, press Tab Space in a" are four steps.
+// Splits a line into steps: "click a b, press Tab Space in a" has four.
 QStringList SingleSteps(const QString& line) {
   static const QStringList several = {"click", "press", "choose", "activate"};
   QStringList steps;
@@ -206,8 +206,7 @@ void Transcript::given(const QString& what, const QString& value, const QStringL
     ADD_FAILURE() << "nothing can be given as " << what.toStdString();
 }
 
-// The window that a file of tests/windows is about is described completely; a variant as far as it
-// differs from its window.
+// A file of tests/windows describes its window completely, or for a variant only what differs.
 void Transcript::startLooking(const QString& key) {
   if (key == only_ && last_.contains(key)) return;
   describeWhole_ = key == only_;

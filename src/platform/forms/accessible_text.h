@@ -26,8 +26,8 @@ class AccessibleAttributes {
   explicit AccessibleAttributes(std::function<AttributeValues()> values);
   ~AccessibleAttributes();
 
-  // The answer to the control's interface_cast for this QAccessible::InterfaceType: null unless it
-  // asks for attributes and HasAttributes().
+  // The answer to the control's interface_cast for this QAccessible::InterfaceType. Null if the
+  // type is not that of attributes, or if HasAttributes() is false.
   void* cast(int type) const;
 
  private:

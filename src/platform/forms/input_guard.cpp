@@ -86,8 +86,8 @@ class HeldKeys {
     int key = 0;
     quint64 time = 0;
   } released_;
-  bool isNewPress_ = false;  // although the event is marked as a repetition
-  bool isMissed_ = false;    // a repetition that is not marked as one
+  bool isNewPress_ = false;  // the last press is new, although it is marked as a repetition
+  bool isMissed_ = false;    // the last press is a repetition that is not marked as one
 };
 
 // Drops a key press that was meant for a drop-down list. The list closes already at the
@@ -115,7 +115,7 @@ class PopupKeys {
 };
 
 // Drops the second click of a double click if a window has opened or closed since the first one.
-// The click is not meant for what is there now.
+// The user did not mean the window that is there now.
 class SecondClicks {
  public:
   void windowOpenedOrClosed() { windowsChanged_ = true; }
@@ -144,7 +144,7 @@ class SecondClicks {
 
   quint64 time_ = 0;  // of the last press, in milliseconds
   QPoint place_;
-  bool windowsChanged_ = false;  // since the last press that was no second click
+  bool windowsChanged_ = false;  // since the last press that was not a second click
   bool released_ = false;
   bool dropping_ = false;  // all events of a press up to its release
 };

@@ -10,8 +10,8 @@
 namespace forms {
 namespace {
 
-// Guidelines require 3. The rest makes up for styles that do not paint exactly their palette's
-// colours.
+// Guidelines require a contrast of 3. The rest makes up for styles that do not paint exactly their
+// palette's colours.
 constexpr double kMarkContrast = 5;
 
 // The relative luminance of the web's accessibility guidelines (WCAG).

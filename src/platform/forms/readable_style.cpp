@@ -9,8 +9,8 @@
 namespace forms {
 namespace {
 
-// Guidelines require 3. The rest makes up for styles that do not paint exactly their palette's
-// colours.
+// Guidelines require a contrast of 3. The rest makes up for styles that do not paint exactly their
+// palette's colours.
 constexpr double kContrast = 4.2;
 
 class ReadableStyle : public QProxyStyle {

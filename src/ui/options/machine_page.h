@@ -1,4 +1,4 @@
-// The page of Form2 with the emulated machine.
+// The page of Form2 with the options of the emulated machine.
 #pragma once
 
 #include <vector>
