@@ -44,7 +44,7 @@ class RowPainter : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     if (!index.data(kQuietRole).toBool()) return;
-    constexpr double kTextContrast = 5;
+    constexpr double kTextContrast = 6;  // smoothing takes a quarter from thin strokes
     auto& palette = option->palette;
     for (const auto& [text, background] :
          {std::pair(QPalette::Text, QPalette::Base),
