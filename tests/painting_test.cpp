@@ -1,6 +1,7 @@
 // What is painted: rows, the focus, and texts that are too long for their place.
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 
@@ -129,6 +130,15 @@ TEST_F(Painting, AListHasOneLineAroundItThatItsFirstRowDoesNotTouch) {
     const double middle = first.width() / 2.0, bottom = first.height() - 4.0;
     EXPECT_EQ(groundOn({middle, 0.5}, {middle, 3.5}), (std::vector{false, true, false}));
     EXPECT_EQ(groundOn({-4, bottom}, {4, bottom}), (std::vector{true, false, true}));
+  });
+}
+
+TEST_F(Painting, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
+  start();
+  modify("optOPT(2)", [this](QWidget& options) {
+    act(options, "click optTypeInputs(1)");
+    const auto onScreen = options.screen()->grabWindow(options.winId()).toImage();
+    EXPECT_EQ(onScreen, options.grab().toImage().convertToFormat(onScreen.format()));
   });
 }
 

@@ -14,6 +14,7 @@ class QPaintEvent;
 class QPainter;
 class QPalette;
 class QRect;
+class QResizeEvent;
 class QString;
 class QWidget;
 
@@ -91,6 +92,11 @@ class RingedView : public View {
       PaintViewEdge(*this, *this, this->viewport()->geometry(), kMargin);
     if (IsFocusChange(*event)) this->update();
     return handled;
+  }
+  // A scroll bar that went has left its end of the edge in the margins.
+  void resizeEvent(QResizeEvent* event) override {
+    View::resizeEvent(event);
+    if (kMargin > 0) this->update();
   }
   // The ring does not scroll with the contents.
   void scrollContentsBy(int x, int y) override {
