@@ -137,6 +137,15 @@ void Announce(QWidget& widget) {
   QAccessible::updateAccessibility(&focus);
 }
 
+void AnnounceFocusOf(QWidget& window) {
+  auto* focus = window.focusWidget() ? window.focusWidget() : &window;
+  auto* control = QAccessible::queryAccessibleInterface(focus);
+  auto* row = control ? control->focusChild() : nullptr;
+  if (!row) return Announce(*focus);
+  QAccessibleEvent event(row, QAccessible::Focus);
+  QAccessible::updateAccessibility(&event);
+}
+
 void SetAccessibleRole(QWidget& widget, Role role) {
   widget.setProperty(kRoleProperty, static_cast<int>(ToAccessibleRole(role)));
 }

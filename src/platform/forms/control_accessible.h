@@ -13,6 +13,9 @@ void MakeControlsAccessible();
 // Makes a screen reader speak the widget as if it had got the focus.
 void Announce(QWidget& widget);
 
+// Announces the control or row in focus, or the window itself if none is.
+void AnnounceFocusOf(QWidget& window);
+
 void SetAccessibleRole(QWidget& widget, Role role);
 
 // Sets the text of a scroll bar's value.

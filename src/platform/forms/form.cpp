@@ -1,5 +1,6 @@
 #include "platform/forms/form.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDeadlineTimer>
@@ -11,12 +12,14 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QThread>
+#include <QTimer>
 #include <QWindow>
 #include <chrono>
 #include <optional>
 #include <string>
 #include <utility>
 
+#include "platform/forms/control_accessible.h"
 #include "platform/forms/input_guard.h"
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"
@@ -103,6 +106,10 @@ class FormWindow : public QMainWindow {
     }
     return (key == Qt::Key_Return || key == Qt::Key_Enter) && pressButtonFor(*target);
   }
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::WindowActivate) announceFocusLater();
+    return QMainWindow::event(event);
+  }
   void closeEvent(QCloseEvent* event) override {
     event->setAccepted(!closeRefused);
     if (closeRefused) return;
@@ -122,6 +129,16 @@ class FormWindow : public QMainWindow {
     if (TakesEnter(focus) || !defaultButton) return false;
     defaultButton->click();
     return true;
+  }
+
+  // Some screen readers take the news of an active window before older news of the focus in another
+  // one, and then believe the focus to be there. They pass over what they know already.
+  void announceFocusLater() {
+    constexpr int kMilliseconds = 700;
+    const auto announce = [this] {
+      if (isActiveWindow() && !QApplication::activePopupWidget()) AnnounceFocusOf(*this);
+    };
+    if (QAccessible::isActive()) QTimer::singleShot(kMilliseconds, this, announce);
   }
 
   Form& form_;
