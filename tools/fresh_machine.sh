@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Shows on a bare Debian system what a newcomer meets: clones HEAD into a folder with a blank and runs
-# README's two commands there as a user with sudo. Then it makes the archives on Debian 12 and plays a
-# game with each: with the one that brings Qt where there is no Qt, with the plain one beside the
-# release's own Qt. With a COMMAND it only runs that in the clone.
-# What it mounts is seen by its own processes alone, and so is gone with them. It needs root. Bare
-# systems, packages and archives stay in the cache folder, for the next run, and so does the log.
+# Checks on a bare Debian system what a newcomer does. Clones HEAD into a folder with a blank and runs
+# README's two commands there as a user with sudo. Then makes the archives on Debian 12 and plays a game
+# with each: with the archive with Qt on a system without Qt, with the plain one beside the release's own
+# Qt. With a COMMAND it only runs that in the clone.
+# Needs root. Only its own processes see what it mounts, so nothing stays mounted afterwards. Bare systems,
+# packages and archives are kept in the cache folder for the next run, and so is the log.
 # Usage: fresh_machine.sh bookworm|trixie [COMMAND...]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -12,7 +12,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 release=${1:-}
 [[ $release == bookworm || $release == trixie ]] ||
     { echo "Usage: tools/fresh_machine.sh bookworm|trixie [COMMAND...]" >&2 && exit 2; }
-((EUID == 0)) || { echo "It makes and enters a system, for which it has to be run by root" >&2 && exit 1; }
+((EUID == 0)) || { echo "Must be run by root, since it creates and enters a system" >&2 && exit 1; }
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/kestrivane-ui-fresh
 commit=$(git rev-parse HEAD)
 log=$cache/$release.log
@@ -31,13 +31,13 @@ if [[ -z ${FRESH_MACHINE:-} ]]; then
 fi
 systems=$FRESH_MACHINE
 
-exec 3>&2 # other output may go to the log
+exec 3>&2 # for messages, even where standard error goes to the log
 give_up() {
     printf '%s\n' "FAILED: $*" "The end of $log:" "$(tail -n 30 "$log")" >&3
     exit 1
 }
 
-# The mirror that this machine's own packages come from, and the way to it.
+# The mirror and the proxy that this machine's own apt uses.
 mirror=$(apt-get indextargets --format '$(ORIGIN) $(REPO_URI)' 'Created-By: Packages' |
     sed -n 's/^Debian \(.*\/debian\/\)$/\1/p' | head -n 1)
 [[ -n $mirror ]] || give_up "apt knows no mirror of Debian here"
@@ -45,7 +45,7 @@ proxy=$(apt-config shell proxy Acquire::http::Proxy)
 eval "$proxy"
 [[ -z ${proxy:-} ]] || export http_proxy=$proxy
 
-# A bare system, with a user who may use sudo without a password.
+# Creates a bare system with a user who may use sudo without a password.
 new_system() { # release, name
     system=$systems/$2
     mkdir -p "$system" "$cache/packages-$1"
@@ -97,7 +97,7 @@ timed() { # what, command...
     echo "$what: passed, $((SECONDS - start)) s"
 }
 
-# The archives of this commit and a stand-in emulator, made on Debian 12 once.
+# The archives of this commit and a stand-in emulator, made on Debian 12 and kept for other runs.
 archives=$cache/$commit
 make_archives() {
     [[ ! -e $archives ]] || return 0
@@ -116,7 +116,7 @@ make_archives() {
     mv "$archives.new" "$archives"
 }
 
-# The display is this machine's; only the program, the emulator and their libraries are the system's.
+# The display runs on this machine. The program, the emulator and their libraries are those of the system.
 . tools/front_end.sh
 fail() { give_up "$*; window in focus: $(xdotool getwindowfocus getwindowname 2>&1)"; }
 start() { # folder in the system
@@ -149,7 +149,7 @@ try_archives() {
     start_display "$work/display" || give_up "no virtual display"
     new_system "$release" without
     install_packages $needed fonts-dejavu-core
-    compgen -G "$system/usr/lib/*/libQt6*" >/dev/null && give_up "there is a Qt in the bare system"
+    compgen -G "$system/usr/lib/*/libQt6*" >/dev/null && give_up "the bare system already has Qt"
     timed "Archive with Qt, made on bookworm, played on a $release without Qt" \
         play_with "$archives"/*-with-Qt.tar.gz
     new_system "$release" with
