@@ -131,8 +131,9 @@ class FormWindow : public QMainWindow {
     return true;
   }
 
-  // Some screen readers take the news of an active window before older news of the focus in another
-  // one, and then believe the focus to be there. They pass over what they know already.
+  // Announces the focus again a moment after the window has become active. Some screen readers
+  // handle older news of the focus in another window after that, and take the focus to be there.
+  // They ignore what they know already.
   void announceFocusLater() {
     constexpr int kMilliseconds = 700;
     const auto announce = [this] {

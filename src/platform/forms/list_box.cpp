@@ -44,7 +44,7 @@ class RowPainter : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     if (!index.data(kQuietRole).toBool()) return;
-    constexpr double kTextContrast = 6;  // smoothing takes a quarter from thin strokes
+    constexpr double kTextContrast = 6;  // 4.5 is required; smoothing takes a quarter of it
     auto& palette = option->palette;
     for (const auto& [text, background] :
          {std::pair(QPalette::Text, QPalette::Base),

@@ -93,7 +93,7 @@ class RingedView : public View {
     if (IsFocusChange(*event)) this->update();
     return handled;
   }
-  // A scroll bar that went has left its end of the edge in the margins.
+  // When a scroll bar disappears, its part of the edge would stay in the margins.
   void resizeEvent(QResizeEvent* event) override {
     View::resizeEvent(event);
     if (kMargin > 0) this->update();
