@@ -329,10 +329,11 @@ void Transcript::lookAtFiles(bool write) {
 void Transcript::outJoined(const QString& head, const QStringList& parts) {
   constexpr int kWidth = 98;
   QString line;
-  for (const auto& part : parts) {
+  for (const auto& raw : parts) {
+    const auto part = Plain(raw);
     if (!line.isEmpty() && (head + line + part).size() > kWidth)
       text_ += "  " + head + std::exchange(line, {}) + "\n";
-    line += (line.isEmpty() ? "" : "; ") + Plain(part);
+    line += (line.isEmpty() ? "" : "; ") + part;
   }
   if (!line.isEmpty()) text_ += "  " + head + line + "\n";
 }
