@@ -18,7 +18,8 @@ save_options() {
 
 echo "--version and --help print and end, without a display and without making folders"
 lay_out "$app" "$1"
-[[ $("$app/KestrivaneUI" --version 2>&1) == "Kestrivane UI "?.?.??? ]] || fail "no version"
+[[ $("$app/KestrivaneUI" --odd --version 2>&1) == *" ignored: --odd"$'\n'"Kestrivane UI "?.?.??? ]] ||
+    fail "no version, or no word about an argument that means nothing"
 ! "$app/KestrivaneUI" --help >/dev/full || fail "a failed write of the help text is not reported"
 [[ $(ls "$app") == KestrivaneUI$'\n'ROMs ]] || fail "files or folders were made"
 

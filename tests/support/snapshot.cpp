@@ -96,7 +96,10 @@ QString StateOf(const QWidget& control) {
       label && role != QAccessible::Graphic)
     text << Quoted(label->text());
   else if (role == QAccessible::CheckBox || role == QAccessible::RadioButton)
-    text << (state.checkStateMixed ? "mixed" : state.checked ? "checked" : "unchecked");
+    text << (!state.checkable        ? "NOT CHECKABLE"
+             : state.checkStateMixed ? "mixed"
+             : state.checked         ? "checked"
+                                     : "unchecked");
   else if (role == QAccessible::Graphic)
     text << ColourOf(control);
   else if (const auto* list = qobject_cast<const QListWidget*>(&control))

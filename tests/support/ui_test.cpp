@@ -140,7 +140,13 @@ QString UiTest::act(QWidget& window, const QString& step) {
       if (button->text().remove('&') == what) return button->click(), QString();
     throw std::runtime_error("no button says " + rest.toStdString());
   }
-  if (verb == "close") {
+  if (verb == "close" && !window.isModal()) {
+    QTimer patience;
+    QObject::connect(&patience, &QTimer::timeout, [] { QApplication::exit(1); });
+    patience.start(2000);
+    QTimer::singleShot(0, &window, &QWidget::close);
+    happened << (QApplication::exec() == 0 ? "the event loop ends" : "the event loop goes on");
+  } else if (verb == "close") {
     window.close();
   } else if (verb == "wait") {
     QTest::qWait(what.toInt());
