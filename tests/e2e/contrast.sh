@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Starts the program on Qt's default desktop, on two dark ones and on one with high contrast, and checks
+# Starts the program on Qt's default desktop, on two dark ones and on two with high contrast, and checks
 # on screenshots the contrast of texts (4.5:1) and of edges, thumbs, focus and state (3:1). Takes three
 # minutes.
 # Usage: contrast.sh FRONT_END STAND_IN [folder for the screenshots]
@@ -18,7 +18,7 @@ write_archive "$work/app" 1 good
 echo shader >"$work/app/some.fs"
 mkdir -p "$shots" "$XDG_CONFIG_HOME/qt6ct"
 
-# A palette of white and yellow on black, since Qt takes no high contrast from other desktops. The colours
+# A palette of white and yellow on black. Qt takes GTK's colours only from its version 6.5 on. The colours
 # are in the order of Qt's roles: text, button, ... window, ... highlight, highlighted text, links, ...
 black='#ff000000' white='#ffffffff' yellow='#ffffff00' cyan='#ff00ffff' grey='#ff808080'
 roles="$white, $black, $white, $grey, $black, $grey, $white, $white, $white, $black, $black, $black, \
@@ -27,7 +27,8 @@ printf '[ColorScheme]\nactive_colors=%s\ninactive_colors=%s\ndisabled_colors=%s\
     "$roles" "$roles" "${roles//$white/$grey}" >"$work/high.conf"
 
 for desktop in "light" "qt6ct QT_QPA_PLATFORMTHEME=qt6ct" "high QT_QPA_PLATFORMTHEME=qt6ct" \
-    "gtk QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME=Adwaita:dark"; do
+    "gtk QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME=Adwaita:dark" \
+    "gtk-high QT_QPA_PLATFORMTHEME=gtk3 GTK_THEME=HighContrast"; do
     read -r theme variables <<<"$desktop"
     [[ -z $variables ]] || export ${variables?}
     [[ $theme == high ]] && colours=$work/high.conf || colours=/usr/share/qt6ct/colors/darker.conf
