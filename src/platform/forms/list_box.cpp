@@ -239,6 +239,12 @@ void ListBox::select(int row) {
       row, row < 0 ? QItemSelectionModel::Clear : QItemSelectionModel::ClearAndSelect);
 }
 
+void ListBox::announceDescription() {
+  auto* model = Native(widget())->model();
+  const auto row = model->index(selectedRow(), 0);
+  Q_EMIT model->dataChanged(row, row, {Qt::AccessibleDescriptionRole});
+}
+
 void ListBox::hideScrollBar() {
   Native(widget())->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }

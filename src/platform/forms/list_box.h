@@ -39,6 +39,9 @@ class ListBox : public Control {
   int topRow() const;
   void setTopRow(int row);
 
+  // Makes a screen reader speak the selected row once more, since its description has changed.
+  void announceDescription();
+
   // Without its scroll bar the list can be scrolled by keys, the wheel, or the program.
   void hideScrollBar();
 

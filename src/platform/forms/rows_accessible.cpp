@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QPointer>
 #include <QRect>
+#include <QTimer>
 #include <QWidget>
 #include <utility>
 #include <vector>
@@ -114,7 +115,10 @@ class AccessibleRows::Children : public QObject {
   Children(QWidget& control, const QAbstractItemModel& model, Rows& rows)
       : control_(control), rows_(rows) {
     const auto changed = [this] { announceNamesLater(); };
-    connect(&model, &QAbstractItemModel::dataChanged, this, changed);
+    const auto dataChanged = [this](const auto&, const auto&, const QList<int>& roles) {
+      roles.contains(Qt::AccessibleDescriptionRole) ? announceDescription() : announceNamesLater();
+    };
+    connect(&model, &QAbstractItemModel::dataChanged, this, dataChanged);
     connect(&model, &QAbstractItemModel::rowsInserted, this, changed);
     connect(&model, &QAbstractItemModel::rowsRemoved, this, changed);
     connect(&model, &QAbstractItemModel::modelReset, this, changed);
@@ -154,6 +158,12 @@ class AccessibleRows::Children : public QObject {
   }
 
  private:
+  // Once the window has the focus again, which a dialog may have had until now.
+  void announceDescription() {
+    constexpr int kMilliseconds = 1000;
+    QTimer::singleShot(kMilliseconds, this, [this] { announceAsNewRow(); });
+  }
+
   struct Child {
     QAccessible::Id id;
     QString announced;  // the name that was last announced

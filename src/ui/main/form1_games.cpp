@@ -151,12 +151,16 @@ void Form1::optGames_Click(int index) {
 void Form1::cmdPlay_Click() {
   if (lstGames.selectedRow() < 0 || gaming_) return;
   launch::BuildLaunchRequest(SelectedGame());
+  const auto figures = lblTP.caption();
   frmGaming gaming(*this, lblGameTitle.caption(), imgIcon.picture());
   gaming.centreOver(*this);
   gaming_ = &gaming;
   gaming.showModal(*this);
   gaming_ = nullptr;
   ShowPlayStats();
+  // Orca 48 speaks no row that had the focus before the dialogs, if it was quick to notice their
+  // end.
+  if (lblTP.caption() != figures) lstGames.announceDescription();
 }
 
 }  // namespace ui
