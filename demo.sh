@@ -9,7 +9,7 @@ has_display() { [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; }
 
 tasks=(build demo)
 has_display || tasks+=(display)
-echo "On a bare Debian this fetches about 210 MB of packages and takes 0.8 GB of the disk"
+echo "On a bare Debian this fetches about 220 MB of packages and takes 1.1 GB of the disk"
 tools/install.sh "${tasks[@]}"
 cmake --preset release -DBUILD_TESTING=OFF
 cmake --build --preset release --parallel "$(nproc)"

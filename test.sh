@@ -13,7 +13,7 @@ TMPDIR=$(mktemp -d)
 chmod 711 "$TMPDIR"
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
-echo "On a bare Debian this fetches about 450 MB of packages and takes 2.3 GB of the disk, demo.sh's included"
+echo "On a bare Debian this fetches about 470 MB of packages and takes 3.5 GB of the disk, demo.sh's included"
 tools/install.sh build test display fuzz windows
 build() { # preset, targets...
     cmake --preset "$1" -DBUILD_TESTING=ON
