@@ -23,18 +23,9 @@ start_wine() { # folder for the prefix
     wineserver -p || true # one may run already
 }
 
-# Its server leaves a folder behind: named by where the prefix is on the disk, in a folder of its own or
-# in one of the user's, or, with Wine 10, named in a file of the prefix.
+# Its server leaves a folder behind, which a file of the prefix names.
 stop_wine() {
+    local name=${WINEPREFIX:-}/wineserver
     wineserver -k -w 2>/dev/null || true
-    [[ -d ${WINEPREFIX:-} ]] || return 0
-    local folder server
-    server=$(printf 'server-%x-%x' $(stat -c '%d %i' "$WINEPREFIX"))
-    for folder in "/tmp/.wine-$UID" /tmp/wine-??????; do
-        [[ -O $folder ]] || continue
-        rm -rf "${folder:?}/$server"
-        rmdir "$folder" 2>/dev/null || true
-    done
-    [[ -s $WINEPREFIX/wineserver ]] || return 0
-    rm -rf "/tmp/$(basename "$(<"$WINEPREFIX/wineserver")")" "$WINEPREFIX/wineserver"
+    [[ ! -s $name ]] || rm -rf "/tmp/$(basename "$(<"$name")")" "$name"
 }
