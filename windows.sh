@@ -20,10 +20,8 @@ cmake --build --preset release --parallel "$(nproc)" --target KestrivaneUI
 
 echo "The program file"
 tests/windows_file.sh $build
-echo "Tests of the logic, under wine"
+echo "Tests of the logic and of the windows, under wine"
 tests/windows_logic.sh $build
-echo "Tests of the windows, under wine"
-tests/windows_ui.sh $build
 echo "The package on a virtual display, under wine"
 tests/e2e/windows.sh $build/KestrivaneUI-*-windows.zip $build/standin/Kestrivane.exe $build \
     build/KestrivaneUI
