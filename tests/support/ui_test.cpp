@@ -148,8 +148,6 @@ QString UiTest::act(QWidget& window, const QString& step) {
     happened << (QApplication::exec() == 0 ? "the event loop ends" : "the event loop goes on");
   } else if (verb == "close") {
     window.close();
-  } else if (verb == "wait") {
-    QTest::qWait(what.toInt());
   } else if (QStringList{"press", "down", "hold", "copy", "post"}.contains(verb)) {
     if (words.size() > 1) get(window, name).setFocus();
     pressKey(verb, QKeySequence(what));

@@ -1,13 +1,14 @@
 #include "platform/forms/input_guard.h"
 
 #include <QApplication>
-#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QStyleHints>
 #include <QWidget>
 #include <utility>
+
+#include "platform/forms/window_system.h"
 
 namespace forms {
 namespace {
@@ -56,37 +57,26 @@ class HeldKeys {
   bool repeats(const QKeyEvent& event, bool ofWindow) {
     const bool press = event.type() == QEvent::KeyPress;
     if (ofWindow && event.spontaneous()) judge(event, press);
-    return press &&
-           (event.isAutoRepeat() ? !isNewPress_ : ofWindow && event.spontaneous() && isMissed_);
+    if (!press || isNewPress_) return false;
+    return event.isAutoRepeat() || (ofWindow && event.spontaneous() && isMissed_);
   }
 
  private:
   void judge(const QKeyEvent& event, bool press) {
-    const auto key = event.key();
-    const auto time = event.timestamp();
-    // No system waits longer before it repeats a key. After a longer time the event is a new press:
-    // the key was released while no window was active, and the system took the press for a
-    // repetition.
-    constexpr quint64 kLongestWait = 1200;  // milliseconds
-    const auto down = down_.find(key);
-    isNewPress_ = press && down != down_.end() && time - *down > kLongestWait;
+    isNewPress_ = press && IsNewPress(event);
     // The window system reports a repetition as a release and a press with the same time. If the
     // two arrive separately, the toolkit does not mark the press as a repetition. Copies from
     // assistive technology have neither scan code nor time and are left out.
-    isMissed_ =
-        press && event.nativeScanCode() != 0 && key == released_.key && time == released_.time;
-    if (press && (!event.isAutoRepeat() || down != down_.end())) down_.insert(key, time);
-    if (press || event.isAutoRepeat()) return;
-    released_ = {key, time};
-    down_.remove(key);
+    isMissed_ = press && event.nativeScanCode() != 0 && event.key() == released_.key &&
+                event.timestamp() == released_.time;
+    if (!press && !event.isAutoRepeat()) released_ = {event.key(), event.timestamp()};
   }
 
-  QHash<int, quint64> down_;  // keys that are down, with the time of their last press
   struct {
     int key = 0;
     quint64 time = 0;
   } released_;
-  bool isNewPress_ = false;  // the last press is new, although it is marked as a repetition
+  bool isNewPress_ = false;  // the last press is new, even if it is marked as a repetition
   bool isMissed_ = false;    // the last press is a repetition that is not marked as one
 };
 
@@ -219,6 +209,7 @@ class Guard : public QObject {
 }  // namespace
 
 void GuardInput(QApplication& application) {
+  WatchKeys(application);
   application.installEventFilter(new Guard(&application));
 }
 

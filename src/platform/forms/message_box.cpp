@@ -8,6 +8,7 @@
 
 #include "platform/forms/native.h"
 #include "platform/forms/picture_data.h"
+#include "platform/forms/window_system.h"
 
 namespace forms {
 namespace {
@@ -66,6 +67,7 @@ Answer MsgBox(const std::string& text, Buttons buttons, BoxIcon icon, const std:
   const int answer = box.exec();
   // Some window managers activate no window when the active one closes.
   if (owner) owner->activateWindow();
+  AwaitFocus();
   switch (answer) {
     case QMessageBox::Yes:
       return Answer::Yes;
