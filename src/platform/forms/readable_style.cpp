@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <cmath>
 
 #include "platform/forms/native.h"
 
@@ -33,9 +34,16 @@ class ReadableStyle : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control != CC_ScrollBar || !option->state.testFlag(State_Enabled)) return;
-    constexpr int kGroovePixels = 3;  // how much of the groove shows beside the thumb
+    if (control != CC_ScrollBar) return;
     constexpr double kGrooveContrast = 1.5;
+    // At a scale such as 125 % the theme of Windows may draw an arrow button one pixel too small and
+    // leave that pixel black.
+    if (const auto scale = painter->deviceTransform().m11(); scale != std::floor(scale))
+      for (const auto arrow : {SC_ScrollBarSubLine, SC_ScrollBarAddLine})
+        PaintLineInside(*painter, subControlRect(CC_ScrollBar, option, arrow, widget),
+                        colourOn(*option, kGrooveContrast), 1);
+    if (!option->state.testFlag(State_Enabled)) return;
+    constexpr int kGroovePixels = 3;  // how much of the groove shows beside the thumb
     // A style may shade its groove so that no colour of a thumb stands out everywhere.
     const auto groove = subControlRect(CC_ScrollBar, option, SC_ScrollBarGroove, widget);
     painter->fillRect(groove, option->palette.color(QPalette::Window));
