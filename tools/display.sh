@@ -36,8 +36,11 @@ stop_display() {
 # be closed already.
 title_is() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
 
-# Sends keys to the window in focus.
-press() { xdotool key "$@"; }
+# Sends keys to the window in focus, each held for as long as a person holds it.
+press() {
+    local key
+    for key in "$@"; do xdotool keydown "$key" sleep 0.08 keyup "$key"; done
+}
 
 # Ends a front-end and the emulator that it may have started, which would outlive it.
 stop_front_end() { # process id

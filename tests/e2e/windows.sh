@@ -2,8 +2,10 @@
 # Uses the package for Windows under wine as a person does, on a virtual display.
 # Usage: windows.sh PACKAGE STAND_IN BUILD_FOLDER FRONT_END [PART...]
 # The front-end is that of this system. The parts, all of which run where none is named:
-#   share     starts, shows a picture, plays, counts, clears and saves, from a folder of another machine
-#   wrappers  plays, counts and saves beside libraries that have the names of the system's
+#   share     starts, shows a picture, plays, counts, clears, saves and restores, from a folder of
+#             another machine
+#   wrappers  the same beside libraries that have the names of the system's, of which it takes pictures
+#             at four scales and in three languages
 #   foreign   has the front-end of this system play with the emulator for Windows
 set -euo pipefail
 package=$(realpath "$1")
@@ -23,14 +25,7 @@ trap '(($? == 0)) || picture failed || true; stop_wine; clean_up' EXIT
 picture() { screenshot "$pictures/$1.png"; } # name
 is_titled() { [[ $(xdotool getwindowfocus getwindowname) == "$1"* ]]; }
 expect_titled() { wait_until "${2:-30}" is_titled "$1" || fail "no window \"$1\""; } # start, [seconds]
-# The window manager may leave wine's windows without the focus. The titles of all others but the
-# main window's begin with a blank.
-is_main_window() { ! xdotool search --onlyvisible --name "^ " && xdotool search --onlyvisible --name "^Kestrivane UI" windowactivate && is_titled "Kestrivane UI"; }
-back_in_main_window() {
-    wait_until 30 is_main_window || fail "not back in the main window"
-    # If no window saw a key's release, a press soon after it counts as the key being held down.
-    sleep 1.5
-}
+expect_main_window() { expect_titled "Kestrivane UI" "$@"; } # the rest depends on the language
 lay_out_package() { # folder
     rm -rf "$1"
     mkdir -p "$1/ROMs" "$1/Config"
@@ -41,17 +36,11 @@ lay_out_package() { # folder
 start_package() { # program
     wine "$1" &
     front_end=$!
-    expect_titled "Kestrivane UI" 60 # the rest of the title depends on the language
+    expect_main_window 60
     sleep 1
 }
-escape_ends() {
-    press Escape
-    sleep 1
-    has_ended
-}
-# A release that the window manager gave to no window makes the next press of that key a repetition.
 expect_end_by_escape() {
-    wait_until 20 escape_ends || true
+    press Escape
     expect_end 0
 }
 play_game() {
@@ -60,25 +49,27 @@ play_game() {
     picture playing
     expect_main_window 60
 }
-# Plays, is counted, passes the options' pages, so that all of them are shown, and saves.
-play_and_save() {
+play_counted() {
     play_game
     wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " 1,2[1-9]" || fail "not counted"
-    press alt+t o
+}
+# Looks at each page of the options, by keys that are the same in each language, and saves.
+save_options() { # name for the pictures
+    press F10 Right Return
     expect_titled "   "
-    for page in video inputs machine folders; do
+    for page in audio video inputs machine folders; do
+        picture "$page-$1"
         press Right
         sleep 0.5
     done
-    picture folders
     press Return
-    back_in_main_window
+    expect_main_window
 }
 # Takes what wine runs down and up again.
 scale_desktop() { # dots per inch
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
     stop_wine
-    start_wine "$build"
+    wineserver -p
 }
 
 share() {
@@ -91,7 +82,7 @@ share() {
     convert -size 394x344 xc:lime "$root/more/$game.jpg"
     touch "$root/emulator/NVRAM/$game.nv"
     printf '%s\r\n' "; Kestrivane UI®" "; KVL configuration" ";ROMpaths=$name\\more\\roms" \
-        ";SNAPpaths=$name\\more" >"$config"
+        ";SNAPpaths=$name\\more" "[ Global ]" "[ $game ]" "Throttle = 0" >"$config"
 
     start_package "$name\\emulator\\KestrivaneUI.exe"
     picture share
@@ -99,7 +90,8 @@ share() {
         fail "the picture is not shown"
     press alt+t c
     wait_until 10 test ! -e "$root/emulator/NVRAM/$game.nv" || fail "the machine's memory was not cleared"
-    play_and_save
+    play_counted
+    save_options share
     grep -qF ";ROMpaths=$name\\more\\roms" "$config" || fail "the folder was not kept: $(cat "$config")"
     grep -q ";GameTimeLog=$game,1,2" "$config" || fail "the options were not saved"
 
@@ -108,7 +100,20 @@ share() {
     expect_titled " Kestrivane has encountered an error:"
     [[ ! -e $root/emulator/error.log ]] || fail "error.log was left"
     press Escape
-    back_in_main_window
+    expect_main_window
+
+    # Two windows close at once, and no window may have seen the key's release.
+    press Tab Tab Return
+    expect_titled "   Options: "
+    press Tab Return
+    expect_titled "Confirmation"
+    press Return
+    expect_main_window
+    ! grep -q Throttle "$config" || fail "the game's options were not restored"
+    press Return
+    expect_titled "   Options: "
+    xdotool keydown Escape sleep 1 keyup Escape
+    expect_main_window # it would have ended if a key that is held went on to act
     expect_end_by_escape
 }
 
@@ -119,6 +124,7 @@ wrappers() {
     local planted=()
     lay_out_package "$app"
     write_archive "$app" 21 good
+    touch "$app/Config/Kestrivane.ini"
     "${compiler[@]}" -shared "$here/planted_library.cpp" -o "$work/planted.dll"
     "${compiler[@]}" "$here/load_libraries.cpp" -o "$app/load.exe" -lcomdlg32 -lole32
     for name in "${names[@]}"; do cp "$work/planted.dll" "$app/$name.dll"; done
@@ -126,9 +132,9 @@ wrappers() {
     # libraries import others as programs do, where Windows has all of them on its list of those that
     # come from its folder. A program that imports no more than every program shows which; for them
     # the front-end's import table has to speak.
-    local overrides=$WINEDLLOVERRIDES
+    local overrides=$WINEDLLOVERRIDES dpi language
     for name in "${names[@]}"; do
-        export WINEDLLOVERRIDES="$overrides;$name=n,b"
+        WINEDLLOVERRIDES="$overrides;$name=n,b"
         (cd "$app" && wine load.exe) >/dev/null 2>&1 || true
         if [[ -e $app/$name.dll.loaded ]]; then
             loaded+=" $name"
@@ -140,14 +146,23 @@ wrappers() {
     done
     ((${#planted[@]} >= 10)) || fail "wine itself loads$loaded"
     rm "$app"/*.loaded
-    scale_desktop 144 # where the system's finer way to draw texts is used too
-    export WINEDLLOVERRIDES="$overrides;$(IFS=, && echo "${planted[*]}")=n,b"
-    start_package "$app/KestrivaneUI.exe"
-    play_and_save
-    expect_end_by_escape
+    WINEDLLOVERRIDES="$overrides;$(IFS=, && echo "${planted[*]}")=n,b"
+    for dpi in 96 120 144 192; do
+        scale_desktop $dpi
+        for language in 0 1 2; do
+            sed -i "s/^;KVLLanguage=./;KVLLanguage=$language/" "$app"/Config/* # made by the first save
+            start_package "$app/KestrivaneUI.exe"
+            picture "main-$language-$dpi"
+            ((dpi + language > 96)) || play_counted
+            save_options "$language-$dpi"
+            expect_end_by_escape
+        done
+    done
+    [[ $(convert "$pictures/audio-0-120.png" -crop 12x20+50+138 -format '%[fx:minima>0.3]' info:) == 1 ]] ||
+        fail "there is a black line in a bar"
     ! ls "$app"/*.loaded 2>/dev/null || fail "planted libraries were loaded"
-    echo "Not loaded: ${planted[*]}; loaded by wine itself:$loaded"
-    export WINEDLLOVERRIDES=$overrides
+    echo "Not loaded: ${planted[*]}; loaded by wine itself:$loaded. Pictures: $pictures"
+    WINEDLLOVERRIDES=$overrides
     scale_desktop 96
 }
 
