@@ -51,7 +51,7 @@ play_game() {
 }
 play_counted() {
     play_game
-    wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game | grep -q " 1,2[1-9]" || fail "not counted"
+    [[ $(wine reg query 'HKCU\Software\Kestrivane UI\GameTimeLog' /v $game) == *" 1,2"[1-9]* ]] || fail "not counted"
 }
 # Looks at each page of the options, by keys that are the same in each language, and saves.
 save_options() { # name for the pictures
