@@ -36,8 +36,8 @@ class ReadableStyle : public QProxyStyle {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control != CC_ScrollBar) return;
     constexpr double kGrooveContrast = 1.5;
-    // At a scale such as 125 % the theme of Windows may draw an arrow button one pixel too small and
-    // leave that pixel black.
+    // At a scale such as 125 % the theme of Windows may draw an arrow button one pixel too small
+    // and leave that pixel black.
     if (const auto scale = painter->deviceTransform().m11(); scale != std::floor(scale))
       for (const auto arrow : {SC_ScrollBarSubLine, SC_ScrollBarAddLine})
         PaintLineInside(*painter, subControlRect(CC_ScrollBar, option, arrow, widget),
