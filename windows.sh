@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the front-end for Windows on a Debian machine, runs its tests under wine, and leaves
-# KestrivaneUI-VERSION-windows.zip. The toolkit for it is built once, into a folder outside this one.
-# Each of the tests at the end can be run by itself, as it stands there, once all is built.
+# KestrivaneUI-VERSION-windows.zip. Qt for Windows is built once, into a folder outside this one. Once
+# everything is built, each test command at the end can be run by itself.
 # Usage: windows.sh [FOLDER_FOR_QT]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"

@@ -36,7 +36,7 @@ stop_display() {
 # be closed already.
 title_is() { [[ $(xdotool getwindowfocus getwindowname) == "$1" ]]; }
 
-# Sends keys to the window in focus, each held for as long as a person holds it.
+# Sends keys to the window in focus, and holds each for a moment as a user does.
 press() {
     local key
     for key in "$@"; do xdotool keydown "$key" sleep 0.08 keyup "$key"; done

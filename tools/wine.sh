@@ -1,18 +1,18 @@
 # To be sourced: Windows programs under wine, in a prefix of their own.
 
-# Makes the prefix where there is none, and starts its server. A folder in it also stands as what
-# another machine shares: \\kestrivane\tests, and an empty one as drive Y:.
+# Creates the prefix if there is none, and starts its server. One folder in the prefix is also the network
+# share \\kestrivane\tests, and an empty one is drive Y:.
 start_wine() { # folder for the prefix
     mkdir -p "$1"
     WINEPREFIX=$(cd "$1" && pwd)/wine
-    # It would put the programs into the desktop's menu, and ask for what runs other programs.
+    # Keeps wine from adding entries to the desktop's menu and from asking to install Mono and Gecko.
     export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
-    # Wine 10 crashes where it is set.
+    # Wine 10 crashes if TMPDIR is set.
     unset TMPDIR
-    # Where the locale is of ASCII alone, it makes no file of another name.
+    # With an ASCII locale, wine can't create files with other names.
     export LC_ALL=C.UTF-8
     if [[ ! -e $WINEPREFIX/system.reg ]]; then
-        # Without a display; its server would keep others from one.
+        # Runs without a display, and ends the server, which would also start later programs without one.
         DISPLAY= wineboot -i >/dev/null 2>&1
         wineserver -k -w
     fi
@@ -23,7 +23,7 @@ start_wine() { # folder for the prefix
     wineserver -p || true # one may run already
 }
 
-# Its server leaves a folder behind, which a file of the prefix names.
+# Ends the server and removes the folder that it leaves behind, which a file of the prefix names.
 stop_wine() {
     local name=${WINEPREFIX:-}/wineserver
     wineserver -k -w 2>/dev/null || true

@@ -1,12 +1,11 @@
 #!/usr/bin/env bash
-# Uses the package for Windows under wine as a person does, on a virtual display.
+# Uses the package for Windows under wine as a user does, on a virtual display.
 # Usage: windows.sh PACKAGE STAND_IN BUILD_FOLDER FRONT_END [PART...]
-# The front-end is that of this system. The parts, all of which run where none is named:
-#   share     starts, shows a picture, plays, counts, clears, saves and restores, from a folder of
-#             another machine
-#   wrappers  the same beside libraries that have the names of the system's, of which it takes pictures
-#             at four scales and in three languages
-#   foreign   has the front-end of this system play with the emulator for Windows
+# FRONT_END is the one for this system. Without a PART, all of them run:
+#   share     starts on a network share, shows a picture, plays, counts, clears, saves and restores
+#   wrappers  starts beside libraries with the names of the system's, and takes pictures at four scales
+#             and in three languages
+#   foreign   the front-end for this system plays with the emulator for Windows
 set -euo pipefail
 package=$(realpath "$1")
 stand_in=$(realpath "$2")
@@ -65,7 +64,7 @@ save_options() { # name for the pictures
     press Return
     expect_main_window
 }
-# Takes what wine runs down and up again.
+# Sets the desktop's scale and starts wine's server again.
 scale_desktop() { # dots per inch
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
     stop_wine
@@ -73,7 +72,7 @@ scale_desktop() { # dots per inch
 }
 
 share() {
-    echo "From a folder of another machine it does all that it does"
+    echo "From a network share everything works"
     local root="$WINEPREFIX/share" name='\\kestrivane\tests'
     local config="$root/emulator/Config/Kestrivane.ini"
     lay_out_package "$root/emulator"
@@ -128,10 +127,10 @@ wrappers() {
     "${compiler[@]}" -shared "$here/planted_library.cpp" -o "$work/planted.dll"
     "${compiler[@]}" "$here/load_libraries.cpp" -o "$app/load.exe" -lcomdlg32 -lole32
     for name in "${names[@]}"; do cp "$work/planted.dll" "$app/$name.dll"; done
-    # The order of Windows: those in the program's folder come before the system's. Some of wine's own
-    # libraries import others as programs do, where Windows has all of them on its list of those that
-    # come from its folder. A program that imports no more than every program shows which; for them
-    # the front-end's import table has to speak.
+    # Makes wine search libraries as Windows does: in the program's folder first. Some of wine's own
+    # libraries import others of these names, which on Windows would always come from the system's folder.
+    # A program with the usual imports only shows which. For these, tests/windows_file.sh checks the
+    # front-end's import table instead.
     local overrides=$WINEDLLOVERRIDES dpi language
     for name in "${names[@]}"; do
         WINEDLLOVERRIDES="$overrides;$name=n,b"
@@ -141,7 +140,7 @@ wrappers() {
             continue
         fi
         (cd "$app" && wine load.exe "$name.dll") >/dev/null 2>&1
-        [[ -e $app/$name.dll.loaded ]] || fail "$name.dll is not even loaded when it is asked for"
+        [[ -e $app/$name.dll.loaded ]] || fail "$name.dll is not loaded even by its name"
         planted+=("$name")
     done
     ((${#planted[@]} >= 10)) || fail "wine itself loads$loaded"

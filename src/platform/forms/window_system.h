@@ -1,5 +1,5 @@
-// What differs between window systems and the toolkit does not level out. Used only by the sources
-// of this folder.
+// Differences between window systems that the toolkit does not hide. Shared by the sources of this
+// folder; no other code includes it.
 #pragma once
 
 class QApplication;
@@ -10,13 +10,13 @@ namespace forms {
 // Must be called once, before the first key event: IsNewPress relies on it.
 void WatchKeys(QApplication& application);
 
-// Whether the window system reports the press as a new one. The toolkit takes a press for a
-// repetition if it has not seen the key's release, which no window gets while none is active. Must
-// be called exactly once for each press. Always false where the toolkit's own mark is exact.
+// Whether the window system reports the press as a new one. The toolkit marks a press as a
+// repetition if no window was active when the key was released. Must be called exactly once for
+// each press. Always false on systems where the toolkit's mark is right.
 bool IsNewPress(const QKeyEvent& press);
 
-// Waits until the window system has given the focus of a closed window to the next one, where that
-// takes time. Input that arrives meanwhile is handled afterwards.
+// Waits until the window system has moved the focus from a closed window to the next one, on
+// systems where that takes time. Input that arrives meanwhile is handled afterwards.
 void AwaitFocus();
 
 }  // namespace forms

@@ -13,7 +13,7 @@
 namespace forms {
 namespace {
 
-// Virtual keys that were up before they were pressed, until IsNewPress has asked for them.
+// Virtual keys that were up before their last press, until IsNewPress takes them out.
 QSet<quint32> NewlyPressed;
 
 class KeyMessages : public QAbstractNativeEventFilter {
@@ -37,8 +37,8 @@ void WatchKeys(QApplication& application) {
 
 bool IsNewPress(const QKeyEvent& press) { return NewlyPressed.remove(press.nativeVirtualKey()); }
 
-// Under wine a window manager gives the focus to the window below. If that one closes before it has
-// the focus, no window gets it.
+// Under wine, the window manager moves the focus to the window below. If that window closes before
+// it has the focus, no window gets it.
 void AwaitFocus() {
   constexpr std::chrono::milliseconds kEnough(100);
   QEventLoop loop;
