@@ -64,8 +64,23 @@ archives() {
     tests/e2e/archives.sh build
 }
 
+# A start, a play and a save by the whole program under the thread sanitizer. Once it is
+# built, that takes three seconds of the processor, and half a minute.
+threads() {
+    local alone=()
+    cmake --preset threads >/dev/null
+    build build-threads KestrivaneUI standin
+    # The sanitizer of clang 14 can't start where the system spreads addresses widely, and a container
+    # may not be allowed to change that.
+    ! setarch -R true 2>/dev/null || alone=(setarch -R)
+    [[ $("${alone[@]}" build-threads/KestrivaneUI --version 2>&1) != *"unexpected memory mapping"* ]] ||
+        { echo "The thread sanitizer can't start here; not run" && return 0; }
+    TSAN_OPTIONS="halt_on_error=1:history_size=7:suppressions='$PWD/tests/threads.supp'" \
+        "${alone[@]}" tests/e2e/end_to_end.sh build-threads/KestrivaneUI build-threads/standin/Kestrivane.exe
+}
+
 checks=("$@")
-((${#checks[@]} > 0)) || checks=(format each_file hardening archives unsigned_char tidy)
+((${#checks[@]} > 0)) || checks=(format each_file hardening archives unsigned_char threads tidy)
 for check in "${checks[@]}"; do
     echo "== Check: ${check//_/ }"
     "$check"
