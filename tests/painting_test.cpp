@@ -138,7 +138,9 @@ TEST_F(Painting, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
   modify("optOPT(2)", [this](QWidget& options) {
     act(options, "click optTypeInputs(1)");
     const auto onScreen = options.screen()->grabWindow(options.winId()).toImage();
-    EXPECT_EQ(onScreen, options.grab().toImage().convertToFormat(onScreen.format()));
+    // Without a display a scaled screen gives its upper left part only.
+    const auto anew = options.grab().toImage().convertToFormat(onScreen.format());
+    EXPECT_EQ(onScreen, anew.copy(onScreen.rect()));
   });
 }
 
