@@ -82,7 +82,7 @@ void ListFolders(benchmark::State& state) {
   for (auto _ : state)
     for (const auto& folder : folders) {
       DIR* stream = opendir(folder.c_str());
-      while (const dirent* entry = readdir(stream)) benchmark::DoNotOptimize(entry->d_name);
+      while (dirent* entry = readdir(stream)) benchmark::DoNotOptimize(entry->d_name);
       closedir(stream);
     }
 }
