@@ -103,7 +103,7 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
   }
   void resizeEvent(QResizeEvent* event) override {
-    QTreeWidget::resizeEvent(event);
+    RingedView::resizeEvent(event);
     widenColumn();
   }
   void showEvent(QShowEvent* event) override {
