@@ -47,7 +47,7 @@ hold() { # keys
     local key
     for key in $1; do
         xdotool keydown "$key" sleep 0.08 keyup "$key" 2>/dev/null
-        sleep 0.1
+        sleep 0.3
     done
 }
 

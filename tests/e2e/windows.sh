@@ -149,7 +149,8 @@ wrappers() {
     for dpi in 96 120 144 192; do
         scale_desktop $dpi
         for language in 0 1 2; do
-            sed -i "s/^;KVLLanguage=./;KVLLanguage=$language/" "$app"/Config/* # made by the first save
+            # The first save has made the file. It has no line for English.
+            sed -i "/^;KVLLanguage/d; s/^\[ Global \]/;KVLLanguage=$language\r\n&/" "$app/Config/Kestrivane.ini"
             start_package "$app/KestrivaneUI.exe"
             picture "main-$language-$dpi"
             ((dpi + language > 96)) || play_counted
@@ -157,6 +158,7 @@ wrappers() {
             expect_end_by_escape
         done
     done
+    ! cmp "$pictures/video-0-96.png" "$pictures/video-1-96.png" 2>/dev/null || fail "the language is not Spanish"
     [[ $(convert "$pictures/audio-0-120.png" -crop 12x20+50+138 -format '%[fx:minima>0.3]' info:) == 1 ]] ||
         fail "there is a black line in a bar"
     ! ls "$app"/*.loaded 2>/dev/null || fail "planted libraries were loaded"
