@@ -158,7 +158,7 @@ wrappers() {
             expect_end_by_escape
         done
     done
-    ! cmp "$pictures/video-0-96.png" "$pictures/video-1-96.png" 2>/dev/null || fail "the language is not Spanish"
+    ! cmp -s "$pictures/video-0-96.png" "$pictures/video-1-96.png" || fail "the language is not Spanish"
     [[ $(convert "$pictures/audio-0-120.png" -crop 12x20+50+138 -format '%[fx:minima>0.3]' info:) == 1 ]] ||
         fail "there is a black line in a bar"
     ! ls "$app"/*.loaded 2>/dev/null || fail "planted libraries were loaded"
