@@ -71,7 +71,7 @@ mv "$work/installed$prefix" "$cache/qt"
 # The licences that must be passed on with the program.
 {
     printf '%s\n' "Qt $version, as Debian's source package qt6-base has it, and what it contains." ""
-    parts=(double-conversion freetype harfbuzz-ng libjpeg libpng md4c pcre2 tinycbor zlib)
+    parts=(double-conversion freetype harfbuzz-ng libjpeg libpng pcre2 tinycbor zlib)
     files=("$source"/LICENSES/{LGPL-3.0-only,GPL-3.0-only}.txt)
     for part in "${parts[@]}"; do
         files+=("$source/src/3rdparty/$part"/*{LICEN,licen,COPYING}*)
