@@ -10,6 +10,7 @@
 
 #include "platform/forms/accessible_text.h"
 #include "platform/forms/input_guard.h"
+#include "platform/forms/rows_accessible.h"
 
 namespace forms {
 namespace {
@@ -142,8 +143,7 @@ void AnnounceFocusOf(QWidget& window) {
   auto* control = QAccessible::queryAccessibleInterface(focus);
   auto* row = control ? control->focusChild() : nullptr;
   if (!row) return Announce(*focus);
-  QAccessibleEvent event(row, QAccessible::Focus);
-  QAccessible::updateAccessibility(&event);
+  AnnounceFocus(row);
 }
 
 void SetAccessibleRole(QWidget& widget, Role role) {

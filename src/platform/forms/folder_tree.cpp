@@ -1,6 +1,5 @@
 #include "platform/forms/folder_tree.h"
 
-#include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -13,6 +12,7 @@
 #include "base/error_boundary.h"
 #include "platform/files.h"
 #include "platform/forms/native.h"
+#include "platform/forms/rows_accessible.h"
 
 namespace forms {
 namespace {
@@ -84,11 +84,9 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   void selectionChanged(const QItemSelection& now, const QItemSelection& before) override {
     QAbstractItemView::selectionChanged(now, before);  // NOLINT: skips QTreeWidget's announcement
   }
-  // Announces first the tree and then its current folder.
   void focusInEvent(QFocusEvent* event) override {
     RingedView::focusInEvent(event);
-    QMetaObject::invokeMethod(
-        this, [this] { announceCurrent(); }, Qt::QueuedConnection);
+    AnnounceRowLater(*this);
   }
   bool viewportEvent(QEvent* event) override {
     if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
@@ -109,15 +107,6 @@ class NativeTree : public RingedView<QTreeWidget, 0> {
   void showEvent(QShowEvent* event) override {
     QTreeWidget::showEvent(event);
     scrollTo(currentIndex(), EnsureVisible);
-  }
-
- private:
-  void announceCurrent() {
-    auto* tree = QAccessible::isActive() ? QAccessible::queryAccessibleInterface(this) : nullptr;
-    auto* folder = tree && hasFocus() ? tree->focusChild() : nullptr;
-    if (!folder) return;
-    QAccessibleEvent focus(folder, QAccessible::Focus);
-    QAccessible::updateAccessibility(&focus);
   }
 };
 

@@ -1,6 +1,7 @@
 #include "platform/forms/input_guard.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>

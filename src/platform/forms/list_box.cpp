@@ -1,6 +1,5 @@
 #include "platform/forms/list_box.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QScrollBar>
@@ -12,6 +11,7 @@
 #include "base/failure.h"
 #include "base/text.h"
 #include "platform/forms/native.h"
+#include "platform/forms/rows_accessible.h"
 
 namespace forms {
 namespace {
@@ -90,14 +90,7 @@ class NativeList : public RingedView<QListWidget, 2> {
   void focusInEvent(QFocusEvent* event) override {
     RingedView::focusInEvent(event);
     chooseFocusedRow(event->reason());
-    const auto announceRow = [this] {
-      if (!hasFocus() || currentRow() < 0) return;
-      QAccessibleEvent focus(this, QAccessible::Focus);
-      focus.setChild(currentRow());
-      QAccessible::updateAccessibility(&focus);
-    };
-    // The list itself is announced first.
-    QMetaObject::invokeMethod(this, announceRow, Qt::QueuedConnection);
+    AnnounceRowLater(*this);
   }
   void mousePressEvent(QMouseEvent* event) override {
     const auto* pressed = itemAt(event->pos());

@@ -102,13 +102,22 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
   bool isReplaced_ = false;
 };
 
+}  // namespace
+
 void AnnounceFocus(QAccessibleInterface* row) {
   if (!row) return;
   QAccessibleEvent focus(row, QAccessible::Focus);
   QAccessible::updateAccessibility(&focus);
 }
 
-}  // namespace
+void AnnounceRowLater(QWidget& control) {
+  const auto announce = [&control] {
+    if (!QAccessible::isActive() || !control.hasFocus()) return;
+    if (auto* rows = QAccessible::queryAccessibleInterface(&control))
+      AnnounceFocus(rows->focusChild());
+  };
+  QMetaObject::invokeMethod(&control, announce, Qt::QueuedConnection);
+}
 
 class AccessibleRows::Children : public QObject {
  public:

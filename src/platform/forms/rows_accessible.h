@@ -38,6 +38,12 @@ class Rows {
   ~Rows() = default;
 };
 
+// Announces the row as the one in focus, if there is one.
+void AnnounceFocus(QAccessibleInterface* row);
+
+// Announces the current row of a control that has just got the focus, after the control itself.
+void AnnounceRowLater(QWidget& control);
+
 // Makes the rows children of their control for assistive technology. Announces changed names.
 class AccessibleRows {
  public:
