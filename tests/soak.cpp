@@ -1,9 +1,7 @@
 // Random use of the whole program for SOAK_SECONDS (30): keys, clicks, wheel, menus, dialogs,
 // plays. After each save, the file must match the program's state. SOAK_SEED repeats a run.
 #include <QDeadlineTimer>
-#include <QDesktopServices>
 #include <QEventLoop>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QWheelEvent>
 #include <functional>
@@ -25,7 +23,6 @@ class Soak : public support::UiTest {
  protected:
   Soak() {
     std::cout << "SOAK_SEED=" << seed_ << std::endl;
-    QDesktopServices::setUrlHandler("https", &browser_, "anchorClicked");
     addEmulator();
     write("roms/7undertow.zip", "seconds=0\nend=good");
     write("roms/abalonec.zip", "seconds=0\nend=error");
@@ -33,7 +30,6 @@ class Soak : public support::UiTest {
     write("roms/shader.fs", "");
     clock_.onSleep = [this] { clock_.now += std::chrono::seconds(pick(15)); };
   }
-  ~Soak() override { QDesktopServices::unsetUrlHandler("https"); }
 
   int pick(int below) { return std::uniform_int_distribution<>(0, below - 1)(random_); }
 
@@ -42,7 +38,7 @@ class Soak : public support::UiTest {
     QEventLoop loop;
     std::function<void()> next = [&] {
       // Scheduled before the action, which may open a window and return only when that closes.
-      QTimer::singleShot(0, &browser_, next);
+      QTimer::singleShot(0, &loop, next);
       auto* modal = QApplication::activeModalWidget();
       if (!end.hasExpired() && !HasFailure()) return act();
       if (modal) modal->close();
@@ -109,7 +105,6 @@ class Soak : public support::UiTest {
       qEnvironmentVariable("SOAK_SEED", QString::number(std::random_device()())).toUInt();
   std::mt19937 random_{seed_};
   support::FakeClock clock_;
-  QTextBrowser browser_;  // receives web addresses instead of a real browser
   std::string file_;
   int actions_ = 0, saves_ = 0;
 };
