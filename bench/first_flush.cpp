@@ -1,5 +1,5 @@
-// Preloaded into a program to measure it: prints the time, in microseconds, at which its first
-// painted pixels go to the screen.
+// Preloaded into a program to measure it: prints when its first painted pixels go to the screen, in
+// microseconds since 1970.
 #include <dlfcn.h>
 
 #include <QBackingStore>
@@ -8,7 +8,7 @@
 #include <cstdlib>
 
 // Programs that the measured one starts are not measured.
-static const int kNotInherited = unsetenv("LD_PRELOAD");
+static const int kRemovedFromEnvironment = unsetenv("LD_PRELOAD");
 
 void QBackingStore::flush(const QRegion& region, QWindow* window, const QPoint& offset) {
   using Flush = void (*)(QBackingStore*, const QRegion&, QWindow*, const QPoint&);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Prints every figure: the benchmarks, the start, and the program in use, on virtual displays of their
-# own.
+# Prints every figure: the benchmarks, the start, an hour of simulated use, and the program in use, on
+# virtual displays.
 # Usage: bench/run.sh BUILD_FOLDER
 set -euo pipefail
 build=$(realpath "$1")

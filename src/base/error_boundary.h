@@ -1,5 +1,6 @@
-// The error boundary. Every event handler and every procedure that may fail runs its steps inside
-// one, so that no exception leaves it.
+// The error boundary. Every event handler runs inside one, so that no exception leaves it, and so
+// does a procedure that goes on after a failure. Other functions throw a Failure; their headers
+// say so.
 #pragma once
 
 #include <functional>

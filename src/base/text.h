@@ -19,14 +19,15 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
 // The text with ASCII, Latin, Greek and Cyrillic letters in lower case, for comparisons.
 std::string FoldCase(std::string_view text);
 
+// Sorted by FoldCase.
 std::vector<std::string> SortedIgnoringCase(std::vector<std::string> texts);
 
-// The byte position of `wanted`, or npos. The case of ASCII letters is ignored.
+// These four ignore the case of ASCII letters only.
+// The byte position of `wanted`, or npos.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted);
 bool ContainsIgnoringCase(std::string_view text, std::string_view wanted);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
-
-// Replaces every occurrence of `wanted`. The case of ASCII letters is ignored.
+// Replaces every occurrence of `wanted`.
 std::string ReplaceIgnoringCase(std::string_view text, std::string_view wanted,
                                 std::string_view replacement);
 

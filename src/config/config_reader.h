@@ -10,8 +10,9 @@ namespace config {
 
 // Reads the file; without one, or if it can't be read or has more than 16 MB, returns the defaults
 // with the default bindings. Copies a file that another program wrote to Kestrivane.ini.bak. Sets
-// KnownConfigFile only if a save can lose nothing of the file: it was read to its end, is not a
-// file of ours that was cut short, and was copied if another program wrote it.
+// KnownConfigFile only if a save needs no copy of the file: it was read to its end, is not a file
+// of ours that was cut short, and was copied if another program wrote it. A save drops what was not
+// understood in a file of ours, such as comments and unknown options.
 Configuration LoadConfigFile(const std::string& appFolder);
 
 struct ParseResult {

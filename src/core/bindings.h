@@ -17,7 +17,7 @@ inline constexpr std::string_view kNoBinding = "\"NONE\"";
 // empty cells.
 BindingCells CellsOf(std::string_view value);
 
-// Joins the cells that are not empty into a value.
+// Joins the tokens of the cells that are not empty into a value in quotes. Not for a number.
 std::string ValueOf(const BindingCells& cells);
 
 // Whether the cell holds a number (an input that is on or off) instead of a token.

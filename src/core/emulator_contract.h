@@ -11,7 +11,7 @@ inline constexpr std::string_view kPlayCommand = "Kestrivane \"";
 
 // The listing: in the banner, the version stands between this text and one closing character. The
 // games follow the separator, with the short name in columns 1 to 14 and the title from column 14
-// on.
+// on. Column 14, mostly a blank, belongs to both.
 inline constexpr std::string_view kBanner = "Kestrivane: A Sega Model 3 Arcade Emulator (Version ";
 inline constexpr std::string_view kSeparator = "-------         -----";
 inline constexpr int kNameColumns = 14;

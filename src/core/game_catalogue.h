@@ -10,17 +10,17 @@
 
 namespace core {
 
-// The contents of a listing. The fields have the names of the shared variables that they go to.
+// The contents of a listing, as they go to the shared variables of the same names.
 struct GameListing {
   std::string EmulatorVersion;
-  bool GameListHeaderSeen = false;
+  bool GameListHeaderSeen = false;  // the separator was met; used while parsing only
   std::vector<GameEntry> GameCatalog = std::vector<GameEntry>(kSpareGameRows);
 };
 
 // Parses the emulator's output. Returns nothing if it has fewer than two lines.
 std::optional<GameListing> ParseGameListing(std::string_view output);
 
-// Parses one line, which has no spaces at its ends.
+// Parses one line, which has no spaces at its ends. Games beyond kMaxGames are left out.
 void ParseGameListLine(std::string_view line, GameListing& listing);
 
 // Sets GameEntry.Available of every game, and GameEntry.RomFolder of those whose archive is found.

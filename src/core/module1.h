@@ -112,6 +112,7 @@ inline std::string EmulatorVersion;
 inline unsigned char GameListPref = 0;     // 0 all games, 1 only available; 9 while it is being set
 inline unsigned char CurrentLanguage = 0;  // 0 English, 1 Spanish, 2 Portuguese
 inline std::vector<core::GameEntry> GameCatalog;
+// The last entry, 0 by 0, ends the list.
 inline constexpr std::array<core::Resolution, 21> ResolutionList = {{
     {496, 384},   {640, 480},   {800, 600},   {1024, 768},  {1152, 864},
     {1280, 720},  {1280, 768},  {1280, 800},  {1280, 960},  {1280, 1024},

@@ -28,6 +28,7 @@ std::string EffectiveValue(Slot slot) {
   auto value = Module1::EffectiveValues[slot];
   if (Module1::OptionScope == kGlobalScope) return value;
   if (Module1::OptionScope >= Module1::GameCatalog.size()) throw base::Failure("no such game");
+  // Of several sections of a game, the last with this option counts.
   for (const auto row : RowsOfGame(Module1::GameCatalog[Module1::OptionScope].RomName))
     if (const auto& own = Module1::Profiles[row].Slots[slot].Value; !own.empty()) value = own;
   return value;

@@ -13,7 +13,8 @@ struct Row {
   std::array<std::string_view, 3> texts;  // English, Spanish, Portuguese
 };
 
-// Indexed by Message.
+// Indexed by Message. Users and their guides quote these texts, so the wording stays as it is,
+// faults of language included.
 constexpr auto kMessages = std::to_array<Row>({
     {Message::GamesListed, {" games listed", " juegos listados", " jogos listados"}},
     {Message::NoGamesAvailable,

@@ -9,7 +9,7 @@
 namespace ui {
 namespace {
 
-constexpr int kForceFrame = 0;
+constexpr int kForcePage = 0;
 constexpr int kKeyMouseFrame = 2;
 constexpr const char* kDescriptionText =
     "Percentages represent the maximum strength for each effect. A setting of 0 disables them "
@@ -86,7 +86,7 @@ void frmFF::ShowFrame(int index) {
 }
 
 void frmFF::optADV_Click(int index) {
-  ShowFrame(index == kForceFrame ? Module1::AdvancedInputSystem : index + 1);
+  ShowFrame(index == kForcePage ? Module1::AdvancedInputSystem : index + 1);
 }
 
 void frmFF::cmdSave_Click() {

@@ -15,7 +15,9 @@
 
 namespace ui {
 
-// OK puts the values into StagedOptions; the next global save stores them.
+// OK puts the values into StagedOptions; the next global save stores them. The first button shows
+// the force feedback of the selected input system. Raw Input has none: there it shows the frame of
+// keys and mouse.
 class frmFF : public forms::Form {
  public:
   frmFF();
@@ -28,7 +30,8 @@ class frmFF : public forms::Form {
   void optADV_Click(int index);
   void cmdSave_Click();
   void ShowFrame(int index);
-  // The force feedback frame of the selected input system: 0 for DirectInput, 1 for the others.
+  // The frame whose force feedback is edited: 0 for DirectInput, 1 for the others, which for Raw
+  // Input stays hidden and keeps its values.
   static int ForceFrame();
 
   forms::Frame frame[kFrames] = {{*this, "frame(0)", {128, 600, 7680, 4215}},

@@ -10,7 +10,7 @@ namespace {
 using i18n::Message;
 using i18n::Msg;
 
-constexpr int kOfferedResolutions = 20;
+constexpr int kOfferedResolutions = 20;  // all but the entry that ends the list
 
 }  // namespace
 
