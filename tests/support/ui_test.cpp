@@ -202,9 +202,15 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
     tree->setCurrentItem(tree->findItems(what, Qt::MatchExactly | Qt::MatchRecursive).value(0));
   } else if (verb == "activate") {
     activate(isRow ? Accessible(&control)->child(row) : Accessible(&control));
-  } else if (verb == "toggle") {
-    Accessible(&control)->child(row)->actionInterface()->doAction(
-        QAccessibleActionInterface::toggleAction());
+  } else if (verb == "select") {
+    // Does what the toolkit does for this request on Windows: the row is toggled, and then each
+    // other that is still selected.
+    auto* rows = Accessible(&control);
+    for (int i = 0; i < rows->childCount(); ++i) {
+      auto* child = rows->child((row + i) % rows->childCount());
+      if (child->state().selected != (i == 0))
+        child->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    }
   } else if (verb == "set") {
     if (auto* text = Accessible(&control)->editableTextInterface())
       return text->replaceText(0, 9, what), QString();

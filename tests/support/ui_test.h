@@ -37,7 +37,7 @@ class UiTest : public TempApp {
   //   press KEY [in NAME]    or instead of press: down (without release), hold (as a repetition),
   //   copy (as sent by assistive technology), post (waits until events are handled)
   //   type, paste TEXT in NAME    wheel 120 in NAME    drag, drop BAR      open FOLDER in TREE
-  //   activate NAME, toggle NAME:2, set VALUE in NAME: by assistive technology; close
+  //   activate NAME, select NAME:2, set VALUE in NAME: by assistive technology; close
   QString act(QWidget& window, const QString& step);
   QString act(const QString& step) { return act(window(), step); }
   // Runs `action`, and `step` in the modal window that the action opens. False if none opens.

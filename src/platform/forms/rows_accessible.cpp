@@ -76,11 +76,13 @@ class RowInterface : public QAccessibleInterface, public QAccessibleActionInterf
                                                 : attributes_.cast(type);
   }
 
-  // On Windows, a request to select a row arrives as the toggle action.
+  // On Windows, a request to select a row arrives as the toggle action of that row and then of all
+  // rows that are still selected. The latter must not undo it.
   QStringList actionNames() const override { return {pressAction(), toggleAction()}; }
   void doAction(const QString& name) override {
     if (!actionNames().contains(name) || !isValid() || state().disabled) return;
     const bool presses = name == pressAction();
+    if (!presses && rows_.stateOf(row_).selected) return;
     PressLater(*control_, [this, presses] {
       if (!isValid()) return;
       if (presses)
