@@ -1,6 +1,7 @@
 #include "support/ui_test.h"
 
 #include <QAbstractButton>
+#include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QClipboard>
 #include <QDesktopServices>
@@ -254,6 +255,8 @@ bool UiTest::whenModal(const std::function<void(QWidget&)>& step,
     EXPECT_FALSE(assists_) << "assistive technology does not wait for what it opens";
     if (opened) step(*modal);
     if (modal != before) modal->close();
+    // The step has handled events. On Windows, that makes an event loop which it ended wait on.
+    QAbstractEventDispatcher::instance()->interrupt();
   });
   timer.start(5);
   action();
