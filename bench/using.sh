@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Measures the real program on a virtual display: first while Down is held through 254 games, each with
+# Measures the real program on a virtual display: first while Down is held through some 240 games, each with
 # a full-HD snapshot and an icon, then during a play. Work after the key's release is a backlog.
 # Usage: bench/using.sh BUILD_FOLDER [SECONDS_OF_PLAY]
 set -euo pipefail

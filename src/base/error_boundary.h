@@ -1,6 +1,6 @@
-// The error boundary. Every event handler runs inside one, so that no exception leaves it, and so
-// does a procedure that goes on after a failure. Other functions throw a Failure; their headers
-// say so.
+// The error boundary. Two things run inside one: every event handler, so that no exception leaves
+// it, and a procedure that goes on after a failure. Other functions throw a Failure, as their
+// headers say.
 #pragma once
 
 #include <functional>

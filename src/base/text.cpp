@@ -66,7 +66,7 @@ std::string FoldCase(std::string_view text) {
   return folded;
 }
 
-std::vector<std::string> SortedIgnoringCase(std::vector<std::string> texts) {
+std::vector<std::string> SortedByFoldedCase(std::vector<std::string> texts) {
   std::vector<std::pair<std::string, std::string>> rows;  // folded, as spelled
   rows.reserve(texts.size());
   for (auto& text : texts) {

@@ -16,13 +16,13 @@ std::string_view Trim(std::string_view text);
 // The pieces between the separators. An empty text has no pieces.
 std::vector<std::string_view> Split(std::string_view text, std::string_view separator);
 
-// The text with ASCII, Latin, Greek and Cyrillic letters in lower case, for comparisons.
+// The text with ASCII and most Latin, Greek and Cyrillic letters in lower case, for comparisons.
 std::string FoldCase(std::string_view text);
 
-// Sorted by FoldCase.
-std::vector<std::string> SortedIgnoringCase(std::vector<std::string> texts);
+std::vector<std::string> SortedByFoldedCase(std::vector<std::string> texts);
 
 // These four ignore the case of ASCII letters only.
+
 // The byte position of `wanted`, or npos.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view wanted);
 bool ContainsIgnoringCase(std::string_view text, std::string_view wanted);

@@ -10,6 +10,7 @@
 namespace core {
 namespace {
 
+// The banner may stand anywhere in its line, but its length is cut from the line's front.
 std::string VersionIn(std::string_view banner) {
   const auto version = banner.substr(base::OffsetOfChar(banner, kBanner.size()));
   const auto chars = base::CharCount(version);

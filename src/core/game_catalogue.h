@@ -17,7 +17,7 @@ struct GameListing {
   std::vector<GameEntry> GameCatalog = std::vector<GameEntry>(kSpareGameRows);
 };
 
-// Parses the emulator's output. Returns nothing if it has fewer than two lines.
+// Parses the emulator's output. Returns nothing if it has no line end.
 std::optional<GameListing> ParseGameListing(std::string_view output);
 
 // Parses one line, which has no spaces at its ends. Games beyond kMaxGames are left out.

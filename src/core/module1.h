@@ -1,4 +1,4 @@
-// All state that lives as long as the program, as plain variables.
+// The state that the layers share, as plain variables.
 #pragma once
 
 #include <array>
@@ -50,14 +50,14 @@ enum : Slot {
 
 inline constexpr Slot kGeneralSlotCount = 30;
 inline constexpr Slot kFirstInputSlot = kGeneralSlotCount;
-// A game can have values of its own for the slots before this one.
+// The configuration file keeps a game's own values for the slots before this one only.
 inline constexpr Slot kPerGameSlots = option::Crosshairs;
-// frmFF edits the slots from this one up to kPerGameSlots.
+// frmFF edits the slots from this one to the last before kPerGameSlots.
 inline constexpr Slot kFirstAdvancedSlot = option::ForceFeedback;
 inline constexpr unsigned char kGlobalScope = 254;
 inline constexpr unsigned char kFilterBeingSet = 9;  // a value of GameListPref
 inline constexpr unsigned char kRawInput = 2;        // a value of Profile.InputMethod
-inline constexpr std::size_t kSearchedFolders = 4;   // the first entries of a FolderList
+inline constexpr std::size_t kSearchedFolders = 4;  // of a FolderList: the built-in one, the user's
 inline constexpr std::size_t kMaxGames = 254;
 inline constexpr std::size_t kSpareGameRows = 2;  // empty ones at the end of GameCatalog
 inline constexpr std::size_t kMaxProfiles = 255;
@@ -81,7 +81,7 @@ struct PlayRecord {
 using PlayRecords = std::array<PlayRecord, 41>;
 
 struct OptionSlot {
-  unsigned char Kind = 0;  // 0 input of player 1, 1 input of player 2, 3 general; row 0 only
+  unsigned char Kind = 0;  // 0 input of player 1, 1 of player 2, 3 general (2 is free); row 0 only
   std::string Value;       // as in the configuration file; empty if this profile does not set it
   std::string Name;        // row 0 only
 };
@@ -131,6 +131,8 @@ inline std::string ErrorText;
 inline unsigned char OptionScope = 0;  // 254 the global options, else a row of GameCatalog
 inline bool OptionsSaved = false;
 inline unsigned char AdvancedInputSystem = 0;
+// Of general options the global values, which a save compares with; of inputs and Crosshairs what
+// is shown and edited.
 inline std::array<std::string, core::kSlotCount> EffectiveValues;
 inline std::array<std::string, core::kGeneralSlotCount> StagedOptions;
 

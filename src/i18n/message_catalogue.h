@@ -1,4 +1,4 @@
-// The texts of the user interface in all languages.
+// The texts of the user interface that are translated, in all languages.
 #pragma once
 
 #include <cstddef>
@@ -72,7 +72,6 @@ enum class Message : unsigned char {
   Player,
   Action,
   Button,
-  ForceFeedback,
   RestoreInputs,
   PpcFrequency,
   MultiThreading,
@@ -99,7 +98,7 @@ enum class Message : unsigned char {
   // Texts for assistive technology only.
   NotAvailable,
   EmptyCell,
-  ShaderFiles,
+  ShaderHintForKeys,
   // The buttons of message boxes.
   AnswerOk,
   AnswerYes,

@@ -32,7 +32,7 @@ std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const
     errno = 0;
   }
   Check(errno == 0);
-  return base::SortedIgnoringCase(std::move(names));
+  return base::SortedByFoldedCase(std::move(names));
 }
 
 }  // namespace

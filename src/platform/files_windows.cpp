@@ -59,7 +59,7 @@ std::vector<std::string> NamesIn(std::string_view folder, bool (*wanted)(DWORD a
   FindClose(search);
   SetLastError(error);
   Check(error == ERROR_NO_MORE_FILES);
-  return base::SortedIgnoringCase(std::move(names));
+  return base::SortedByFoldedCase(std::move(names));
 }
 
 }  // namespace

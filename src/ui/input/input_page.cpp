@@ -27,6 +27,8 @@ constexpr Group kGroupsOfInputs[] = {{30, 63, Message::Basics},
                                      {82, 109, Message::Others}};
 constexpr int kGunGroup = 1;
 constexpr int kLastGroup = 3;
+static_assert(kGroupsOfInputs[0].first == core::kFirstInputSlot);
+static_assert(kGroupsOfInputs[kGunGroup].last == core::kSlotCount - 1);
 
 }  // namespace
 

@@ -114,7 +114,7 @@ void FoldersPage::AddFolder(int index) {
 
 void FoldersPage::StartFileChoice(int index) {
   File1.setPath(Dir1.path());
-  File1.setAccessibleName(Label1[index].caption() + " " + Msg(Message::ShaderFiles));
+  File1.setAccessibleName(Label1[index].caption() + " " + Msg(Message::ShaderHintForKeys));
   if (File1.count() == 0) {
     forms::MsgBox(Msg(Message::FolderIsEmpty), forms::Buttons::Ok, forms::BoxIcon::Exclamation,
                   "Oops!");
@@ -129,7 +129,7 @@ void FoldersPage::StartFileChoice(int index) {
   list.setBackColour(forms::kWhite);  // red is unreadable on the background of a dark desktop
   list.clear();
   list.add(Msg(Message::ShaderHint));
-  list.descriptionOf = [](int) { return Msg(Message::ShaderFiles); };
+  list.descriptionOf = [](int) { return Msg(Message::ShaderHintForKeys); };
   // The file list takes the focus before the button is disabled; else the focus would move to
   // lstFolders.
   File1.setVisible(true);

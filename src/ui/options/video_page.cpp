@@ -10,7 +10,7 @@ namespace {
 using i18n::Message;
 using i18n::Msg;
 
-constexpr int kOfferedResolutions = 20;  // all but the entry that ends the list
+constexpr auto kOfferedResolutions = Module1::ResolutionList.size() - 1;
 
 }  // namespace
 
@@ -24,8 +24,8 @@ VideoPage::VideoPage(forms::Frame& frame) : frame_(frame) {
 }
 
 void VideoPage::FillResolutions() {
-  for (int row = 0; row < kOfferedResolutions; ++row) {
-    const auto& [width, height] = Module1::ResolutionList[static_cast<std::size_t>(row)];
+  for (std::size_t row = 0; row < kOfferedResolutions; ++row) {
+    const auto& [width, height] = Module1::ResolutionList[row];
     cmbRes.add(std::to_string(width) + "x" + std::to_string(height));
   }
   cmbRes.select(0);
