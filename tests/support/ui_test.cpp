@@ -112,20 +112,24 @@ void UiTest::pressKey(const QString& how, const QKeySequence& keys) {
   }
 }
 
-// The second click goes to the widget that is at the place after the first one.
-void UiTest::doubleClick(QPoint place) {
-  for (const bool second : {false, true}) {
+// Each click goes to the widget that is at the place after the one before. A window that closes at
+// a press does not get the release.
+void UiTest::clickFast(QPoint place, int clicks) {
+  for (int click = 0; click < clicks; ++click) {
     auto* modal = QApplication::activeModalWidget();
-    auto* under = modal ? modal : QApplication::activeWindow();
+    auto* under = modal ? modal : &window();
     auto* child = under->childAt(under->mapFromGlobal(place));
     auto* target = child ? child : under;
     const auto at = target->mapFromGlobal(place);
-    if (!second) QTest::mouseClick(target, Qt::LeftButton, {}, at);
-    if (!second) continue;
-    QTest::lastMouseTimestamp -= 420;  // mouseClick has added 500 ms; the second follows after 80
-    QTest::mouseDClick(target, Qt::LeftButton, {}, at);
-    QTest::mouseRelease(target, Qt::LeftButton, {}, at);
+    const auto time = QTest::lastMouseTimestamp;
+    if (click == 1)
+      QTest::mouseDClick(target, Qt::LeftButton, {}, at);
+    else
+      QTest::mousePress(target, Qt::LeftButton, {}, at);
+    if (under->isVisible()) QTest::mouseRelease(target, Qt::LeftButton, {}, at);
+    QTest::lastMouseTimestamp = time + 80;
   }
+  QTest::lastMouseTimestamp += 500;
 }
 
 QString UiTest::act(QWidget& window, const QString& step) {
@@ -148,7 +152,8 @@ QString UiTest::act(QWidget& window, const QString& step) {
     QTimer::singleShot(0, &window, &QWidget::close);
     happened << (QApplication::exec() == 0 ? "the event loop ends" : "the event loop goes on");
   } else if (verb == "close") {
-    window.close();
+    QCloseEvent byFrame;
+    QApplication::sendEvent(window.windowHandle(), &byFrame);
   } else if (QStringList{"press", "down", "hold", "copy", "post"}.contains(verb)) {
     if (words.size() > 1) get(window, name).setFocus();
     pressKey(verb, QKeySequence(what));
@@ -179,12 +184,15 @@ QString UiTest::actOn(QWidget& control, const QString& verb, const QStringList& 
                      : tree        ? tree->visualItemRect(tree->currentItem()).center()
                                    : QPoint(9, control.height() / 2);
   const QPoint thumb(control.height() + 14, control.height() / 2), moved(150, 0);  // of a bar
-  if (verb == "hover") return "tip " + TipAt(target, place);
+  if (verb == "hover") {
+    QCursor::setPos(target.mapToGlobal(place));
+    return "tip " + TipAt(target, place);
+  }
   if (verb == "focus" || verb == "type" || verb == "paste") control.setFocus();
   if (verb == "click") {
     QTest::mouseClick(&target, Qt::LeftButton, {}, place);
-  } else if (verb == "double-click") {
-    doubleClick(target.mapToGlobal(place));
+  } else if (verb == "double-click" || verb == "triple-click") {
+    clickFast(target.mapToGlobal(place), verb == "double-click" ? 2 : 3);
   } else if (verb == "wheel") {
     QWheelEvent wheel(place, control.mapToGlobal(place), {}, {0, what.toInt()}, {}, {}, {}, false);
     QApplication::sendEvent(&control, &wheel);

@@ -33,7 +33,7 @@ class UiTest : public TempApp {
 
   // Does one step. Returns what the step itself shows, such as a tool tip. "NAME:2" is a list's
   // row.
-  //   click, double-click, hover, focus NAME        answer BUTTON        choose MENU_ITEM
+  //   click, double-click, triple-click, hover, focus NAME    answer BUTTON    choose MENU_ITEM
   //   press KEY [in NAME]    or instead of press: down (without release), hold (as a repetition),
   //   copy (as sent by assistive technology), post (waits until events are handled)
   //   type, paste TEXT in NAME    wheel 120 in NAME    drag, drop BAR      open FOLDER in TREE
@@ -60,7 +60,7 @@ class UiTest : public TempApp {
 
  private:
   void pressKey(const QString& how, const QKeySequence& keys);
-  static void doubleClick(QPoint place);
+  void clickFast(QPoint place, int clicks);
   void activate(QAccessibleInterface* interface);
   QString actOn(QWidget& control, const QString& verb, const QStringList& words);
 

@@ -1,6 +1,8 @@
 #include "platform/forms/input_guard.h"
 
 #include <QApplication>
+#include <QCursor>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -105,39 +107,51 @@ class PopupKeys {
   } taken_;
 };
 
-// Drops the second click of a double click if a window has opened or closed since the first one.
-// The user did not mean the window that is there now.
+// Drops the second click of a double click, and those after it, if a window has opened or closed
+// since the first one. The user did not mean the window that is there now.
 class SecondClicks {
  public:
   void windowOpenedOrClosed() { windowsChanged_ = true; }
+  // The window system asks a window to close, perhaps because its frame was clicked. The program
+  // does not get such a click.
+  void frameClosed() {
+    sinceFrame_.start();
+    frameClick_ = QCursor::pos();
+  }
 
   bool drops(const QMouseEvent& event) {
-    if (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick)
+    // A press that a control ignores comes again for its parents.
+    const bool isNew = event.timestamp() != time_;
+    if ((event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick) &&
+        isNew)
       dropping_ = hitsOtherWindow(event);
-    if (event.type() != QEvent::MouseButtonRelease) return dropping_;
-    released_ = true;
-    return std::exchange(dropping_, false);
+    return event.type() == QEvent::MouseButtonRelease ? std::exchange(dropping_, false) : dropping_;
   }
 
  private:
   bool hitsOtherWindow(const QMouseEvent& press) {
-    const auto& hints = *QGuiApplication::styleHints();
+    const auto interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
     const auto place = press.globalPosition().toPoint();
     const bool follows =
-        std::exchange(released_, false) &&
-        press.timestamp() - time_ < static_cast<quint64>(hints.mouseDoubleClickInterval()) &&
-        (place - place_).manhattanLength() <= hints.startDragDistance();
-    if (!follows) windowsChanged_ = false;
+        press.timestamp() - time_ < static_cast<quint64>(interval) && isNear(place, place_);
+    const bool followsFrame =
+        sinceFrame_.isValid() && !sinceFrame_.hasExpired(interval) && isNear(place, frameClick_);
+    if (!follows && !followsFrame) windowsChanged_ = false;
     time_ = press.timestamp();
     place_ = place;
-    return follows && windowsChanged_;
+    return windowsChanged_;
+  }
+  static bool isNear(QPoint one, QPoint other) {
+    return !KnowsWindowPlaces() ||
+           (one - other).manhattanLength() <= QGuiApplication::styleHints()->startDragDistance();
   }
 
   quint64 time_ = 0;  // of the last press, in milliseconds
   QPoint place_;
+  QElapsedTimer sinceFrame_;  // since a window was closed by its frame
+  QPoint frameClick_;
   bool windowsChanged_ = false;  // since the last press that was not a second click
-  bool released_ = false;
-  bool dropping_ = false;  // all events of a press up to its release
+  bool dropping_ = false;        // all events of a press up to its release
 };
 
 // Assistive technology can move the focus in a window that a modal window blocks. When the window
@@ -178,6 +192,7 @@ class Guard : public QObject {
     const auto& widget = *static_cast<QWidget*>(watched);
     if ((type == QEvent::Show || type == QEvent::Hide) && opensAndCloses(widget))
       clicks_.windowOpenedOrClosed();
+    if (type == QEvent::Close && event->spontaneous()) clicks_.frameClosed();
     if (type == QEvent::WindowBlocked) blocked_.windowBlocked(widget);
     if (type == QEvent::WindowUnblocked) blocked_.windowUnblocked(widget);
     return IsInput(*event) && !TakesInput(widget);

@@ -19,4 +19,8 @@ bool IsNewPress(const QKeyEvent& press);
 // systems where that takes time. Input that arrives meanwhile is handled afterwards.
 void AwaitFocus();
 
+// Whether the toolkit knows where windows are on the screen. If it does not, the places of two
+// clicks in different windows can't be compared.
+bool KnowsWindowPlaces();
+
 }  // namespace forms

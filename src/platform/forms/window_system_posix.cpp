@@ -1,5 +1,7 @@
 #include "platform/forms/window_system.h"
 
+#include <QGuiApplication>
+
 namespace forms {
 
 void WatchKeys(QApplication& /*application*/) {}
@@ -7,5 +9,10 @@ void WatchKeys(QApplication& /*application*/) {}
 bool IsNewPress(const QKeyEvent& /*press*/) { return false; }
 
 void AwaitFocus() {}
+
+bool KnowsWindowPlaces() {
+  static const bool known = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+  return known;
+}
 
 }  // namespace forms

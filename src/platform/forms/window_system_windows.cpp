@@ -46,4 +46,6 @@ void AwaitFocus() {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
+bool KnowsWindowPlaces() { return true; }
+
 }  // namespace forms
