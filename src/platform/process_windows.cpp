@@ -74,10 +74,14 @@ bool Create(const Command& command, WORD showState, HANDLE output, PROCESS_INFOR
   startup.StartupInfo.hStdOutput = output;
   std::optional<Inheritance> inheritance;
   if (output) startup.lpAttributeList = inheritance.emplace(output).list();
+  // A listing runs unseen. A play shows the system's message boxes, such as one about a library
+  // that is missing, although this program suppresses its own.
+  const DWORD errorMode = output ? 0 : CREATE_DEFAULT_ERROR_MODE;
+  const DWORD flags =
+      NORMAL_PRIORITY_CLASS | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT | errorMode;
   // With the file given, no program can run but the one that was found.
   return CreateProcessW(FileOf(command).c_str(), line.data(), nullptr, nullptr, output != nullptr,
-                        NORMAL_PRIORITY_CLASS | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT,
-                        nullptr, nullptr, &startup.StartupInfo, &process) != 0;
+                        flags, nullptr, nullptr, &startup.StartupInfo, &process) != 0;
 }
 
 // While it exists, a program whose file asks for administrator rights is started without them.
