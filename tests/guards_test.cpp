@@ -6,6 +6,7 @@
 
 #include "base/error_boundary.h"
 #include "platform/bounded_call.h"
+#include "support/fake_clock.h"
 
 namespace {
 
@@ -26,6 +27,18 @@ TEST(BoundedCall, SucceedsOnlyInTimeAndWithoutAnException) {
   EXPECT_FALSE(platform::SucceedsWithin(std::chrono::milliseconds(50),
                                         [kLong] { std::this_thread::sleep_for(kLong); }));
   EXPECT_LT(std::chrono::steady_clock::now() - start, kLong / 2);
+}
+
+TEST(Patience, IsASecondByTheClockHoweverLongTheAttemptsTake) {
+  EXPECT_EQ(platform::FilePatience().load(), std::chrono::seconds(1));
+  const support::ShortPatience patience(std::chrono::milliseconds(60));
+  const auto start = std::chrono::steady_clock::now();
+  int attempts = 0;
+  EXPECT_FALSE(platform::RetryUntil([&attempts] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    return ++attempts > 9;
+  }));
+  EXPECT_GE(std::chrono::steady_clock::now() - start, platform::FilePatience().load());
 }
 
 }  // namespace

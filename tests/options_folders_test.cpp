@@ -7,6 +7,17 @@ namespace {
 
 class OptionsFolders : public support::UiTest {};
 
+TEST_F(OptionsFolders, TakeADriveWithoutAnEntryButNoneThatCantBeRead) {
+  if (support::kPosix) GTEST_SKIP() << "drives are folders, which have entries";
+  start();
+  modify("optOPT(4)", [&](QWidget& window) {
+    auto& drives = get<QComboBox>(window, "Drive1");
+    for (const auto* drive : {"Y:\\", "X:\\"}) drives.setCurrentIndex(drives.findText(drive));
+    EXPECT_EQ(drives.currentText(), "Y:\\");
+    EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0), "Y:\\");
+  });
+}
+
 TEST_F(OptionsFolders, BeginAtTheInnermostDriveThatContainsTheProgram) {
   if (!support::kPosix) GTEST_SKIP() << "no environment moves the folder of a user there";
   const auto home = qgetenv("HOME");

@@ -8,6 +8,7 @@
 #include "platform/code_page.h"
 #include "platform/file_search.h"
 #include "platform/files.h"
+#include "platform/program_start.h"
 #include "platform/system_windows.h"
 #include "support/fake_clock.h"
 #include "support/temp_app.h"
@@ -127,6 +128,9 @@ TEST_F(Windows, AnEmptyDriveIsEmptyAndAMissingOneCantBeRead) {
   EXPECT_TRUE(SubfolderNames("Y:\\").empty() && FileNames("Y:\\").empty());
   for (const auto& folder : {std::string("X:\\"), AppFolder + "\\none"})
     EXPECT_ANY_THROW(SubfolderNames(folder)) << folder;
+  SetErrorMode(0);
+  PrepareProgram();
+  EXPECT_TRUE(GetErrorMode() & SEM_FAILCRITICALERRORS) << "the system asks for a disk in a box";
 }
 
 TEST_F(Windows, DevicesAreNoFiles) {

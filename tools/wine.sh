@@ -1,7 +1,7 @@
 # To be sourced: Windows programs under wine, in a prefix of their own.
 
 # Creates the prefix if there is none, and starts its server. One folder in the prefix is also the network
-# share \\kestrivane\tests, and an empty one is drive Y:.
+# share \\kestrivane\tests, and an empty one is drive Y:. Drive X: can't be read.
 start_wine() { # folder for the prefix
     mkdir -p "$1"
     WINEPREFIX=$(cd "$1" && pwd)/wine
@@ -20,6 +20,7 @@ start_wine() { # folder for the prefix
     ln -sfn "$WINEPREFIX/share" "$WINEPREFIX/dosdevices/unc/kestrivane/tests"
     mkdir -p "$WINEPREFIX/empty"
     ln -sfn "$WINEPREFIX/empty" "$WINEPREFIX/dosdevices/y:"
+    ln -sfn "$WINEPREFIX/none" "$WINEPREFIX/dosdevices/x:"
     wineserver -p || true # one may run already
 }
 
