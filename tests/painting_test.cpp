@@ -1,6 +1,7 @@
 // What is painted: rows, the focus, and texts that are too long for their place.
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -141,6 +142,22 @@ TEST_F(Painting, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
     // Without a display a scaled screen gives its upper left part only.
     const auto anew = options.grab().toImage().convertToFormat(onScreen.format());
     EXPECT_EQ(onScreen, anew.copy(onScreen.rect()));
+  });
+}
+
+// The focus ring of an option button must not cover its caption, and has its two outer pixels.
+TEST_F(Painting, CaptionsOfOptionButtonsKeepOffTheFocusRing) {
+  start();
+  act("choose mLang(2)");
+  modify("optOPT(2)", [](QWidget& options) {
+    for (const auto* button : options.findChildren<QRadioButton*>()) {
+      if (!button->isVisible()) continue;
+      const QRect place(button->mapTo(&options, QPoint()), button->size());
+      const auto image = options.grab(place.adjusted(place.width() - 2, 0, 0, 0)).toImage();
+      auto background = image;
+      background.fill(image.pixelColor(0, 0));
+      EXPECT_EQ(image, background) << qPrintable(button->text());
+    }
   });
 }
 

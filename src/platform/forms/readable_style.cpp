@@ -56,7 +56,8 @@ class ReadableStyle : public QProxyStyle {
     painter->fillRect(thumb, colourOn(*option, kContrast));
   }
   // Draws the indicator of an option button a little further right, because the caption of the
-  // button before may end at its left edge. The button's own caption stays in its place.
+  // button before may end at its left edge, and the caption a little further left, because its last
+  // letter may end at the right edge, where the focus ring is.
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -66,7 +67,7 @@ class ReadableStyle : public QProxyStyle {
     QStyleOptionButton part(*button);
     part.rect = subElementRect(SE_RadioButtonIndicator, option, widget).translated(kMargin, 0);
     drawPrimitive(PE_IndicatorRadioButton, &part, painter, widget);
-    part.rect = subElementRect(SE_RadioButtonContents, option, widget);
+    part.rect = subElementRect(SE_RadioButtonContents, option, widget).translated(-kMargin, 0);
     QProxyStyle::drawControl(CE_RadioButtonLabel, &part, painter, widget);
   }
 
