@@ -7,11 +7,8 @@
 
 namespace {
 
+using base::ContainsIgnoringCase;
 using fuzz::Require;
-
-bool Holds(std::string_view text, std::string_view wanted) {
-  return base::FoldCase(text).find(base::FoldCase(wanted)) != std::string::npos;
-}
 
 void CheckRebuilding(core::BindingCells cells) {
   const auto value = core::ValueOf(cells);
@@ -21,7 +18,8 @@ void CheckRebuilding(core::BindingCells cells) {
               value.find(",\"") == value.npos,
           "no token is empty");
   // Splitting removes "NONE" inside a token. No token of the emulator contains it.
-  if (std::any_of(cells.begin(), cells.end(), [](auto& cell) { return Holds(cell, "NONE"); }))
+  if (std::any_of(cells.begin(), cells.end(),
+                  [](auto& cell) { return ContainsIgnoringCase(cell, "NONE"); }))
     return;
   std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
   Require(core::CellsOf(value) == cells, "the cells come back without gaps");
@@ -30,9 +28,10 @@ void CheckRebuilding(core::BindingCells cells) {
 void CheckNumbering(std::string_view value, int player) {
   const auto numbered = core::WithDeviceNumbers(value, player);
   const auto plain = core::WithoutDeviceNumbers(value);
-  Require(!Holds(numbered, "KEY_") && !Holds(numbered, "MOUSE_"), "every device has its number");
+  Require(!ContainsIgnoringCase(numbered, "KEY_") && !ContainsIgnoringCase(numbered, "MOUSE_"),
+          "every device has its number");
   for (const auto* device : {"KEY1_", "KEY2_", "MOUSE1_", "MOUSE2_"})
-    Require(!Holds(plain, device), "no device has a number");
+    Require(!ContainsIgnoringCase(plain, device), "no device has a number");
   Require(core::WithDeviceNumbers(numbered, 3 - player) == numbered, "nothing is numbered twice");
   Require(core::WithoutDeviceNumbers(plain) == plain, "nothing is taken twice");
   Require(base::FoldCase(core::WithoutDeviceNumbers(numbered)) == base::FoldCase(plain),

@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 seconds=${1:-60}
 build="build-sanitize"
 # The longest inputs in bytes. The checks of these fuzzers are slow for long inputs.
-declare -A longest=([command]=256 [config]=256 [error_log]=1024)
+declare -A longest=([command]=256 [config]=256 [output]=1024)
 # A small quarantine for freed memory makes the runs faster.
 export ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=8
 

@@ -8,8 +8,6 @@
 #include "base/error_boundary.h"
 #include "core/module1.h"
 #include "platform/app_folder.h"
-#include "platform/open_address.h"
-#include "platform/settings_store.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   // The error boundary must not hide an unexpected error.
@@ -41,16 +39,3 @@ std::filesystem::path MakeApp(std::initializer_list<std::string_view> files) {
 }
 
 }  // namespace fuzz
-
-// No fuzzer may reach the desktop.
-namespace platform {
-
-struct SettingsStore::Native {};
-SettingsStore::SettingsStore(const std::string& /*application*/) {}
-SettingsStore::~SettingsStore() = default;
-void SettingsStore::save(const std::string& /*section*/, const std::string& /*key*/,
-                         const std::string& /*value*/) {}
-
-void OpenAddress(const std::string& /*address*/) {}
-
-}  // namespace platform

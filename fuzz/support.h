@@ -16,8 +16,6 @@ void Examine(std::string_view bytes);
 // Ends the run with a finding if `holds` is false.
 void Require(bool holds, const char* what);
 
-using base::IsUtf8;
-
 // Creates a folder with empty files of these names, and makes it AppFolder, program folder and
 // working folder. run.sh removes it.
 std::filesystem::path MakeApp(std::initializer_list<std::string_view> files = {});
