@@ -1,6 +1,9 @@
 // The configuration file: after any bytes were read, what is written gives the same text again.
-// In between, a game of any name is played.
+// In between, a game of any name is played. The first line is a value of an input, too.
+#include <algorithm>
+
 #include "base/error_boundary.h"
+#include "base/text.h"
 #include "config/config_reader.h"
 #include "config/config_writer.h"
 #include "config/writable_names.h"
@@ -11,7 +14,47 @@
 
 namespace {
 
+using base::ContainsIgnoringCase;
 using fuzz::Require;
+
+// Joining cells and splitting the value gives the same cells.
+void CheckCells(core::BindingCells cells) {
+  const auto value = core::ValueOf(cells);
+  Require(value.size() > 2 && value.front() == '"' && value.find('"', 1) == value.size() - 1,
+          "a value is quoted");
+  Require(value.find(",,") == value.npos && value.find("\",") == value.npos &&
+              value.find(",\"") == value.npos,
+          "no token is empty");
+  // Splitting removes "NONE" inside a token. No token of the emulator contains it.
+  const auto hasNone = [](auto& cell) { return ContainsIgnoringCase(cell, "NONE"); };
+  if (std::any_of(cells.begin(), cells.end(), hasNone)) return;
+  std::stable_partition(cells.begin(), cells.end(), [](auto& cell) { return !cell.empty(); });
+  Require(core::CellsOf(value) == cells, "the cells come back without gaps");
+}
+
+// Numbering the devices can be repeated and undone.
+void CheckNumbering(std::string_view value, int player) {
+  const auto numbered = core::WithDeviceNumbers(value, player);
+  const auto plain = core::WithoutDeviceNumbers(value);
+  Require(!ContainsIgnoringCase(numbered, "KEY_") && !ContainsIgnoringCase(numbered, "MOUSE_"),
+          "every device has its number");
+  for (const auto* device : {"KEY1_", "KEY2_", "MOUSE1_", "MOUSE2_"})
+    Require(!ContainsIgnoringCase(plain, device), "no device has a number");
+  Require(core::WithDeviceNumbers(numbered, 3 - player) == numbered, "nothing is numbered twice");
+  Require(base::FoldCase(core::WithoutDeviceNumbers(numbered)) == base::FoldCase(plain),
+          "numbering can be taken back");
+}
+
+void CheckBinding(std::string_view value) {
+  auto cells = core::CellsOf(value);
+  for (const auto* cell : {"", "JOY1_BUTTON5"}) {
+    Require(cells[0].find_first_of("\",") == cells[0].npos, "a cell is one token");
+    CheckCells(cells);
+    cells[1] = cell;
+    CheckCells(cells);
+  }
+  for (const int player : {1, 2}) CheckNumbering(value, player);
+}
 
 config::Configuration Start() {
   auto start = config::Defaults(Module1::AppFolder);
@@ -43,6 +86,7 @@ void fuzz::Examine(std::string_view bytes) {
                    "too many rows are not written");
   const auto text = platform::DecodeLines(bytes);
   const auto game = text.substr(0, text.find(base::kLineEnd));
+  CheckBinding(game);
   const bool isCounted = config::IsWritableGame(game);
   if (isCounted) Module1::PlayLog[0] = {game, "1", "30"};
   // A header in the input can give a row a name whose written header is read as another name.

@@ -1,10 +1,14 @@
-// What the emulator prints and what it reports in error.log, in any bytes.
+// What the emulator prints, what it reports in error.log, and a command line, in any bytes.
+#include <filesystem>
 #include <fstream>
 
+#include "base/text.h"
 #include "core/game_catalogue.h"
 #include "core/module1.h"
 #include "launch/error_log.h"
+#include "platform/app_folder.h"
 #include "platform/code_page.h"
+#include "platform/process.h"
 #include "support.h"
 
 namespace {
@@ -61,11 +65,56 @@ void CheckReport(std::string_view bytes, const std::filesystem::path& file) {
   Require(!exists(file), "the file is gone");
 }
 
+// The text without what splitting may change: case, separators, dots, quotes, blanks.
+std::string Bare(std::string text) {
+  std::erase_if(text, [](char c) { return std::string_view("\\/.\" ").find(c) < 5; });
+  return base::FoldCase(text);
+}
+
+// The program that is found exists and is the line's first word; the arguments are the rest.
+void CheckCommand(std::string_view line) {
+  const auto command = platform::FindCommand(line);
+  if (!command) return;
+  const auto& program = command->program;
+  Require(std::filesystem::is_regular_file(program), "the program is a file");
+  std::string arguments;
+  for (const auto& argument : command->arguments) {
+    Require(argument.find('"') == argument.npos, "quotes are gone");
+    Require(line.find('"') != line.npos || argument.find(' ') == argument.npos,
+            "blanks separate arguments");
+    arguments += argument;
+  }
+  Require((program + arguments).find('\0') == line.npos, "the system sees the whole text");
+  const auto bare = Bare(std::string(line)), rest = Bare(arguments);
+  Require(bare.ends_with(rest), "the arguments are the rest");
+  const auto word = bare.substr(0, bare.size() - rest.size());
+  Require(!word.empty() && (Bare(program).ends_with(word) || Bare(program).ends_with(word + "exe")),
+          "the program is the first word");
+}
+
+// Creates a folder with empty files, and makes it AppFolder, program folder and working folder.
+// run.sh removes it.
+std::filesystem::path MakeApp() {
+  auto name = (std::filesystem::temp_directory_path() / "kestrivane-fuzz-XXXXXX").string();
+  Require(mkdtemp(name.data()), "a folder can be made");
+  const std::filesystem::path folder = name;
+  for (const auto* file : {"roms/game_a.zip", "Kestrivane.exe", "a.exe", "a b.exe", "sub/Run.exe",
+                           "sub dir/a", "plain", "folder.exe/x"}) {
+    std::filesystem::create_directories((folder / file).parent_path());
+    std::ofstream(folder / file).flush();
+  }
+  Module1::AppFolder = name;
+  platform::SetProgramFolder(name);
+  platform::SetWorkingFolder(name);
+  return folder;
+}
+
 }  // namespace
 
 void fuzz::Examine(std::string_view bytes) {
-  static const auto folder = MakeApp({"roms/game_a.zip"});
+  static const auto folder = MakeApp();
   CheckCodePage(bytes);
   CheckListing(platform::DecodeCodePage(bytes));
   CheckReport(bytes, folder / "error.log");
+  CheckCommand(bytes.substr(0, 256));  // each blank of a line costs a look at the disk
 }

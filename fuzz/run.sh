@@ -7,8 +7,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 seconds=${1:-60}
 build="build-sanitize"
-# The longest inputs in bytes. The checks of these fuzzers are slow for long inputs.
-declare -A longest=([command]=256 [config]=256 [output]=1024)
+# The longest inputs in bytes. The checks are slow for long inputs.
+declare -A longest=([config]=256 [output]=1024)
 # A small quarantine for freed memory makes the runs faster.
 export ASAN_OPTIONS=malloc_context_size=4:quarantine_size_mb=8
 
@@ -29,7 +29,7 @@ for kept in "$PWD"/fuzz/corpus/*/; do
     log=$build/fuzz_$name.log
     mkdir "$scratch/$name"
     if examine "$name" "$kept" -runs=0 && { ((seconds == 0)) || examine "$name" "$kept" \
-        -max_len="${longest[$name]:-4096}" -max_total_time="$seconds"; }; then
+        -max_len="${longest[$name]}" -max_total_time="$seconds"; }; then
         echo "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") executions," \
             "$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log") a second"
     else
