@@ -1,8 +1,9 @@
-// What is painted: rows, the focus, and texts that are too long for their place.
+// What transcripts can't show: how rows, edges, the focus and long texts are painted; the drives.
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTreeWidget>
 #include <algorithm>
 #include <cmath>
 
@@ -14,16 +15,13 @@
 namespace {
 
 double Luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
+  return 0.2126 * std::pow(colour.redF(), 2.2) + 0.7152 * std::pow(colour.greenF(), 2.2) +
+         0.0722 * std::pow(colour.blueF(), 2.2);
 }
 
-class Painting : public support::UiTest {};
+class Controls : public support::UiTest {};
 
-TEST_F(Painting, GamesThatAreNotAvailableHaveLessContrastButAreReadable) {
+TEST_F(Controls, GamesThatAreNotAvailableHaveLessContrastButAreReadable) {
   write("roms/a.zip", "");
   start();
   act("press Tab");  // out of the list, since the focus ring has contrast too
@@ -53,7 +51,7 @@ TEST_F(Painting, GamesThatAreNotAvailableHaveLessContrastButAreReadable) {
   }
 }
 
-TEST_F(Painting, TheFocusOfALinkIsVisible) {
+TEST_F(Controls, TheFocusOfALinkIsVisible) {
   start();
   modify("optOPT(2)", [](QWidget& window) {
     auto& link = get(window, "lblAdvOpts");
@@ -63,7 +61,7 @@ TEST_F(Painting, TheFocusOfALinkIsVisible) {
   });
 }
 
-TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
+TEST_F(Controls, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
   forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
   forms::Label label(form, "label", {0, 0, 3000, 900}, "");
   auto& widget = get(*form.clientArea()->window(), "label");
@@ -71,35 +69,22 @@ TEST_F(Painting, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
     label.setCaption(text.toStdString());
     return widget.grab().toImage();
   };
-  // The number of visible lines of text.
-  const auto linesOf = [](const QImage& image) {
-    int lines = 0;
-    bool inside = false;
-    for (int y = 0; y < image.height(); ++y) {
-      bool ink = false;
-      for (int x = 1; x < image.width(); ++x) ink |= image.pixel(x, y) != image.pixel(0, y);
-      lines += ink && !inside;
-      inside = ink;
-    }
-    return lines;
-  };
-  // All letters have the same height, so that each line is one block of pixels.
   const auto text = QStringLiteral("sea cows are near us no one crew saw ").repeated(20);
   for (const int lines : {1, 3}) {
     label.setWordWrap(lines > 1);
     widget.resize(200, widget.fontMetrics().lineSpacing() * lines + (lines > 1 ? 5 : 0));
     const auto cut = drawn(text);
-    EXPECT_EQ(linesOf(cut), lines);
-    int same = 0;
-    for (int length = 20; length < 200; ++length)
-      same += drawn(text.left(length).trimmed() + QChar(0x2026)) == cut;
-    EXPECT_GT(same, 0) << "no beginning of the text and an ellipsis";
-    EXPECT_EQ(linesOf(drawn("sea cows")), 1);
+    int shown = 20;
+    while (shown < 200 && drawn(text.left(shown).trimmed() + QChar(0x2026)) != cut) ++shown;
+    // One line is drawn smaller, at 80 percent.
+    EXPECT_NEAR(widget.fontMetrics().horizontalAdvance(text.left(shown)), lines > 1 ? 560 : 220, 50)
+        << "no beginning of the text that fills the lines";
+    EXPECT_NE(drawn(text.left(shown).trimmed()), cut) << "no ellipsis";
   }
 }
 
 // The time that the toolkit takes for a line grows with the square of its length.
-TEST_F(Painting, VeryLongLinesOfAReportAreSplit) {
+TEST_F(Controls, VeryLongLinesOfAReportAreSplit) {
   forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
   forms::TextView view(form, "view", {0, 0, 3000, 900});
   view.setText(std::string(8001, 'x') + "\n\nend");
@@ -108,33 +93,29 @@ TEST_F(Painting, VeryLongLinesOfAReportAreSplit) {
   EXPECT_EQ(lines, QStringList({QString(4000, 'x'), QString(4000, 'x'), "x", "", "end"}));
 }
 
-TEST_F(Painting, AListHasOneLineAroundItThatItsFirstRowDoesNotTouch) {
+TEST_F(Controls, AListHasOneLineAroundItThatItsFirstRowDoesNotTouch) {
   start();
   modify("optOPT(2)", [](QWidget& options) {
-    auto& first = get<QListWidget>(options, "lstInput(1)");
+    auto& list = get<QListWidget>(options, "lstInput(1)");
     get<QListWidget>(options, "lstInput(0)").setCurrentRow(0);
     const auto image = options.grab().toImage();
     const auto scale = image.devicePixelRatio();
-    // For the pixels on the way, whether they have the list's background, without repetitions.
-    const auto groundOn = [&](QPointF from, QPointF to) {
-      std::vector<bool> grounds;
-      const auto steps = static_cast<int>((to - from).manhattanLength() * scale);
-      for (int step = 0; step <= steps; ++step) {
-        const auto at =
-            (first.mapTo(&options, QPoint()) + from + (to - from) * step / steps) * scale;
-        grounds.push_back(image.pixelColor(static_cast<int>(at.x()), static_cast<int>(at.y())) ==
-                          first.palette().color(QPalette::Base));
-      }
+    // For eight pixels of the list's size: "_" is its background; repetitions are left out.
+    const auto groundsOn = [&](QPointF from, QPointF step) {
+      std::string grounds;
+      auto at = (list.mapTo(&options, QPoint()) + from) * scale;
+      for (int pixel = 0; pixel < 8 * scale; ++pixel, at += step)
+        grounds +=
+            image.pixelColor(at.toPoint()) == list.palette().color(QPalette::Base) ? '_' : '|';
       grounds.erase(std::unique(grounds.begin(), grounds.end()), grounds.end());
       return grounds;
     };
-    const double middle = first.width() / 2.0, bottom = first.height() - 4.0;
-    EXPECT_EQ(groundOn({middle, 0.5}, {middle, 3.5}), (std::vector{false, true, false}));
-    EXPECT_EQ(groundOn({-4, bottom}, {4, bottom}), (std::vector{true, false, true}));
+    EXPECT_EQ(groundsOn({list.width() / 2.0, 0}, {0, 0.5}), "|_|");
+    EXPECT_EQ(groundsOn({-4, list.height() - 4.0}, {1, 0}), "_|_");
   });
 }
 
-TEST_F(Painting, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
+TEST_F(Controls, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
   start();
   modify("optOPT(2)", [this](QWidget& options) {
     act(options, "click optTypeInputs(1)");
@@ -146,7 +127,7 @@ TEST_F(Painting, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
 }
 
 // The focus ring of an option button must not cover its caption, and has its two outer pixels.
-TEST_F(Painting, CaptionsOfOptionButtonsKeepOffTheFocusRing) {
+TEST_F(Controls, CaptionsOfOptionButtonsKeepOffTheFocusRing) {
   start();
   act("choose mLang(2)");
   modify("optOPT(2)", [](QWidget& options) {
@@ -161,13 +142,44 @@ TEST_F(Painting, CaptionsOfOptionButtonsKeepOffTheFocusRing) {
   });
 }
 
-TEST_F(Painting, AWindowLargerThanTheScreenHasItsCornerOnIt) {
+TEST_F(Controls, AWindowLargerThanTheScreenHasItsCornerOnIt) {
   forms::Form large("large", forms::Border::FixedSingle, 20000, 20000);
   large.centreOnScreen();
   EXPECT_EQ(large.clientArea()->window()->pos(), QPoint(0, 0));
   forms::Form larger("larger", forms::Border::FixedDialog, 30000, 30000);
   larger.centreOver(large);
   EXPECT_EQ(larger.clientArea()->window()->pos(), QPoint(0, 0));
+}
+
+TEST_F(Controls, DrivesMayBeEmptyButNotUnreadable) {
+  if (support::kPosix) GTEST_SKIP() << "drives are folders, which have entries";
+  start();
+  modify("optOPT(4)", [&](QWidget& window) {
+    auto& drives = get<QComboBox>(window, "Drive1");
+    for (const auto* drive : {"Y:\\", "X:\\"}) drives.setCurrentIndex(drives.findText(drive));
+    EXPECT_EQ(drives.currentText(), "Y:\\");
+    EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0), "Y:\\");
+  });
+}
+
+TEST_F(Controls, DrivesBeginAtTheInnermostOneThatContainsTheProgram) {
+  if (!support::kPosix) GTEST_SKIP() << "no environment moves the folder of a user there";
+  const auto home = qgetenv("HOME");
+  start();
+  // The folder that contains the program's, and one whose name begins like the program's.
+  for (const char end : {'/', ' '}) {
+    const auto drive = Module1::AppFolder.substr(0, Module1::AppFolder.rfind(end));
+    qputenv("HOME", drive.c_str());
+    modify("optOPT(4)", [&, contains = end == '/'](QWidget& window) {
+      auto& drives = get<QComboBox>(window, "Drive1");
+      const auto first = drives.currentText();
+      EXPECT_EQ(first == QString::fromStdString(drive), contains);
+      drives.setCurrentText(contains ? "/" : QString::fromStdString(drive));
+      EXPECT_EQ(drives.currentText() == first, !contains) << "one that can't be read is left";
+      EXPECT_EQ(get<QTreeWidget>(window, "Dir1").currentItem()->text(0) == "/", contains);
+    });
+  }
+  qputenv("HOME", home);
 }
 
 }  // namespace
