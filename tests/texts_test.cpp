@@ -6,12 +6,13 @@
 #include "base/error_boundary.h"
 #include "base/text.h"
 #include "config/config_reader.h"
+#include "config/config_writer.h"
 #include "config/writable_names.h"
+#include "core/bindings.h"
 #include "core/game_catalogue.h"
 #include "platform/code_page.h"
 #include "platform/process.h"
 #include "startup/arguments.h"
-#include "support/state_text.h"
 #include "support/temp_app.h"
 
 namespace {
@@ -32,6 +33,34 @@ std::string Unescaped(std::string_view text) {
     }
   }
   return plain;
+}
+
+// The parts of the shared state that a configuration file can set, as far as they differ from a
+// fresh start, each as "name=value ": "1.Vsync=0" is a slot of a row of Profiles, "2:name" the row
+// itself.
+std::string StateText() {
+  std::string text;
+  const auto add = [&](const std::string& name, const std::string& value) {
+    if (!value.empty() && value != "0" && value != ",,") text += name + "=" + value + " ";
+  };
+  for (std::size_t row = 1; row < Profiles.size(); ++row) {
+    const auto number = std::to_string(row);
+    if (row > 1 || !Profiles[row].Name.empty()) text += number + ":" + Profiles[row].Name + " ";
+    for (core::Slot slot = 0; slot < core::kSlotCount; ++slot)
+      if (const auto& value = Profiles[row].Slots[slot].Value; !value.empty())
+        text += number + "." + Profiles[0].Slots[slot].Name + "=" + value + " ";
+  }
+  for (std::size_t entry = 1; entry < RomPaths.size(); ++entry) {
+    add("rom" + std::to_string(entry), RomPaths[entry]);
+    add("snap" + std::to_string(entry), SnapPaths[entry]);
+    add("icon" + std::to_string(entry), IconPaths[entry]);
+  }
+  for (std::size_t row = 0; const auto& [game, plays, seconds] : PlayLog)
+    add("log" + std::to_string(row++), game + "," + plays + "," + seconds);
+  add("input", std::to_string(Profiles[1].InputMethod));
+  add("pref", std::to_string(GameListPref));
+  add("lang", std::to_string(CurrentLanguage));
+  return text;
 }
 
 class Texts : public support::TempApp {
@@ -57,7 +86,14 @@ class Texts : public support::TempApp {
     config::Adopt(config::LoadConfigFile(AppFolder));
     const std::string copy = "Config/Kestrivane.ini.bak";
     EXPECT_TRUE(!exists(copy) || read(copy) == bytes);
-    return support::StateText() + (exists(copy) ? "bak" : "");
+    return StateText() + (exists(copy) ? "bak" : "");
+  }
+  // The bytes that are written after such a file was read, without bindings that it does not set.
+  static std::string written(const std::string& text) {
+    config(text);
+    for (auto slot = core::kFirstInputSlot; slot < core::kSlotCount; ++slot)
+      if (auto& value = Profiles[1].Slots[slot].Value; value.empty()) value = core::kNoBinding;
+    return base::ReplaceIgnoringCase(platform::EncodeCodePage(config::ConfigText()), "\r\n", "|");
   }
   // Parses a listing, with "|" for each line's end. Returns the version and each game.
   static std::string games(const std::string& text) {
@@ -96,6 +132,7 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
       {"encode", encode},
       {"writable", [](auto& name) { return config::IsWritableGame(name) ? "yes" : "no"; }},
       {"config", config},
+      {"written", written},
       {"games", games},
       {"command", command},
       {"arguments", arguments}};
