@@ -18,14 +18,13 @@
 
 namespace {
 
-enum class Kind { Fails, IsShortAndThenFails, Kills };
-
 // Makes one system call fail, counted from 1; if it lasts, also later calls of the same name.
+// Without an error, the process ends at that call.
 thread_local struct Fault {
   int call = 0;
-  Kind kind = Kind::Fails;
   int error = 0;
   bool lasts = false;
+  bool isShort = false;  // the call gets half of its bytes, and the next one fails
   bool counts = false;
   int calls = 0;
   std::string name{};
@@ -34,20 +33,18 @@ thread_local struct Fault {
 bool Fails(const char* name) {
   if (!fault.counts) return false;
   const bool isNext = ++fault.calls == fault.call;
-  if (isNext && fault.kind == Kind::Kills) _exit(0);
+  if (isNext && fault.error == 0) _exit(0);
   if (isNext) fault.name = name;
   const bool isOneMore = fault.lasts && fault.calls > fault.call && fault.name == name;
   if (isNext || isOneMore) errno = fault.error;
   return isNext || isOneMore;
 }
 
-// Whether a call for `size` bytes succeeds. A short call gets half of the size, and the next call
-// fails.
+// Whether a call for `size` bytes succeeds, perhaps for half of them.
 bool Does(const char* name, std::size_t& size) {
-  if (!fault.counts || fault.calls + 1 != fault.call || size < 2 ||
-      fault.kind != Kind::IsShortAndThenFails)
+  if (!fault.counts || !fault.isShort || fault.calls + 1 != fault.call || size < 2)
     return !Fails(name);
-  fault.kind = Kind::Fails;
+  fault.isShort = false;
   fault.name = name;
   fault.calls += 1;
   fault.call += fault.lasts ? 0 : 1;
@@ -130,7 +127,8 @@ class Saving : public support::TempApp {
   // Runs a start, a change by another program, and a save, with a fault; in a child process if the
   // fault kills it. Returns the number of system calls.
   static int run(const std::string& change, std::size_t plays, const Fault& with = {}) {
-    const pid_t child = with.kind == Kind::Kills ? fork() : 0;
+    const bool kills = with.call > 0 && with.error == 0;
+    const pid_t child = kills ? fork() : 0;
     if (child != 0) return waitpid(child, nullptr, 0);
     startup::FillSharedState();
     fault = with;
@@ -144,7 +142,7 @@ class Saving : public support::TempApp {
     fault.counts = true;
     config::WriteConfigFile();
     fault.counts = false;
-    if (with.kind == Kind::Kills) _exit(0);
+    if (kills) _exit(0);
     return fault.calls;
   }
 
@@ -181,12 +179,8 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
                {"read in part", bad, "", 40},
                {"changed", few, many + "; by hand\r\n", 1},
                {"appeared", "", few, 1}};
-  const Fault kinds[] = {{0, Kind::Kills},
-                         {0, Kind::Fails, EIO, true},
-                         {0, Kind::Fails, EOPNOTSUPP, true},
-                         {0, Kind::Fails, EINTR},
-                         {0, Kind::IsShortAndThenFails, EIO},
-                         {0, Kind::IsShortAndThenFails, ENOSPC, true}};
+  const Fault kinds[] = {{0, 0},     {0, EIO, true},        {0, EOPNOTSUPP, true},
+                         {0, EINTR}, {0, EIO, false, true}, {0, ENOSPC, true, true}};
   int faults = 0;
   for (const auto& [what, old, change, plays] : cases) {
     const bool isLink = old.starts_with('>');
@@ -215,17 +209,17 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
       for (fault.call = 1; fault.call <= calls; ++fault.call, ++faults) {
         SCOPED_TRACE(std::string(what) + ", call " + std::to_string(fault.call) + ", error " +
                      std::to_string(fault.error) + (fault.lasts ? ", lasting" : "") +
-                     (fault.kind == Kind::IsShortAndThenFails ? ", short" : ""));
+                     (fault.isShort ? ", short" : ""));
         prepare();
         run(change, plays, fault);
         // Checks the file after the fault, and after another save without a fault.
         for (const bool again : {false, true}) {
           const auto now = stored();
-          const bool isAsBefore = fault.kind == Kind::Kills && now == WithoutEmptyLines(old);
+          const bool isAsBefore = fault.error == 0 && now == WithoutEmptyLines(old);
           EXPECT_TRUE(now == saved ||
                       (lost.empty() || isLink ? !exists(kFile) : isKept(lost) || isAsBefore))
               << again << now;
-          if (again || fault.kind == Kind::Kills) break;
+          if (again || fault.error == 0) break;
           const bool isTriedAgain =
               ::fault.name == "stat" || ::fault.name == "write" || ::fault.name == "sync";
           EXPECT_TRUE(now == saved || fault.lasts || !isTriedAgain) << ::fault.name << now;

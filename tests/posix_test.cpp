@@ -1,11 +1,17 @@
+// What only POSIX systems have: names in one letter case, pipes, signals, scripts.
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <fstream>
 #include <thread>
 
 #include "config/user_settings.h"
 #include "platform/file_search.h"
 #include "platform/files.h"
+#include "platform/program_start.h"
 #include "support/temp_app.h"
 
 namespace platform {
@@ -14,9 +20,9 @@ namespace {
 namespace fs = std::filesystem;
 using Module1::AppFolder;
 
-class PosixFiles : public support::TempApp {};
+class Posix : public support::TempApp {};
 
-TEST_F(PosixFiles, AreFoundInAnySpelling) {
+TEST_F(Posix, FilesAreFoundInAnySpelling) {
   for (const auto* name : {"ROMs/Éclair One.ZIP", "ROMs/two.zip", "ROMs/TWO.zip", "ROMs/three.zip",
                            "ROMs/FOUR.zip", "TWO.ZIP", "Éclair one.zip", "Three.ZIP"})
     write(name, "");
@@ -50,7 +56,7 @@ TEST_F(PosixFiles, AreFoundInAnySpelling) {
   EXPECT_TRUE(IsFile("roms\\two.zip") && !IsFile("")) << "relative to the working folder";
 }
 
-TEST_F(PosixFiles, AreNoticedWhenTheyWereJustCreatedOrDeleted) {
+TEST_F(Posix, FilesAreNoticedWhenTheyWereJustCreatedOrDeleted) {
   fs::create_directory(path("ROMs"));
   const auto name = AppFolder + "\\ROMS\\GAME.ZIP";
   const auto now = fs::file_time_type::clock::now();
@@ -68,20 +74,86 @@ TEST_F(PosixFiles, AreNoticedWhenTheyWereJustCreatedOrDeleted) {
   }
 }
 
-TEST_F(PosixFiles, APipeIsNeitherReadNorWaitedFor) {
+TEST_F(Posix, APipeIsNeitherReadNorWaitedFor) {
   mkfifo(path("pipe").c_str(), 0666);
   EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(ReadBytes(AppFolder + "\\pipe"));
   EXPECT_ANY_THROW(WriteBytes(AppFolder + "\\pipe", "x"));
 }
 
-TEST_F(PosixFiles, ALockedSettingsStoreBlocksNobodyAndIsWrittenLater) {
+TEST_F(Posix, ALockedSettingsStoreBlocksNobodyAndIsWrittenLater) {
   const fs::path lock = std::string(getenv("XDG_CONFIG_HOME")) + "/Kestrivane UI.conf.lock";
   std::ofstream(lock) << "another";
   config::SaveUserSettings();
   EXPECT_EQ(settings(), "");
   fs::remove(lock);
   while (settings().empty()) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+}
+
+TEST_F(Posix, CaptureReturnsStandardOutputAsText) {
+  writeProgram("a tool.exe",
+               "printf 'caf\\351\\r\\n'; echo lost >&2; ls; echo $#-$2; read x || echo no input");
+  EXPECT_EQ(capture("a tool.exe one \"two three\""), "café\r\na tool.exe\n2-two three\nno input\n");
+  writeProgram("quiet.exe", "echo only this >&2; exit 3");
+  write("plain.exe", "#!/bin/sh\necho x");
+  fs::create_directory(path("folder.exe"));
+  write("garbage.exe", "\x7F");
+  fs::permissions(path("garbage.exe"), fs::perms(0755));
+  for (const auto* program : {"quiet.exe", "plain.exe", "folder.exe", "garbage.exe", "none.exe"})
+    EXPECT_EQ(capture(program), "") << program;
+}
+
+TEST_F(Posix, AProgramForWindowsIsHandedToWine) {
+  write("tool.exe", "MZ");
+  writeProgram("bin/wine", "echo \"$#:$1:$2:$3\"");
+  const std::string before = getenv("PATH");
+  setenv("PATH", (path("bin").string() + ":" + before).c_str(), 1);
+  EXPECT_EQ(capture("tool.exe -a \"b c\""), "3:" + path("tool.exe").string() + ":-a:b c\r\n");
+  setenv("PATH", before.c_str(), 1);
+}
+
+// Runs the step in a child process, which ends with the step's result as its status.
+template <class Step>
+pid_t Fork(const Step& step) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  alarm(30);
+  _exit(step());
+}
+
+int StatusOf(pid_t child) {
+  int status = -1;
+  waitpid(child, &status, 0);
+  return status;
+}
+
+TEST_F(Posix, AListingEndsWithTheProgramAndAPlayDoesNot) {
+  writeProgram("hang.exe", "echo $$ > new; mv new pid; exec sleep 30");
+  prctl(PR_SET_CHILD_SUBREAPER, 1);
+  for (const bool play : {false, true}) {
+    fs::remove(path("pid"));
+    const auto us =
+        Fork([&] { return play ? run("hang") : static_cast<int>(capture("hang.exe").size()); });
+    while (!exists("pid")) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    const auto emulator = std::stoi(read("pid"));
+    EXPECT_EQ(getsid(emulator) != getsid(us), play)
+        << "closing a terminal must end the listing only";
+    kill(us, SIGTERM);
+    StatusOf(us);
+    if (play) kill(emulator, SIGTERM);
+    EXPECT_EQ(StatusOf(emulator), play ? SIGTERM : SIGKILL);
+  }
+}
+
+TEST_F(Posix, ProgramsRunWithoutStandardHandlesAndSignalsOfOutputAreIgnored) {
+  writeProgram("tool.exe", "echo out; kill -PIPE $$; echo the signal is ignored");
+  const auto us = Fork([&] {
+    for (const int standard : {0, 1, 2}) close(standard);
+    PrepareProgram();
+    for (const int signal : {SIGPIPE, SIGXFSZ}) raise(signal);
+    return capture("tool.exe") == "out\r\n" ? 0 : 1;
+  });
+  EXPECT_EQ(StatusOf(us), 0);
 }
 
 }  // namespace
