@@ -51,20 +51,39 @@ hold() { # keys
     done
 }
 
+# The key that takes back another one.
+declare -A back=([Left]=Right [Right]=Left [Up]=Down [Down]=Up [Tab]=shift+Tab [shift+Tab]=Tab)
+
 is_spoken() { tail -n "+$((heard + 1))" "$SPOKEN" | grep -qF -- "$1"; }
 
+# Waits for words, and prints the first one that is not spoken.
+await_words() { # seconds for each, words
+    local word
+    for word in "${@:2}"; do
+        [[ $word == !* ]] || wait_until "$1" is_spoken "$word" || { echo "$word" && return; }
+    done
+}
+
 # Presses the keys, if there are some, and waits until the words are spoken and a moment longer for the
-# rest of the sentence. Prints all that was spoken, and the words that were not.
+# rest of the sentence. On a busy machine the reader is late and leaves out what has changed meanwhile.
+# Then the last key is taken back and pressed again, as a user does who did not understand. Prints all
+# that was spoken, and words that were not.
 hear() { # keys or -, words separated by "|"; a word with "!" before it must not be spoken
-    local patience=90 said word words
+    local key=${1##* } patience=25 tries=1 again= said word words
+    [[ $1 != - ]] || patience=90
+    [[ -z ${back[$key]:-} ]] || patience=8 tries=4
     if [[ $1 != - ]]; then
-        patience=25
         heard=$(wc -l <"$SPOKEN")
         hold "$1"
     fi
     IFS='|' read -ra words <<<"$2"
-    for word in "${words[@]}"; do
-        [[ $word == !* ]] || wait_until $patience is_spoken "$word" || missed "$1" "$word"
+    while word=$(await_words $patience "${words[@]}") && [[ -n $word ]]; do
+        ((--tries > 0)) || { missed "$1" "$word" && break; }
+        again=" (again)"
+        hold "${back[$key]}"
+        sleep 2
+        heard=$(wc -l <"$SPOKEN")
+        hold "$key"
     done
     sleep 0.7
     for word in "${words[@]}"; do
@@ -72,7 +91,7 @@ hear() { # keys or -, words separated by "|"; a word with "!" before it must not
     done
     said=$(tail -n "+$((heard + 1))" "$SPOKEN")
     heard=$((heard + $(wc -l <<<"$said")))
-    printf '  %-12s %s\n' "$1" "${said//$'\n'/|}"
+    printf '  %-12s %s\n' "$1$again" "${said//$'\n'/|}"
 }
 
 missed() {

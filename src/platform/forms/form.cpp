@@ -131,15 +131,15 @@ class FormWindow : public QMainWindow {
     return true;
   }
 
-  // Announces the focus again a moment after the window has become active. Some screen readers
-  // handle older news of the focus in another window after that, and take the focus to be there.
-  // They ignore what they know already.
+  // Announces the focus again a moment after the window has become active, and once more for a
+  // reader that is late. Some screen readers handle older news of the focus in another window after
+  // that, and take the focus to be there. They ignore what they know already.
   void announceFocusLater() {
-    constexpr int kMilliseconds = 700;
     const auto announce = [this] {
       if (isActiveWindow() && !QApplication::activePopupWidget()) AnnounceFocusOf(*this);
     };
-    if (QAccessible::isActive()) QTimer::singleShot(kMilliseconds, this, announce);
+    if (!QAccessible::isActive()) return;
+    for (const int milliseconds : {700, 3000}) QTimer::singleShot(milliseconds, this, announce);
   }
 
   Form& form_;
