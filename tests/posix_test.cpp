@@ -74,6 +74,18 @@ TEST_F(Posix, FilesAreNoticedWhenTheyWereJustCreatedOrDeleted) {
   }
 }
 
+TEST_F(Posix, FilesAreListedWithoutAskingEachBecauseAVolumeMayNotAnswer) {
+  write("listed/a.zip", "");
+  fs::create_directory(path("listed/folder"));
+  fs::permissions(path("listed"), fs::perms(0444));  // no entry can be asked
+  {
+    const support::Unprivileged user;
+    EXPECT_EQ(SubfolderNames(AppFolder + "\\listed"), std::vector<std::string>({"folder"}));
+    EXPECT_EQ(FileNames(AppFolder + "\\listed"), std::vector<std::string>({"a.zip"}));
+  }
+  fs::permissions(path("listed"), fs::perms(0777));
+}
+
 TEST_F(Posix, APipeIsNeitherReadNorWaitedFor) {
   mkfifo(path("pipe").c_str(), 0666);
   EXPECT_FALSE(IsFile(AppFolder + "\\pipe"));

@@ -17,18 +17,24 @@
 namespace platform {
 namespace {
 
-// The names of the entries in a folder that `wanted` accepts. Links are followed.
-std::vector<std::string> NamesIn(const std::string& folder, bool (*wanted)(const struct stat&)) {
+// The type of a folder's entry, of a link that of its target. Other entries are not asked
+// themselves: one may be a volume whose server is off, and then the call would not return.
+unsigned char TypeOf(DIR& folder, const dirent& entry) {
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type;
+  struct stat status {};
+  if (fstatat(dirfd(&folder), entry.d_name, &status, 0) != 0) return DT_UNKNOWN;
+  return IFTODT(status.st_mode);
+}
+
+// The names of the entries in a folder that have this type.
+std::vector<std::string> NamesIn(const std::string& folder, unsigned char type) {
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
   Check(stream != nullptr);
   std::vector<std::string> names;
   errno = 0;
   while (const dirent* entry = readdir(stream.get())) {
     const std::string_view name = entry->d_name;
-    struct stat status {};
-    if (name == "." || name == "..") continue;
-    if (fstatat(dirfd(stream.get()), entry->d_name, &status, 0) == 0 && wanted(status))
-      names.emplace_back(name);
+    if (name != "." && name != ".." && TypeOf(*stream, *entry) == type) names.emplace_back(name);
     errno = 0;
   }
   Check(errno == 0);
@@ -64,13 +70,11 @@ void MakeFolder(std::string_view path) {
 void DeleteFile(std::string_view path) { Check(unlink(FindPath(path).path.c_str()) == 0); }
 
 std::vector<std::string> SubfolderNames(std::string_view folder) {
-  return NamesIn(FindPath(folder).path,
-                 [](const struct stat& status) { return S_ISDIR(status.st_mode); });
+  return NamesIn(FindPath(folder).path, DT_DIR);
 }
 
 std::vector<std::string> FileNames(std::string_view folder) {
-  return NamesIn(FindPath(folder).path,
-                 [](const struct stat& status) { return S_ISREG(status.st_mode); });
+  return NamesIn(FindPath(folder).path, DT_REG);
 }
 
 }  // namespace platform
