@@ -51,8 +51,9 @@ hold() { # keys
     done
 }
 
-# The key that takes back another one.
-declare -A back=([Left]=Right [Right]=Left [Up]=Down [Down]=Up [Tab]=shift+Tab [shift+Tab]=Tab)
+# The keys that lead away and back to where a key has led. In menus, the one before may open a submenu.
+declare -A retry=([Left]="Right Left" [Right]="Right Left" [Up]="Down Up" [Down]="Up Down"
+    [Tab]="shift+Tab Tab" [shift+Tab]="Tab shift+Tab")
 
 is_spoken() { tail -n "+$((heard + 1))" "$SPOKEN" | grep -qF -- "$1"; }
 
@@ -66,12 +67,12 @@ await_words() { # seconds for each, words
 
 # Presses the keys, if there are some, and waits until the words are spoken and a moment longer for the
 # rest of the sentence. On a busy machine the reader is late and leaves out what has changed meanwhile.
-# Then the last key is taken back and pressed again, as a user does who did not understand. Prints all
-# that was spoken, and words that were not.
+# Then the focus is moved away and back, as a user does who did not understand. Prints all that was
+# spoken, and words that were not.
 hear() { # keys or -, words separated by "|"; a word with "!" before it must not be spoken
     local key=${1##* } patience=25 tries=1 again= said word words
     [[ $1 != - ]] || patience=90
-    [[ -z ${back[$key]:-} ]] || patience=8 tries=4
+    [[ -z ${retry[$key]:-} ]] || patience=8 tries=4
     if [[ $1 != - ]]; then
         heard=$(wc -l <"$SPOKEN")
         hold "$1"
@@ -80,10 +81,10 @@ hear() { # keys or -, words separated by "|"; a word with "!" before it must not
     while word=$(await_words $patience "${words[@]}") && [[ -n $word ]]; do
         ((--tries > 0)) || { missed "$1" "$word" && break; }
         again=" (again)"
-        hold "${back[$key]}"
+        hold "${retry[$key]% *}"
         sleep 2
         heard=$(wc -l <"$SPOKEN")
-        hold "$key"
+        hold "${retry[$key]#* }"
     done
     sleep 0.7
     for word in "${words[@]}"; do
