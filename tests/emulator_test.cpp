@@ -1,7 +1,6 @@
-// The emulator's listing at the start, and its plays: command line, figures, report.
+// The emulator's listing at the start, its command line and its report.
 #include "launch/error_log.h"
 #include "launch/play_launch.h"
-#include "launch/play_log.h"
 #include "platform/files.h"
 #include "support/fake_clock.h"
 #include "support/temp_app.h"
@@ -11,18 +10,7 @@ namespace {
 
 using namespace Module1;
 
-class Emulator : public support::TempApp {
- protected:
-  void countPlay(const std::string& game, int seconds) {
-    LaunchRequest.RomName = game;
-    UpdatePlayLog(clock.now - std::chrono::seconds(seconds));
-  }
-  static std::string row(std::size_t row) {
-    return PlayLog[row].GameId + "," + PlayLog[row].PlayCount + "," + PlayLog[row].PlaySeconds;
-  }
-
-  support::FakeClock clock;
-};
+class Emulator : public support::TempApp {};
 
 TEST_F(Emulator, CopesWithEachFaultOfTheEmulator) {
   const std::tuple<const char*, const char*, std::size_t> rows[] = {
@@ -80,26 +68,6 @@ TEST_F(Emulator, CommandLineNamesTheGlobalInputSystem) {
     BuildLaunchRequest({"Title", "game_a", true, 2});
     EXPECT_EQ(LaunchRequest.CommandLine, R"(Kestrivane "C:\my roms\game_a.zip")" + option);
   }
-}
-
-TEST_F(Emulator, PlaysAddUpInTheGamesRowUnlessItsFiguresAreInvalid) {
-  const struct {
-    const char *game, *plays, *seconds, *after;
-  } rows[] = {{"g", "1", "70", "g,2,100,,"},    {"g", "1", "", "g,1,,,"},
-              {"g", " 1 ", "5", "g,2,35,,"},    {"g", "2147483647", "5", "g,2147483647,5,,"},
-              {"G", "1", "30", "g,1,30G,1,30"}, {"a;b", "1", "30", "g,1,30,,"}};
-  for (const auto& [game, plays, seconds, after] : rows) {
-    PlayLog.fill({});
-    PlayLog[0] = {"g", plays, seconds};
-    countPlay(game, 30);
-    EXPECT_EQ(row(0) + row(1), after) << game;
-  }
-  PlayLog.fill({"other", "1", "30"});
-  countPlay("new", 30);
-  EXPECT_EQ(row(0) + row(40), "other,1,30other,1,30") << "a full table takes no more";
-  PlayLog[0] = PlayLog[40] = {"g", "1", "30"};
-  countPlay("g", 30);
-  EXPECT_EQ(row(0) + row(39) + row(40), "g,2,60other,1,30g,2,60");
 }
 
 TEST_F(Emulator, ErrorLogOfAnyLengthIsReadEvenIfItCantBeDeleted) {

@@ -10,9 +10,11 @@
 #include "config/writable_names.h"
 #include "core/bindings.h"
 #include "core/game_catalogue.h"
+#include "launch/play_log.h"
 #include "platform/code_page.h"
 #include "platform/process.h"
 #include "startup/arguments.h"
+#include "support/fake_clock.h"
 #include "support/temp_app.h"
 
 namespace {
@@ -95,6 +97,14 @@ class Texts : public support::TempApp {
       if (auto& value = Profiles[1].Slots[slot].Value; value.empty()) value = core::kNoBinding;
     return base::ReplaceIgnoringCase(platform::EncodeCodePage(config::ConfigText()), "\r\n", "|");
   }
+  // Counts a play of 30 seconds. The text is the game and the play log before.
+  static std::string play(const std::string& text) {
+    config(";GameTimeLog=" + text.substr(text.find(':') + 1) + "|");
+    LaunchRequest.RomName = text.substr(0, text.find(':'));
+    const support::FakeClock clock;
+    launch::UpdatePlayLog(clock.now - std::chrono::seconds(30));
+    return StateText();
+  }
   // Parses a listing, with "|" for each line's end. Returns the version and each game.
   static std::string games(const std::string& text) {
     core::GameListing listing;
@@ -133,6 +143,7 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
       {"writable", [](auto& name) { return config::IsWritableGame(name) ? "yes" : "no"; }},
       {"config", config},
       {"written", written},
+      {"play", play},
       {"games", games},
       {"command", command},
       {"arguments", arguments}};
@@ -152,8 +163,11 @@ TEST_F(Texts, BecomeWhatTheTableSays) {
 }
 
 TEST_F(Texts, OfTheConfigurationAreReadUpToTheLimitsOfLinesAndPlays) {
-  std::string log = ";GameTimeLog=";
-  for (int row = 0; row < 41; ++row) log += (row ? "*g" : "g") + std::to_string(row) + ",1,30";
+  std::string plays = "g0,1,30";
+  for (int row = 1; row < 41; ++row) plays += "*g" + std::to_string(row) + ",1,30";
+  const auto log = ";GameTimeLog=" + plays;
+  EXPECT_TRUE(play("new:" + plays).ends_with("log40=g40,1,30 ")) << "no row is free";
+  EXPECT_TRUE(play("g40:" + plays).ends_with("log39=g39,1,30 log40=g40,2,60 "));
   EXPECT_TRUE(config(log + "|").ends_with("log40=g40,1,30 bak"));
   EXPECT_TRUE(config(log + "*g41,1,30|Vsync = 0|").ends_with("log40=g40,1,30 "));
   std::string lines;
