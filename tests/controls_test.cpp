@@ -23,6 +23,11 @@ double Luminance(const QColor& colour) {
          0.0722 * std::pow(colour.blueF(), 2.2);
 }
 
+double Contrast(const QColor& one, const QColor& other) {
+  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
+  return (light + 0.05) / (dark + 0.05);
+}
+
 class Controls : public support::UiTest {
  protected:
   // Selects a game and returns the colours of its picture and icon.
@@ -42,13 +47,10 @@ TEST_F(Controls, GamesThatAreNotAvailableHaveLessContrastButAreReadable) {
   const auto contrastOf = [&](int row, QPalette::ColorRole background) {
     const auto place = list.visualItemRect(list.item(row)).adjusted(3, 2, -3, -2);
     const auto image = list.viewport()->grab(place).toImage();
-    const auto behind = Luminance(list.palette().color(background));
     double most = 1;
     for (int x = 0; x < image.width(); ++x)
-      for (int y = 0; y < image.height(); ++y) {
-        const auto [dark, light] = std::minmax({Luminance(image.pixelColor(x, y)), behind});
-        most = std::max(most, (light + 0.05) / (dark + 0.05));
-      }
+      for (int y = 0; y < image.height(); ++y)
+        most = std::max(most, Contrast(image.pixelColor(x, y), list.palette().color(background)));
     return most;
   };
   for (const auto& desktop : {QPalette(QColor(240, 240, 240)), QPalette(QColor(45, 45, 45))}) {
@@ -73,6 +75,21 @@ TEST_F(Controls, TheFocusOfALinkIsVisible) {
   });
 }
 
+TEST_F(Controls, IndicatorsHaveAVisibleEdgeAndThatOfAnOptionButtonAMargin) {
+  start();
+  // Where the edge begins, in pixels from the left.
+  const auto edgeOf = [](QWidget& window, const char* name) {
+    const auto image = get(window, name).grab().toImage();
+    int x = 0;
+    while (x < image.width() &&
+           Contrast(image.pixelColor(x, image.height() / 2), image.pixelColor(0, 0)) < 3)
+      ++x;
+    return static_cast<int>(x / image.devicePixelRatio());
+  };
+  EXPECT_EQ(edgeOf(window(), "optGames(1)"), 2);
+  modify("optOPT(1)", [&](QWidget& options) { EXPECT_EQ(edgeOf(options, "chkVsync"), 0); });
+}
+
 TEST_F(Controls, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
   forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
   forms::Label label(form, "label", {0, 0, 3000, 900}, "");
@@ -92,6 +109,20 @@ TEST_F(Controls, TextsThatDoNotFitAreWrappedAndEndInAnEllipsis) {
     EXPECT_NEAR(widget.fontMetrics().horizontalAdvance(text.left(shown)), lines > 1 ? 560 : 220, 50)
         << "no beginning of the text that fills the lines";
     EXPECT_NE(drawn(text.left(shown).trimmed()), cut) << "no ellipsis";
+  }
+}
+
+TEST_F(Controls, PartsOfALabelAreSpreadOverItsWidth) {
+  forms::Form form("Test", forms::Border::FixedDialog, 6000, 6000);
+  forms::Label label(form, "label", {0, 0, 3000, 300}, {}, {}, forms::Align::Spread);
+  for (const std::string text : {"i   w", "i   w   i"}) {
+    label.setCaption(text);
+    for (const int x : {0, 95, 190}) {
+      const auto part = get(*form.clientArea()->window(), "label").grab({x, 0, 10, 20}).toImage();
+      auto blank = part;
+      blank.fill(part.pixel(0, 0));
+      EXPECT_EQ(part == blank, x == 95 && text.size() == 5) << text << x;
+    }
   }
 }
 
@@ -152,6 +183,21 @@ TEST_F(Controls, CaptionsOfOptionButtonsKeepOffTheFocusRing) {
       EXPECT_EQ(image, background) << qPrintable(button->text());
     }
   });
+}
+
+TEST_F(Controls, NothingIsPaintedWhileNothingChanges) {
+  start();
+  QTest::qWait(50);
+  struct : QObject {
+    int paints = 0;
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+      paints += event->type() == QEvent::Paint;
+      return false;
+    }
+  } counter;
+  qApp->installEventFilter(&counter);
+  QTest::qWait(50);
+  EXPECT_EQ(counter.paints, 0);
 }
 
 TEST_F(Controls, AWindowLargerThanTheScreenHasItsCornerOnIt) {

@@ -113,6 +113,7 @@ TEST_F(Posix, CaptureReturnsStandardOutputAsText) {
   fs::permissions(path("garbage.exe"), fs::perms(0755));
   for (const auto* program : {"quiet.exe", "plain.exe", "folder.exe", "garbage.exe", "none.exe"})
     EXPECT_EQ(capture(program), "") << program;
+  EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "ended processes are left";
 }
 
 TEST_F(Posix, AProgramForWindowsIsHandedToWine) {
@@ -157,11 +158,12 @@ TEST_F(Posix, AListingEndsWithTheProgramAndAPlayDoesNot) {
   }
 }
 
-TEST_F(Posix, ProgramsRunWithoutStandardHandlesAndSignalsOfOutputAreIgnored) {
-  writeProgram("tool.exe", "echo out; kill -PIPE $$; echo the signal is ignored");
+TEST_F(Posix, ListingHasTheFirstEnvironmentAndNeedsNoHandlesAndSignalsAreIgnored) {
+  writeProgram("tool.exe", "echo out$LATER; kill -PIPE $$; echo the signal is ignored");
   const auto us = Fork([&] {
     for (const int standard : {0, 1, 2}) close(standard);
     PrepareProgram();
+    setenv("LATER", "; the environment was changed", 1);
     for (const int signal : {SIGPIPE, SIGXFSZ}) raise(signal);
     return capture("tool.exe") == "out\r\n" ? 0 : 1;
   });

@@ -24,6 +24,25 @@ QAccessibleInterface& Accessible(const QWidget& control) {
   return *QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
 }
 
+// The name of a control or menu item; of a row, that of its list with the row's number.
+QString ObjectOf(QAccessibleInterface* found) {
+  if (const auto* object = found->object()) return object->objectName();
+  auto* parent = found->parent();
+  return QString("%1[%2]").arg(ObjectOf(parent)).arg(parent->indexOfChild(found));
+}
+
+QString announcedFocus;
+
+// Of a drop-down, the toolkit announces the control or the row.
+bool IsFocusAnnounced(const QWidget& window) {
+  const auto* focus = window.focusWidget();
+  if (announcedFocus.isEmpty() || (!focus && window.isModal())) return true;
+  auto& control = Accessible(focus ? *focus : window);
+  auto* row = control.focusChild();
+  return announcedFocus == ObjectOf(row ? row : &control) ||
+         (control.role() == QAccessible::ComboBox && announcedFocus == focus->objectName());
+}
+
 // A row with its description for assistive technology. An empty row has its name in brackets.
 QString RowText(const QListWidget& list, int row) {
   const auto& accessible = *Accessible(list).child(row);
@@ -84,6 +103,9 @@ QString ColoursOf(const QWidget& control) {
   for (const auto role : {control.foregroundRole(), control.backgroundRole()})
     if (control.palette().isBrushSet(QPalette::Active, role))
       colours << control.palette().color(role).name();
+  if (control.palette().isBrushSet(QPalette::Active, control.backgroundRole()) &&
+      !control.autoFillBackground() && !qobject_cast<const QAbstractScrollArea*>(&control))
+    colours << "NOT FILLED";
   return colours.join(' ');
 }
 
@@ -143,15 +165,18 @@ QString LooksOf(const QWidget& control) {
   if (font.italic()) text += " italic";
   if (font.underline()) text += " underlined";
   if (accessible.state().readOnly) text += " read only";
-  if (const auto* button = qobject_cast<const QPushButton*>(&control);
-      button && button->isDefault())
-    text += " default";
+  if (accessible.state().defaultButton) text += " default";
   const auto description = accessible.text(QAccessible::Description);
   if (!description.isEmpty() && description != control.toolTip())
     text += " described " + Quoted(description);
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
-  if (button && !button->shortcut().isEmpty())
-    text += " key " + accessible.text(QAccessible::Accelerator);
+  if (button && button->text().isEmpty() && button->icon().isNull()) text += " NO PICTURE";
+  const auto key = accessible.text(QAccessible::Accelerator);
+  if (!key.isEmpty()) text += " key " + key;
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(&control);
+  if (area && area->verticalScrollBarPolicy() != Qt::ScrollBarAsNeeded)
+    text += area->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn ? " with scroll bar"
+                                                                     : " without scroll bar";
   if (auto* value = accessible.valueInterface())
     text += " from " + value->minimumValue().toString() + " to " + value->maximumValue().toString();
   if (auto* shown = accessible.textInterface();
@@ -189,7 +214,11 @@ QString ColourOf(const QWidget& picture) {
   static const char* const names[] = {"red", "yellow", "green", "cyan", "blue", "magenta"};
   const auto image = const_cast<QWidget&>(picture).grab().toImage();
   const auto pixel = image.pixelColor(image.rect().center());
-  return pixel.saturation() < 240 ? "drawn" : names[(pixel.hue() + 30) / 60 % 6];
+  if (pixel.saturation() >= 240) return names[(pixel.hue() + 30) / 60 % 6];
+  const auto inside = image.copy(image.rect().adjusted(3, 3, -3, -3));
+  auto blank = inside;
+  blank.fill(pixel);
+  return inside == blank ? "blank" : "drawn";
 }
 
 QList<Snapshot> SnapshotsOf(const QWidget& window) {
@@ -211,19 +240,28 @@ QList<Snapshot> SnapshotsOf(const QWidget& window) {
   add("Ground", form ? ColoursOf(*form->centralWidget()) : "", {}, "");
   const auto* focus = window.focusWidget();
   add("Focus", focus && isOurs(*focus) ? focus->objectName() : "", {}, "at first");
+  add("Announced", IsFocusAnnounced(window) ? "" : announcedFocus, {}, "");
   const auto* popup = QApplication::activePopupWidget();
   const auto* menu = qobject_cast<const QMenu*>(popup);
   const auto name = menu    ? menu->menuAction()->objectName()
                     : popup ? popup->parentWidget()->objectName()
                             : "";
-  add("Menu", name.isEmpty() ? "" : name + " is open", {}, "");
+  const bool coversBox = popup && !menu &&
+                         popup->geometry().contains(popup->parentWidget()->mapToGlobal(
+                             popup->parentWidget()->rect().center()));
+  add("Menu", name.isEmpty() ? "" : name + (coversBox ? " is open OVER ITS BOX" : " is open"), {},
+      "");
   QStringList order;
   for (auto* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
     if (next->isVisible() && next->focusPolicy() & Qt::TabFocus) order << next->objectName();
   add("Tab", "", {}, order.join(' '));
   for (const auto* item : window.findChildren<QAction*>())
     if (isOurs(*item))
-      add(item->objectName(), item->isChecked() ? "checked" : "", {}, Quoted(item->text()));
+      add(item->objectName(),
+          item->isChecked()   ? "checked"
+          : item->isVisible() ? ""
+                              : "hidden",
+          {}, item->isSeparator() ? "separator" : Quoted(item->text()));
   for (const auto* control : window.findChildren<QWidget*>())
     if (isOurs(*control) && control->window() == &window)
       add(control->objectName(), StateOf(*control), RowsOf(*control), LooksOf(*control));
@@ -231,3 +269,16 @@ QList<Snapshot> SnapshotsOf(const QWidget& window) {
 }
 
 }  // namespace support
+
+#ifndef Q_OS_WIN
+// Replace the toolkit's functions, which drop all announcements where no screen reader can run. A
+// toolkit that is linked into the program, as for Windows, does not let itself be replaced.
+bool QAccessible::isActive() { return true; }
+
+void QAccessible::updateAccessibility(QAccessibleEvent* event) {
+  auto* found = event->accessibleInterface();
+  if (!found || event->type() != Focus || found->role() == Window) return;
+  support::announcedFocus = support::ObjectOf(found);
+  if (!found->object()) support::announcedRows << uniqueId(found);
+}
+#endif

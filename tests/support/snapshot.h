@@ -1,6 +1,8 @@
 // What a window shows and reports to assistive technology, as text.
 #pragma once
 
+#include <QAccessible>
+#include <QSet>
 #include <QStringList>
 #include <QWidget>
 
@@ -21,6 +23,9 @@ QString Whole(const Snapshot& control);
 QString Plain(QString text);
 
 QList<Snapshot> SnapshotsOf(const QWidget& window);
+
+// The rows that were announced to assistive technology.
+inline QSet<QAccessible::Id> announcedRows;
 
 // The name of a picture's colour as it is painted, or "drawn" if that is not one of six plain
 // colours.

@@ -121,7 +121,11 @@ void Transcript::runUntilClosed(QWidget* opened) {
     run(steps_.takeFirst(), opened);
     if (const auto pause = std::exchange(pause_, 0); pause > 0)
       out(QString("the in-game window stays for %1 seconds").arg(pause));
-    if (steps_.isEmpty()) lookAtAll(opened ? *opened : window());
+    if (!steps_.isEmpty()) continue;
+    auto& shown = opened ? *opened : window();
+    waitUntilActive(shown);
+    QApplication::processEvents();  // rows are announced after their list
+    lookAtAll(shown);
   }
 }
 

@@ -20,6 +20,7 @@
 #include "base/text.h"
 #include "platform/code_page.h"
 #include "platform/forms/application.h"
+#include "support/snapshot.h"
 
 namespace support {
 namespace {
@@ -65,6 +66,9 @@ UiTest::UiTest() {
 }
 
 UiTest::~UiTest() {
+  form.reset();
+  for (const auto row : std::exchange(announcedRows, {}))
+    EXPECT_FALSE(QAccessible::accessibleInterface(row)) << "a row is left of a list that is gone";
   QDesktopServices::unsetUrlHandler("https");
   forms::EndProgram() = [](int status) { std::_Exit(status); };
 }
@@ -132,10 +136,13 @@ void UiTest::clickFast(QPoint place, int clicks) {
   QTest::lastMouseTimestamp += 500;
 }
 
-QString UiTest::act(QWidget& window, const QString& step) {
+void UiTest::waitUntilActive(QWidget& window) {
   EXPECT_TRUE(!window.isVisible() || QApplication::activeWindow() == &window ||
-              QTest::qWaitForWindowActive(&window))
-      << qPrintable(step);
+              QTest::qWaitForWindowActive(&window));
+}
+
+QString UiTest::act(QWidget& window, const QString& step) {
+  waitUntilActive(window);
   const auto verb = step.section(' ', 0, 0), rest = step.section(' ', 1);
   const auto words = rest.split(" in ");
   const auto& what = words[0];

@@ -42,6 +42,7 @@ class UiTest : public TempApp {
   QString act(const QString& step) { return act(window(), step); }
   // Runs `action`, and `step` in the modal window that the action opens. False if none opens.
   bool whenModal(const std::function<void(QWidget&)>& step, const std::function<void()>& action);
+  static void waitUntilActive(QWidget& window);
   // Runs the step in a page of the options of all games.
   void modify(const char* page, const std::function<void(QWidget&)>& step);
 
