@@ -32,8 +32,8 @@ std::filesystem::path ExecutablePath() {
 #else
   std::error_code error;
   auto path = std::filesystem::read_symlink("/proc/self/exe", error);
-  Check(error);
-  return path;
+  // Without /proc, the working folder counts as the program's own.
+  return error ? std::filesystem::current_path(error) / "." : path;
 #endif
 }
 
