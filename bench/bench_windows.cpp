@@ -56,7 +56,7 @@ void FillPlainList(benchmark::State& state) {
 }
 BENCHMARK(FillPlainList)->Name("RefreshGameList/plain list");
 
-std::string WithSnapshot() {
+std::string NewPictureFolder() {
   const auto folder = bench::NewFolder();
   QImage picture(1920, 1080, QImage::Format_RGB32);
   QPainter painter(&picture);
@@ -73,9 +73,9 @@ std::string WithSnapshot() {
 }
 
 void SelectGame(benchmark::State& state) {
-  static const auto folder = WithSnapshot();
+  static const auto folder = NewPictureFolder();
   MainWindow form;
-  Module1::GameCatalog.resize(3);
+  Module1::GameCatalog.resize(2 + core::kSpareGameRows);
   Module1::SnapPaths[0] = Module1::IconPaths[0] = folder;
   form.RefreshGameList();
   auto* list = qobject_cast<QListWidget*>(Child("lstGames"));
@@ -86,10 +86,10 @@ BENCHMARK(SelectGame)->Name("Selection step");
 
 void DecodeAtBoxSize(benchmark::State& state) {
   static const auto file =
-      QString::fromStdString(WithSnapshot() + "/" + bench::GameName(0) + ".jpg");
+      QString::fromStdString(NewPictureFolder() + "/" + bench::GameName(0) + ".jpg");
   for (auto _ : state) {
     QImageReader reader(file, "jpeg");
-    reader.setScaledSize(QSize(394, 344));
+    reader.setScaledSize(QSize(394, 344));  // imgGames in pixels
     benchmark::DoNotOptimize(QPixmap::fromImage(reader.read()));
   }
 }

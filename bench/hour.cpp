@@ -1,5 +1,5 @@
-// Measures the front-end's memory and processor time over an hour's play, with a clock that does
-// not wait. using.sh measures real seconds.
+// Measures the front-end's memory and processor time from the second minute to the end of an
+// hour's play, with a clock that does not wait. using.sh measures real seconds.
 #include <sys/resource.h>
 
 #include <QApplication>
