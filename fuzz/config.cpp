@@ -1,5 +1,6 @@
-// The configuration file: after any bytes were read, what is written gives the same text again.
-// In between, a game of any name is played. The first line is a value of an input, too.
+// Reads any bytes as the configuration file and writes it. Reading that text and writing again must
+// give the same text, but for cleared bindings. The first line of the bytes is also the name of a
+// game whose play is counted before the first write, and the binding of an input of the emulator.
 #include <algorithm>
 
 #include "base/error_boundary.h"
@@ -54,7 +55,7 @@ void CheckBinding(std::string_view value) {
 
 config::Configuration Start() {
   auto start = config::Defaults(Module1::AppFolder);
-  // Only a few inputs have default bindings, which keeps the written text short.
+  // Only the first four inputs keep their default bindings, so that the written text is short.
   for (auto slot = core::kFirstInputSlot + 4; slot < core::kSlotCount; ++slot)
     start.Profiles[0].Slots[slot].Value = core::kNoBinding;
   return start;
@@ -85,7 +86,7 @@ void fuzz::Examine(std::string_view bytes) {
   CheckBinding(game);
   const bool isCounted = config::IsWritableGame(game);
   if (isCounted) Module1::PlayLog[0] = {game, "1", "30"};
-  // A header in the input can give a row a name whose written header is read as another name.
+  // Odd headers among the bytes give names whose written header is read as another name.
   for (auto row = profiles.begin() + 2; row != profiles.end(); ++row)
     if (row->Name == "Global" || row->Name.starts_with("]") ||
         row->Name.find(" ]") != row->Name.npos)
@@ -100,6 +101,8 @@ void fuzz::Examine(std::string_view bytes) {
   Require(!isCounted || Module1::PlayLog[0].GameId == game, "a play that was counted is kept");
   Require(profiles.size() == rows, "each row is kept");
   const auto rewritten = Written();
+  // A cleared binding is not written, so the next read leaves it empty, and then the default
+  // counts.
   Require(isCleared == (rewritten != written), "only a cleared binding changes the file");
   if (!isCleared) return;
   Read(rewritten);

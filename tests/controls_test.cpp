@@ -131,7 +131,8 @@ TEST_F(Controls, AListHasOneLineAroundItThatItsFirstRowDoesNotTouch) {
     get<QListWidget>(options, "lstInput(0)").setCurrentRow(0);
     const auto image = options.grab().toImage();
     const auto scale = image.devicePixelRatio();
-    // For eight pixels of the list's size: "_" is its background; repetitions are left out.
+    // Eight samples for each pixel of the scale, from a place in the list on: "_" is the list's
+    // background, "|" anything else; repetitions are left out.
     const auto groundsOn = [&](QPointF from, QPointF step) {
       std::string grounds;
       auto at = (list.mapTo(&options, QPoint()) + from) * scale;
@@ -157,7 +158,8 @@ TEST_F(Controls, AListThatNeedsNoScrollBarAnyMoreKeepsNothingOfIt) {
   });
 }
 
-// The focus ring of an option button must not cover its caption, and has its two outer pixels.
+// The focus ring takes the two outermost pixels of an option button. The caption must not reach
+// those at the right.
 TEST_F(Controls, CaptionsOfOptionButtonsKeepOffTheFocusRing) {
   start();
   act("choose mLang(2)");
@@ -209,10 +211,12 @@ TEST_F(Controls, DrivesMayBeEmptyButNotUnreadable) {
 }
 
 TEST_F(Controls, DrivesBeginAtTheInnermostOneThatContainsTheProgram) {
-  if (!support::kPosix) GTEST_SKIP() << "no environment moves the folder of a user there";
+  if (!support::kPosix)
+    GTEST_SKIP() << "on Windows the user's folder does not follow the environment";
   const auto home = qgetenv("HOME");
   start();
-  // The folder that contains the program's, and one whose name begins like the program's.
+  // The folder that contains the program's; and the beginning of the program's, up to the blank in
+  // its name, which is no folder.
   for (const char end : {'/', ' '}) {
     const auto drive = Module1::AppFolder.substr(0, Module1::AppFolder.rfind(end));
     qputenv("HOME", drive.c_str());

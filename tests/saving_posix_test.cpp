@@ -25,13 +25,13 @@ thread_local struct Fault {
   int error = 0;
   bool lasts = false;
   bool isShort = false;  // the call gets half of its bytes, and the next one fails
-  bool counts = false;
+  bool isCounting = false;
   int calls = 0;
   std::string name{};
 } fault;
 
 bool Fails(const char* name) {
-  if (!fault.counts) return false;
+  if (!fault.isCounting) return false;
   const bool isNext = ++fault.calls == fault.call;
   if (isNext && fault.error == 0) _exit(0);
   if (isNext) fault.name = name;
@@ -42,7 +42,7 @@ bool Fails(const char* name) {
 
 // Whether a call for `size` bytes succeeds, perhaps for half of them.
 bool Does(const char* name, std::size_t& size) {
-  if (!fault.counts || !fault.isShort || fault.calls + 1 != fault.call || size < 2)
+  if (!fault.isCounting || !fault.isShort || fault.calls + 1 != fault.call || size < 2)
     return !Fails(name);
   fault.isShort = false;
   fault.name = name;
@@ -125,23 +125,24 @@ class Saving : public support::TempApp {
   Saving() { fs::create_directory(path("Config")); }
 
   // Runs a start, a change by another program, and a save, with a fault; in a child process if the
-  // fault kills it. Returns the number of system calls.
+  // fault kills it. Returns the number of system calls, or nothing of use if the fault
+  // kills.
   static int run(const std::string& change, std::size_t plays, const Fault& with = {}) {
     const bool kills = with.call > 0 && with.error == 0;
     const pid_t child = kills ? fork() : 0;
     if (child != 0) return waitpid(child, nullptr, 0);
     startup::FillSharedState();
     fault = with;
-    fault.counts = true;
+    fault.isCounting = true;
     config::Adopt(config::LoadConfigFile(AppFolder));
-    fault.counts = false;
+    fault.isCounting = false;
     if (!change.empty()) write(kFile, change);
     Module1::PlayLog.fill({});
     for (std::size_t play = 0; play < plays; ++play)
       Module1::PlayLog[play] = {std::string(99, 'g'), "1", "30"};
-    fault.counts = true;
+    fault.isCounting = true;
     config::WriteConfigFile();
-    fault.counts = false;
+    fault.isCounting = false;
     if (kills) _exit(0);
     return fault.calls;
   }
@@ -205,24 +206,24 @@ TEST_F(Saving, AFaultAtAnySystemCallLeavesTheOldTextOrTheNewOrACopy) {
     struct stat status {};
     ASSERT_EQ(stat(path(kFile).c_str(), &status), 0);
     EXPECT_LT(status.st_blocks * 512, status.st_size + 4096) << what << ": no room is kept";
-    for (auto fault : kinds)
-      for (fault.call = 1; fault.call <= calls; ++fault.call, ++faults) {
-        SCOPED_TRACE(std::string(what) + ", call " + std::to_string(fault.call) + ", error " +
-                     std::to_string(fault.error) + (fault.lasts ? ", lasting" : "") +
-                     (fault.isShort ? ", short" : ""));
+    for (auto kind : kinds)
+      for (kind.call = 1; kind.call <= calls; ++kind.call, ++faults) {
+        SCOPED_TRACE(std::string(what) + ", call " + std::to_string(kind.call) + ", error " +
+                     std::to_string(kind.error) + (kind.lasts ? ", lasting" : "") +
+                     (kind.isShort ? ", short" : ""));
         prepare();
-        run(change, plays, fault);
+        run(change, plays, kind);
         // Checks the file after the fault, and after another save without a fault.
         for (const bool again : {false, true}) {
           const auto now = stored();
-          const bool isAsBefore = fault.error == 0 && now == WithoutEmptyLines(old);
+          const bool isAsBefore = kind.error == 0 && now == WithoutEmptyLines(old);
           EXPECT_TRUE(now == saved ||
                       (lost.empty() || isLink ? !exists(kFile) : isKept(lost) || isAsBefore))
               << again << now;
-          if (again || fault.error == 0) break;
+          if (again || kind.error == 0) break;
           const bool isTriedAgain =
-              ::fault.name == "stat" || ::fault.name == "write" || ::fault.name == "sync";
-          EXPECT_TRUE(now == saved || fault.lasts || !isTriedAgain) << ::fault.name << now;
+              fault.name == "stat" || fault.name == "write" || fault.name == "sync";
+          EXPECT_TRUE(now == saved || kind.lasts || !isTriedAgain) << fault.name << now;
           config::WriteConfigFile();
           EXPECT_EQ(stored(), WithoutEmptyLines(EncodeCodePage(config::ConfigText())));
           EXPECT_FALSE(now == WithoutEmptyLines(lost) && exists("Config/Kestrivane.ini.unread2"));
@@ -241,7 +242,7 @@ TEST_F(Saving, AFileThatAnotherProgramHasLockedIsReadButNotWritten) {
   EXPECT_ANY_THROW(WriteBytes(file, "new"));
   EXPECT_EQ(ReadBytes(file), "old");
   flock(other, LOCK_SH);
-  EXPECT_ANY_THROW(WriteBytes(file, "new")) << "a reader's";
+  EXPECT_ANY_THROW(WriteBytes(file, "new")) << "a reader holds the lock";
   flock(other, LOCK_EX);
   FilePatience() = std::chrono::seconds(20);
   std::thread unlocking([other] {

@@ -1,5 +1,6 @@
 # To be sourced: functions that start the front-end and use and watch it from outside. They have a
-# private folder, $work. When the script ends, everything that they started is stopped.
+# private folder, $work. When the script ends, the display, the front-end in $front_end and
+# its emulator are stopped; a script that starts a second front-end stops the first itself.
 . "$(dirname "${BASH_SOURCE[0]}")/display.sh"
 
 main_title="Kestrivane UI®  (Kestrivane 0.3a detected)"

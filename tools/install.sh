@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing for the tasks named: build, package (the archive with
 # Qt), demo, display, test, windows (the logic's tests under wine), qt-windows, fuzz, tidy, spoken,
-# contrast, bench, fresh (a bare system). If it can't install anything, it names the packages in one
-# line and fails.
+# contrast, bench, fresh (a bare system). Without apt-get, or the right to use it, it names the
+# packages in one line and fails.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

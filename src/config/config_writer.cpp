@@ -15,8 +15,6 @@
 namespace config {
 namespace {
 
-using core::OptionSlot;
-
 constexpr std::size_t kUserFolders = 3;
 
 void AddLine(std::string& text, std::string_view line = {}) {

@@ -5,8 +5,8 @@
 
 namespace launch {
 
-// Runs a command, without a shell, to its end. Returns its standard output, or an empty text on
-// failure.
+// Runs a command, without a shell, to its end. Returns its standard output, at most 16 MB of
+// it, or an empty text on failure.
 std::string ShellExecuteCapture(const std::string& sCommandLine, bool bShowWindow = true);
 
 // Opens a web address in the system's browser. Does nothing on failure.

@@ -9,8 +9,9 @@
 namespace support {
 namespace {
 
-// The area of a label's text, in the label's coordinates. One line that is too long is drawn
-// smaller, and room below the line counts only if a letter reaches there.
+// The area of a label's text, in the label's coordinates. A single line that is too wide is
+// measured at 80 percent, the smallest size that a label draws. Below the baseline it counts only
+// as far as its letters reach.
 QRect TextOf(const QLabel& label) {
   const auto text = label.text();
   const bool isOneLine = !label.wordWrap() && !text.contains('\n');

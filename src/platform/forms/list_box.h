@@ -11,14 +11,15 @@ enum class Sorting { No, IgnoringCase };
 
 // Rows of text, each with an integer that stays with its row. At most one row is selected; only the
 // program can remove the selection. If no row is selected, entering the list by the Tab key selects
-// one. Functions throw if there is no such row.
+// one. Functions throw if there is no such row; but setTopRow scrolls as far as it can, and select
+// takes any negative row as none.
 class ListBox : public Control {
  public:
   ListBox(Container& parent, const char* name, const Box& box, Sorting sorting = Sorting::No,
           const FontStyle& font = {});
 
-  // These four raise no event. Removing the selected row leaves none selected. A list that becomes
-  // empty loses its tool tip.
+  // These functions raise no click; onScroll may follow if the list gets shorter. Removing the
+  // selected row leaves none selected. A list that becomes empty loses its tool tip.
   void clear();
   int add(const std::string& text);  // returns the new row's number
   void remove(int row);
@@ -35,7 +36,7 @@ class ListBox : public Control {
   void setItemData(int row, int data);
 
   int selectedRow() const;  // -1 for none
-  void select(int row);     // -1 for none; a change raises the click
+  void select(int row);     // -1 for none; another row than before raises the click
   int topRow() const;
   void setTopRow(int row);
 

@@ -1,5 +1,6 @@
 // Saving and restoring: stages the values of the controls, stores them in the row of the scope,
-// writes the file; restoring removes the row of a game.
+// writes the file; restoring removes the first row of a game and moves the last row of the table
+// there.
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,7 +39,7 @@ std::vector<core::Slot> Form2::StageOptions() {
   const auto [width, height] = video_.StagedResolution();
   stage(core::option::XResolution, width);
   stage(core::option::YResolution, height);
-  // The values that the advanced dialog staged are stored by a global save.
+  // Only a global save stores what the advanced dialog staged; after another it stays staged.
   for (auto slot = core::kFirstAdvancedSlot; slot < core::kPerGameSlots; ++slot)
     if (isGlobal() && !Module1::StagedOptions[slot].empty()) staged.push_back(slot);
   return staged;
@@ -59,7 +60,8 @@ void Form2::StoreOptions(const std::vector<core::Slot>& staged) {
   }
 }
 
-// The row that the save writes to. Null for a game that the configuration file can't hold.
+// The row that the save writes to, added if the game has none. Null for a game that the
+// configuration file can't hold.
 core::Profile* Form2::RowInHand() {
   if (isGlobal()) return &Module1::Profiles[1];
   const auto& name = game().RomName;
