@@ -22,13 +22,8 @@ std::string Joined(std::string_view folder, std::string_view name) {
 }
 
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending) {
-  bool any = false;
-  for (const auto& name : FileNames(folder)) {
-    if (!base::FoldCase(name).ends_with(ending)) continue;
-    any = true;
-    DeleteFile(Joined(folder, name));
-  }
-  if (!any) throw base::Failure("no such file");
+  for (const auto& name : FileNames(folder))
+    if (base::FoldCase(name).ends_with(ending)) DeleteFile(Joined(folder, name));
 }
 
 }  // namespace platform

@@ -44,7 +44,7 @@ void MakeFolder(std::string_view path);
 void DeleteFile(std::string_view path);
 
 // Deletes the files in the folder whose names end in `ending`, in any letter case. `ending` itself
-// is in lower case. Throws if there is none, and at the first that can't be deleted.
+// is in lower case. Throws at the first that can't be deleted.
 void DeleteFilesEndingIn(std::string_view folder, std::string_view ending);
 
 // In bytes. A longer text is not read, and not put back if a save fails.
