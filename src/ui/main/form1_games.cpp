@@ -85,7 +85,7 @@ void Form1::RefreshGameList() {
   lstGames.clear();
 
   int count = 0;
-  for (std::size_t row = 0; row + core::kSpareGameRows < Module1::GameCatalog.size(); ++row) {
+  for (std::size_t row = 0; row + 1 < Module1::GameCatalog.size(); ++row) {
     const auto& game = Module1::GameCatalog[row];
     if (game.Title.empty() || !(game.Available || optGames[0].selected())) continue;
     const int place = lstGames.add(game.Title);
